@@ -1,0 +1,36 @@
+#include "app/Ecrans.h"
+
+#include "planecams/screens/DatoCama.h"
+#include "studies/screens/Resultat.h"
+
+#include <algorithm>
+
+namespace {
+
+/// A data screen, which calculates a study and is given up.
+template <class Ecran> QWidget* CreeSaisie(const DemandesEcran& demandes) {
+    auto* ecran = new Ecran;
+    QObject::connect(ecran, &Ecran::EtudeCalculee, ecran, demandes.etudeCalculee);
+    QObject::connect(ecran, &Ecran::Quitte, ecran, demandes.quitte);
+    return ecran;
+}
+
+QWidget* CreeResultat(const DemandesEcran& demandes) {
+    auto* ecran = new Resultat;
+    QObject::connect(ecran, &Resultat::EtudeRecalculee, ecran, demandes.etudeRecalculee);
+    QObject::connect(ecran, &Resultat::Quitte, ecran, demandes.quitte);
+    return ecran;
+}
+
+constexpr EcranEnfant LesEcrans[] = {
+    {"DatoCama", "Retour", CreeSaisie<DatoCama>},
+    {"Resultat", "Quitter", CreeResultat},
+};
+
+} // namespace
+
+const EcranEnfant* TrouveEcran(std::string_view nom) {
+    const auto ecran =
+        std::find_if(std::begin(LesEcrans), std::end(LesEcrans), [nom](const EcranEnfant& e) { return nom == e.nom; });
+    return ecran == std::end(LesEcrans) ? nullptr : ecran;
+}

@@ -1,0 +1,306 @@
+#include "app/MdiCamA.h"
+
+#include "app/Aide.h"
+#include "app/CameType.h"
+#include "app/Ecrans.h"
+#include "app/Propos.h"
+#include "data/Demarrage.h"
+#include "laws/CalculLois.h"
+#include "studies/FichierEtude.h"
+#include "studies/screens/Resultat.h"
+#include "widgets/Application.h"
+#include "widgets/Chaines.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QStatusBar>
+
+#include <utility>
+
+namespace {
+
+enum NumerosTexte {
+    TexteRienASauver = 23,
+    TexteNouvelleEtude = 80,
+    TexteTitreResultats = 118,
+    TextePret = 119,
+    TexteEtudeCalculee = 121,
+    TexteEtudeOuverte = 122,
+    TexteTitreOuvrir = 125,
+    TexteFichierEnregistre = 127,
+    TexteLectureImpossible = 128,
+    TexteEcritureImpossible = 129,
+    TexteConfigurationSauvee = 130,
+    TexteRotation = 435,
+};
+
+/// The child screens in the order in which they are closed.
+constexpr const char* OrdreFermeture[] = {
+    "DatoCama",
+    "Resultat",
+    "DoProfil",
+    "DoCyl",
+    "DoCylOsc",
+    "CameType",
+    "LoiMouv",
+    "LoisLiq",
+    "LoiSpe",
+    "LoiHes",
+    "LoiMSHDis",
+    "QuelLoi",
+    "QuelLoiSpe",
+    "Persona",
+    "GlobiqueIndexeur",
+    "GlobiqueOscillateur",
+    "CylindriqueIndexeur",
+    "CamesConjugeesOscillation",
+    "CamesConjugueesIndexeur",
+};
+
+/// Size that the window opens at, where the display has room for it.
+constexpr QSize TailleFenetre(1320, 900);
+
+/// An empty study record. The catalogue of laws lives as long as the program, but a law file leaves a single row of it,
+/// which ends with its study.
+void VideEtude() {
+    Etude vide;
+    vide.TypeCame = etude.TypeCame;
+    std::swap(vide.ListeLois, etude.ListeLois);
+    vide.NombreLois = etude.NombreLois;
+    etude = std::move(vide);
+    if (etude.ListeLois.BorneHaute() < 1 || etude.ListeLois[1].NomLoi == NomLoiFichier) ChargeLois();
+}
+
+/// The data screen of the present study's kind.
+std::string EcranDeSaisie() {
+    for (const ChoixEtude& choix : LesChoixEtude())
+        if (choix.typeCame && choix.typeCame == etude.TypeCame) return choix.ecran;
+    return {};
+}
+
+} // namespace
+
+MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new QMdiArea), etat_(new QLabel) {
+    setObjectName(QStringLiteral("MdiCamA"));
+    bureau_->setObjectName(QStringLiteral("Bureau"));
+    bureau_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    bureau_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(bureau_);
+    etat_->setObjectName(QStringLiteral("Etat"));
+    etat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long message does not widen the window
+    statusBar()->addWidget(etat_, 1);
+    ConstruitMenus();
+    ConstruitBarre();
+    AjouteAide(*this);
+    AppliqueTextes();
+    const std::vector<QAction*> marques = MarquesImpression();
+    for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
+    Annonce(Texte(TextePret));
+    resize(TailleFenetre.boundedTo(screen()->availableSize()));
+}
+
+void MdiCamA::Annonce(const std::string& texte) {
+    etat_->setText(Q(texte));
+    etat_->setToolTip(Q(texte));
+}
+
+// ---- commands
+
+void MdiCamA::Nouveau() {
+    if (RotationEmpeche()) return;
+    CameType choix(this);
+    if (choix.exec() == QDialog::Accepted) CommenceEtude(*choix.Choisi());
+}
+
+void MdiCamA::CommenceEtude(const ChoixEtude& choix) {
+    const Sablier sablier;
+    FermeEcrans();
+    VideEtude();
+    if (choix.typeCame) etude.TypeCame = choix.typeCame;
+    OuvreEcran(choix.ecran);
+    etude.Erreur = Faux;
+    Annonce(Texte(TexteNouvelleEtude));
+}
+
+void MdiCamA::Ouvrir() {
+    OuvreParType(nullptr);
+}
+
+void MdiCamA::OuvreParType(const TypeEtude* type) {
+    if (RotationEmpeche()) return;
+    FermeEcrans();
+    DemandeFichier demande{Texte(TexteTitreOuvrir), CheminAppli / NomDossierEtudes, {}, {}};
+    for (const TypeEtude& t : LesTypesEtude())
+        if (type ? &t == type : t.Disponible()) demande.filtres.push_back(FiltreEtude(t));
+    if (type) demande.titre += " " + Texte(type->titre);
+    const auto chemin = LesDialogues().FichierAOuvrir(demande);
+    if (chemin && !chemin->empty()) OuvreFichier(*chemin);
+}
+
+void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
+    const Sablier sablier;
+    const std::string nom = S(QChemin(chemin.filename()));
+    VideEtude();
+    try {
+        if (!LitFichierEtude(chemin)) return;
+    } catch (const ErreurExecution& erreur) {
+        Annonce(Texte(TexteLectureImpossible) + " " + nom + " : " + SensErreur(erreur));
+        return;
+    }
+    CalculeEtude();
+    if (!SansErreur()) return;
+    etude.ResultatsPrets = Vrai;
+    MontreResultats();
+    Annonce(Texte(TexteEtudeOuverte) + " " + nom);
+}
+
+void MdiCamA::Sauvegarder() {
+    if (!etude.EtudeModifiee) {
+        LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
+        return;
+    }
+    try {
+        if (!DonneesDepart()) return;
+        Annonce(Texte(TexteFichierEnregistre) + " " + etude.NomFichier);
+        if (QWidget* resultat = EcranOuvert("Resultat"))
+            resultat->setWindowTitle(Q(etude.NomFichier + " " + Texte(TexteTitreResultats)));
+    } catch (const ErreurExecution& erreur) {
+        Annonce(Texte(TexteEcritureImpossible) + " " + erreur.detail);
+        throw;
+    }
+}
+
+void MdiCamA::MontrePropos() {
+    Propos(this).exec();
+}
+
+void MdiCamA::SauveConfiguration() {
+    Configuration configuration;
+    const std::vector<QAction*> marques = MarquesImpression();
+    for (std::size_t i = 0; i < marques.size(); ++i) configuration.imprime.at(i) = marques[i]->isChecked();
+    configuration.langue = LangueTravail;
+    EcritConfiguration(CheminAppli / NomConfiguration, configuration);
+    Annonce(Texte(TexteConfigurationSauvee));
+}
+
+void MdiCamA::ChangeLangue(const std::string& langue) {
+    if (RotationEmpeche()) return AppliqueTextes(); // the mark goes back to the language in use
+    LangueTravail = langue;
+    ChargeTextes(LaBase);
+    AppliqueTextes();
+    FermeEcrans();
+    ChoisitAide();
+    Annonce(Texte(TextePret));
+}
+
+void MdiCamA::Quitter() {
+    close();
+}
+
+void MdiCamA::closeEvent(QCloseEvent* evenement) {
+    FermeEcrans();
+    evenement->accept();
+}
+
+// ---- child screens
+
+void MdiCamA::RefuseSiRotation() {
+    etude.Erreur = Faux;
+    if (!etude.RotationEnCours) return;
+    LesDialogues().Message(Icone::Information, Texte(TexteRotation));
+    if (auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat"))) resultat->MontreRotation();
+    etude.Erreur = Vrai;
+}
+
+bool MdiCamA::RotationEmpeche() {
+    RefuseSiRotation();
+    const bool refuse = !SansErreur();
+    etude.Erreur = Faux; // the results on the screen are as good as before
+    return refuse;
+}
+
+void MdiCamA::FermeEcrans() {
+    for (const char* nom : OrdreFermeture) FermeEcran(nom);
+}
+
+QWidget* MdiCamA::EcranOuvert(const std::string& nom) const {
+    const auto trouve = ecrans_.find(nom);
+    return trouve == ecrans_.end() || !trouve->second ? nullptr : trouve->second->widget();
+}
+
+void MdiCamA::FermeEcran(const std::string& nom) {
+    const auto trouve = ecrans_.find(nom);
+    if (trouve == ecrans_.end()) return;
+    const QPointer<QMdiSubWindow> sousFenetre = trouve->second;
+    ecrans_.erase(trouve);
+    if (!sousFenetre) return;
+    etude.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
+    sousFenetre->removeEventFilter(this);
+    sousFenetre->hide();
+    bureau_->removeSubWindow(sousFenetre);
+    sousFenetre->deleteLater(); // the request may come out of one of its own buttons
+}
+
+QWidget* MdiCamA::OuvreEcran(const std::string& nom) {
+    const EcranEnfant* ecran = TrouveEcran(nom);
+    if (!ecran) return nullptr;
+    FermeEcran(nom);
+    QWidget* contenu = ecran->cree({.etudeCalculee = [this] { MontreResultats(); },
+                                    .etudeRecalculee = [this] { Annonce(Texte(TexteEtudeCalculee)); },
+                                    .quitte = [this, ecran] { QuitteEcran(*ecran); }});
+    QMdiSubWindow* sousFenetre = bureau_->addSubWindow(contenu, Qt::SubWindow);
+    sousFenetre->setSystemMenu(nullptr); // its entries are not in the working language
+    sousFenetre->installEventFilter(this);
+    ecrans_[nom] = sousFenetre;
+    PlaceSousFenetre(*sousFenetre);
+    sousFenetre->show();
+    return contenu;
+}
+
+void MdiCamA::PlaceSousFenetre(QMdiSubWindow& sousFenetre) {
+    const QSize besoin = sousFenetre.sizeHint();
+    const QSize manque = (besoin - bureau_->viewport()->size()).expandedTo({0, 0});
+    if (!isMaximized() && !manque.isNull()) resize((size() + manque).boundedTo(screen()->availableSize()));
+    const QSize place = bureau_->viewport()->size();
+    sousFenetre.resize(besoin.boundedTo(place));
+    sousFenetre.move((place.width() - sousFenetre.width()) / 2, (place.height() - sousFenetre.height()) / 2);
+}
+
+void MdiCamA::MontreResultats() {
+    const auto saisie = ecrans_.find(EcranDeSaisie());
+    if (saisie != ecrans_.end() && saisie->second) saisie->second->hide();
+    auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat"));
+    if (!resultat) resultat = qobject_cast<Resultat*>(OuvreEcran("Resultat"));
+    resultat->Montre();
+    Annonce(Texte(TexteEtudeCalculee));
+}
+
+void MdiCamA::QuitteEcran(const EcranEnfant& ecran) {
+    const bool resultats = ecran.nom == std::string_view("Resultat");
+    FermeEcran(ecran.nom);
+    if (!resultats) return Annonce(Texte(TextePret));
+    const auto saisie = ecrans_.find(EcranDeSaisie());
+    if (saisie == ecrans_.end() || !saisie->second)
+        OuvreEcran(EcranDeSaisie()); // the study came from a file
+    else
+        saisie->second->show();
+}
+
+bool MdiCamA::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::ToolTip) return true; // those of the title bar are not in the working language
+    if (evenement->type() != QEvent::Close) return QMainWindow::eventFilter(objet, evenement);
+    // The cross of a child window is its way back, with all that the screen does then.
+    for (const auto& [nom, sousFenetre] : ecrans_)
+        if (sousFenetre == objet) {
+            evenement->ignore();
+            const QString bouton = QString::fromLatin1(TrouveEcran(nom)->boutonRetour);
+            if (auto* retour = sousFenetre->findChild<QAbstractButton*>(bouton)) retour->click();
+            return true;
+        }
+    return QMainWindow::eventFilter(objet, evenement);
+}

@@ -1,0 +1,100 @@
+#include "batch/CommandeLoi.h"
+
+#include "batch/JsonEtude.h"
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+
+#include <charconv>
+#include <ostream>
+
+namespace {
+
+constexpr double Symetrique = 0.5;
+
+struct Demande {
+    std::string nomLoi;
+    std::int16_t points = 0;
+    double symetrie = Symetrique;
+
+    /// The laws of rise and return have an evaluation of their own.
+    bool Msh() const { return nomLoi.starts_with("MSH"); }
+};
+
+std::int16_t LitPoints(const std::string& texte) {
+    std::int16_t points = 0;
+    const auto fin = texte.data() + texte.size();
+    const auto [arret, echec] = std::from_chars(texte.data(), fin, points);
+    if (echec != std::errc() || arret != fin || points < 1)
+        throw UsageIncorrect("loi: --points takes a whole number from 1 to 32767");
+    return points;
+}
+
+double LitSymetrie(const std::string& texte) {
+    const double symetrie = EstNombre(texte) ? Val(texte) : -1.0;
+    if (symetrie < 0.0 || symetrie > 1.0) throw UsageIncorrect("loi: --symetrie takes a number from 0 to 1");
+    return symetrie;
+}
+
+Demande LitDemande(const LigneCommande& ligne) {
+    if (ligne.arguments.size() != 1) throw UsageIncorrect("loi: one law name is needed");
+    if (ligne.points.empty()) throw UsageIncorrect("loi: --points N is needed");
+    Demande demande{ligne.arguments.front(), LitPoints(ligne.points)};
+    if (!ligne.symetrie.empty()) demande.symetrie = LitSymetrie(ligne.symetrie);
+    if (demande.Msh() && demande.symetrie != Symetrique) throw UsageIncorrect("loi: the MSH laws take no --symetrie");
+    return demande;
+}
+
+/// Fills `LoiUnite`, and `ligne` with the catalogue row that was used.
+void CalculeTable(const Demande& demande, Loi& ligne) {
+    etude.NombrePoints = demande.points;
+    if (demande.Msh()) {
+        const std::int16_t numero = ChercheLoi(demande.nomLoi);
+        if (numero == 0) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, demande.nomLoi);
+        ligne = etude.ListeLois[numero];
+        PrepareLoiMSH(ligne);
+        CalculeLoiMSH();
+        return;
+    }
+    etude.NombreZones = 1;
+    etude.Zones.Redimensionne(1);
+    etude.Zones[1].NomLoi = demande.nomLoi;
+    etude.Zones[1].AngleCame = demande.points;
+    etude.Zones[1].CoefSymetrie = demande.symetrie;
+    AppliqueLoi(1);
+    // A custom percentage overwrites the row whose number is that of the zone.
+    ligne = etude.ListeLois[EstLoiSpe(demande.nomLoi) ? std::int16_t{1} : ChercheLoi(demande.nomLoi)];
+}
+
+} // namespace
+
+int CommandeLoi(const LigneCommande& ligne, std::ostream& sortie, std::ostream&) {
+    const Demande demande = LitDemande(ligne);
+    etude = Etude{};
+    ChargeLois();
+    DialoguesCollecte dialogues(ligne.oui);
+    Loi loi;
+    std::string echec;
+    try {
+        CalculeTable(demande, loi);
+    } catch (const ErreurExecution& erreur) {
+        etude.LoiUnite = {};
+        echec = SensErreur(erreur);
+    }
+
+    Json objet = Json::object();
+    objet["NomLoi"] = demande.nomLoi;
+    objet["Erreur"] = etude.Erreur;
+    objet["messages"] = JsonMessages(dialogues);
+    if (!echec.empty()) objet["echec"] = echec;
+    const auto coefficient = [&](double valeur) { return echec.empty() ? Json(valeur) : Json(); };
+    objet["Ca"] = coefficient(loi.Ca);
+    objet["Cv"] = coefficient(loi.Cv);
+    objet["CoefA"] = coefficient(loi.CoefA);
+    objet["CoefB"] = coefficient(loi.CoefB);
+    objet["CoefC"] = coefficient(loi.CoefC);
+    objet["CoefD"] = coefficient(loi.CoefD);
+    objet.update(JsonLoi(etude.LoiUnite));
+    EcritJson(sortie, objet);
+    sortie << "\n";
+    return echec.empty() ? 0 : 1;
+}

@@ -1,0 +1,88 @@
+#include "batch/Commandes.h"
+
+#include "batch/CommandeEtude.h"
+#include "batch/CommandeLoi.h"
+#include "core/FichierEntier.h"
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <ostream>
+#include <sstream>
+
+namespace {
+
+struct CommandeBatch {
+    const char* nom;
+    const char* usage;
+    const char* sens;
+    int (*execute)(const LigneCommande& ligne, std::ostream& sortie, std::ostream& erreurs);
+};
+
+constexpr CommandeBatch commandes[] = {
+    {"etude", "etude FILE...", "calculates study files, one JSON object a line", CommandeEtude},
+    {"loi", "loi NAME --points N", "the unit table of a law, as a JSON object", CommandeLoi},
+};
+
+void EcritAide(std::ostream& sortie) {
+    const auto ligne = [&](const std::string& usage, const char* sens) {
+        sortie << "  " << std::left << std::setw(24) << usage << sens << "\n";
+    };
+    sortie << "velorin-batch: the calculations of Velorin without its screens\n\nCommands\n";
+    for (const auto& commande : commandes) ligne(commande.usage, commande.sens);
+    sortie << "\nOptions\n";
+    for (const auto& option : LesOptions())
+        ligne(std::string(option.nom) + (option.valeur == nullptr ? "" : std::string(" ") + option.valeur),
+              option.sens);
+    sortie << "\nExit status\n"
+              "  0 calculated; 1 refused or failed, \"echec\" in the object says why; 2 wrong usage, or a file that\n"
+              "  cannot be opened. Of several files all are calculated, and the worst status is returned.\n";
+}
+
+/// The working language of the desktop program: the eighth line of its configuration.
+std::string LangueConfiguree(const std::filesystem::path& configuration) {
+    std::istringstream lignes(LitFichierEntier(configuration));
+    std::string langue;
+    for (int i = 0; i < 8; ++i)
+        if (!std::getline(lignes, langue)) throw ErreurExecution(NumeroErreur::FinDeFichier, configuration.string());
+    if (!langue.empty() && langue.back() == '\r') langue.pop_back();
+    return langue;
+}
+
+/// Opens the catalogue beside other readers, and loads the texts.
+void OuvreCatalogue(const LigneCommande& ligne) {
+    CheminAppli = DossierExecutable();
+    LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? CheminAppli / NomBase : std::filesystem::path(ligne.base),
+                                MotDePasseBase, BaseDonnees::Usage::Lecture);
+    LangueTravail = ligne.langue.empty() ? LangueConfiguree(CheminAppli / "CameAng.cfg") : ligne.langue;
+    ChargeTextes(LaBase);
+    if (!ligne.langue.empty() && LangueTravail != ligne.langue)
+        throw UsageIncorrect("the catalogue has no language '" + ligne.langue + "'");
+}
+
+const CommandeBatch& TrouveCommande(const std::string& nom) {
+    if (nom.empty()) throw UsageIncorrect("which command? --aide lists them");
+    const auto commande =
+        std::find_if(std::begin(commandes), std::end(commandes), [&](const CommandeBatch& c) { return nom == c.nom; });
+    if (commande == std::end(commandes)) throw UsageIncorrect("unknown command '" + nom + "'; --aide lists them");
+    return *commande;
+}
+
+} // namespace
+
+int LanceCommande(const std::vector<std::string>& mots, std::ostream& sortie, std::ostream& erreurs) {
+    try {
+        const LigneCommande ligne = AnalyseLigne(mots);
+        if (ligne.aide) {
+            EcritAide(sortie);
+            return 0;
+        }
+        const CommandeBatch& commande = TrouveCommande(ligne.commande);
+        OuvreCatalogue(ligne);
+        return commande.execute(ligne, sortie, erreurs);
+    } catch (const std::exception& erreur) {
+        erreurs << "velorin-batch: " << erreur.what() << "\n";
+        return 2;
+    }
+}

@@ -1,0 +1,110 @@
+// The calculations that a user waits for, each beside its floor: a bare loop that makes as many of the same calls of
+// the mathematical library, on arguments of the same range.
+#include "Limites.h"
+
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+#include "studies/FichierEtude.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr long PasLoi = 3600;
+
+/// The worked example of the program, with `points` points around the cam.
+void PrepareEtude(long points) {
+    etude = Etude{};
+    ChargeLois();
+    LitFichierEtude(CheminAppli / NomDossierEtudes / "Exemple.Ang");
+    etude.PointsParDegre = Entier16(static_cast<double>(points) / 360.0);
+}
+
+void MesureAppliqueLoi(benchmark::State& etat, const char* nomLoi) {
+    etude = Etude{};
+    ChargeLois();
+    etude.Zones.Redimensionne(1);
+    etude.Zones[1].NomLoi = nomLoi;
+    etude.Zones[1].CoefSymetrie = 0.5;
+    etude.Zones[1].AngleCame = PasLoi;
+    for (auto _ : etat) {
+        AppliqueLoi(1);
+        benchmark::DoNotOptimize(etude.LoiUnite[PasLoi].Course);
+    }
+}
+
+/// One sine and one cosine a step, of an angle of a quarter wave.
+void PlancherLoi(benchmark::State& etat) {
+    for (auto _ : etat)
+        for (long i = 0; i <= PasLoi; ++i) {
+            const double angle = Pi / 2.0 * static_cast<double>(i) / PasLoi;
+            double sinus = std::sin(angle), cosinus = std::cos(angle);
+            benchmark::DoNotOptimize(sinus);
+            benchmark::DoNotOptimize(cosinus);
+        }
+}
+
+void MesureCameAngulaire(benchmark::State& etat) {
+    PrepareEtude(etat.range(0));
+    for (auto _ : etat) {
+        CalculeEtude();
+        benchmark::DoNotOptimize(etude.CoupleMax);
+    }
+    if (etude.NombrePoints != etat.range(0) || !SansErreur()) etat.SkipWithError("not calculated");
+}
+
+/// Angles in radians, of which a calculation takes sine and cosine together.
+struct Plage {
+    double debut, fin;
+};
+
+/// The seven pairs of a point of the worked example: unit law; direction of the roller arm, for the radius and again
+/// for its speed; arm, for the force point and again for the forces; cam angle; tangent.
+const Plage paires[] = {{0, Pi / 2},  {0.96, 1.31}, {0.96, 1.31},        {0.09, 0.44},
+                        {0.09, 0.44}, {0, 2 * Pi},  {Pi / 2, 5 * Pi / 2}};
+
+/// Besides its pairs a point takes one cosine of a large argument, an arctangent, a tangent and three square roots.
+void PlancherCameAngulaire(benchmark::State& etat) {
+    const long points = etat.range(0);
+    for (auto _ : etat)
+        for (long i = 0; i <= points; ++i) {
+            const double part = static_cast<double>(i) / static_cast<double>(points);
+            for (const Plage& plage : paires) {
+                const double angle = plage.debut + part * (plage.fin - plage.debut);
+                double sinus = std::sin(angle), cosinus = std::cos(angle);
+                benchmark::DoNotOptimize(sinus);
+                benchmark::DoNotOptimize(cosinus);
+            }
+            double autres[] = {std::cos((55.0 + 20.0 * part) * 180.0 / Pi),
+                               std::atan(part - 0.5),
+                               std::tan(part - 0.5),
+                               std::sqrt(part),
+                               std::sqrt(part + 1.0),
+                               std::sqrt(part + 2.0)};
+            benchmark::DoNotOptimize(autres);
+        }
+}
+
+BENCHMARK_CAPTURE(MesureAppliqueLoi, MS, "MS");
+BENCHMARK_CAPTURE(MesureAppliqueLoi, CYC, "CYC");
+BENCHMARK(PlancherLoi);
+BENCHMARK(MesureCameAngulaire)->Arg(3600)->Arg(32760)->Unit(benchmark::kMicrosecond);
+BENCHMARK(PlancherCameAngulaire)->Arg(3600)->Unit(benchmark::kMicrosecond);
+
+constexpr Limite limites[] = {
+    {"MesureAppliqueLoi/MS", "PlancherLoi", 1.5},
+    {"MesureAppliqueLoi/CYC", "PlancherLoi", 1.5},
+    {"MesureCameAngulaire/3600", "PlancherCameAngulaire/3600", 2.0},
+    {"MesureCameAngulaire/32760", "MesureCameAngulaire/3600", 1.3, 32760.0 / 3600.0},
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CheminAppli = VELORIN_DOSSIER;
+    LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture);
+    LangueTravail = "English";
+    ChargeTextes(LaBase);
+    return MesureEtCompare(argc, argv, limites);
+}

@@ -1,0 +1,3 @@
+#include "core/Etude.h"
+
+Etude etude;

@@ -1,0 +1,117 @@
+// The catalogue database `BaseDatos.Mdb`: one encrypted file opened with its password, and table-type recordsets over
+// it. No SQL stands outside this folder.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+struct sqlite3;
+
+/// A field's value: null, number or text.
+using Valeur = std::variant<std::monostate, double, std::string>;
+
+inline bool EstNul(const Valeur& v) {
+    return std::holds_alternative<std::monostate>(v);
+}
+/// A null reads as 0.
+/// @throws ErreurExecution type mismatch for a text.
+double EnNombre(const Valeur& v);
+/// A null reads as an empty text, a number as its shortest digits.
+std::string EnTexte(const Valeur& v);
+
+/// A field of a table to create.
+struct DefinitionChamp {
+    std::string nom;
+    bool numerique = false;
+};
+
+class JeuEnregistrements;
+
+class BaseDonnees {
+public:
+    enum class Usage {
+        Exclusif, ///< for writing, nobody else may have it open
+        Lecture,  ///< shared with other readers
+    };
+
+    BaseDonnees() = default;
+    ~BaseDonnees() { Ferme(); }
+    BaseDonnees(BaseDonnees&& autre) noexcept;
+    BaseDonnees& operator=(BaseDonnees&& autre) noexcept;
+
+    /// Opens an existing database.
+    /// @throws ErreurExecution file not found; access refused (another program holds it, or it cannot be written);
+    /// unreadable
+    ///         database (wrong password, damaged file).
+    static BaseDonnees Ouvre(const std::filesystem::path& chemin, const std::string& motDePasse, Usage usage);
+
+    /// Makes an empty database in place of one that may exist, for exclusive use.
+    static BaseDonnees Cree(const std::filesystem::path& chemin, const std::string& motDePasse);
+
+    bool EstOuverte() const { return base_ != nullptr; }
+    void Ferme();
+
+    /// All records of a table, in the order in which they were added.
+    /// @throws ErreurExecution unreadable database when there is no such table.
+    JeuEnregistrements OuvreTable(const std::string& table);
+
+    /// A new table; `cle` names the field of its index, whose values are unique.
+    void CreeTable(const std::string& table, const std::vector<DefinitionChamp>& champs, const std::string& cle);
+
+    /// Several changes as one: all of them or none.
+    void CommenceTransaction();
+    void ValideTransaction();
+
+private:
+    void Execute(const std::string& sql);
+
+    sqlite3* base_ = nullptr;
+};
+
+/// A walk over the records of one table, with a search on its index, and records added one by one. The recordset stands
+/// on one record, or past the last one (`FinFichier`).
+class JeuEnregistrements {
+public:
+    void VaAuPremier() { position_ = 0; }
+    void VaAuSuivant() { ++position_; }
+    bool FinFichier() const { return position_ >= lignes_.size(); }
+    long NombreEnregistrements() const { return static_cast<long>(lignes_.size()); }
+
+    /// Goes to the record whose indexed field equals `cle`; `NoMatch` tells whether there is one.
+    void Seek(const Valeur& cle);
+    bool NoMatch() const { return sansCorrespondance_; }
+
+    long NombreChamps() const { return static_cast<long>(champs_.size()); }
+    /// @param position from 0; outside is a run-time failure (subscript out of range).
+    const std::string& NomChamp(long position) const;
+    /// Value by field name or by position (from 0) in the present record.
+    /// @throws ErreurExecution subscript out of range for an unknown field or past the last record.
+    const Valeur& Champ(const std::string& nom) const;
+    const Valeur& Champ(long position) const;
+
+    /// Starts a new record; `Ecrit` fills its fields, `Update` stores it at once.
+    void AddNew();
+    void Ecrit(const std::string& nom, const Valeur& valeur);
+    /// @throws ErreurExecution access refused when the record cannot be stored (an existing key, a full disk).
+    void Update();
+
+private:
+    friend class BaseDonnees;
+    JeuEnregistrements(sqlite3* base, const std::string& table);
+    std::size_t PositionChamp(const std::string& nom) const;
+
+    sqlite3* base_;
+    std::string table_;
+    std::size_t positionCle_ = 0;
+    std::vector<std::string> champs_;
+    std::vector<std::vector<Valeur>> lignes_;
+    std::map<Valeur, std::size_t> index_;
+    std::size_t position_ = 0;
+    bool sansCorrespondance_ = true;
+    std::vector<Valeur> nouveau_;
+};

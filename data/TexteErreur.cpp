@@ -1,0 +1,35 @@
+// The meaning of each run-time failure, in the working language.
+#include "data/Textes.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Sens {
+    NumeroErreur numero;
+    int texte;
+};
+
+constexpr Sens sens[] = {
+    {NumeroErreur::AppelIncorrect, 709},    {NumeroErreur::Depassement, 710},
+    {NumeroErreur::IndiceHorsLimites, 712}, {NumeroErreur::DivisionParZero, 713},
+    {NumeroErreur::TypeIncompatible, 714},  {NumeroErreur::FichierIntrouvable, 716},
+    {NumeroErreur::EntreeSortie, 717},      {NumeroErreur::DisquePlein, 718},
+    {NumeroErreur::FinDeFichier, 719},      {NumeroErreur::AccesFichier, 721},
+    {NumeroErreur::ContenuInvalide, 725},   {NumeroErreur::ExtensionInconnue, 728},
+    {NumeroErreur::FichierTropGrand, 726},  {NumeroErreur::BaseIllisible, 730},
+    {NumeroErreur::BaseOccupee, 731},
+};
+
+} // namespace
+
+std::string SensErreur(const ErreurExecution& erreur) {
+    const auto s =
+        std::find_if(std::begin(sens), std::end(sens), [&](const Sens& e) { return e.numero == erreur.numero; });
+    if (s == std::end(sens)) return Texte(735) + " " + std::to_string(static_cast<int>(erreur.numero));
+    return Texte(s->texte) + (erreur.detail.empty() ? "" : " (" + erreur.detail + ")");
+}
+
+std::string TexteErreur(const ErreurExecution& erreur) {
+    return Texte(708) + " " + std::to_string(static_cast<int>(erreur.numero)) + "\n\n" + SensErreur(erreur);
+}

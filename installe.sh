@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that the build and the tests need, those that are missing.
+#   installe.sh [test]     with "test", also what only the tests and the checks need
+set -euo pipefail
+cd "$(dirname "$0")"
+paquets=(g++ cmake ninja-build pkg-config qt6-base-dev libgl-dev libsqlcipher-dev nlohmann-json3-dev
+         fonts-liberation fonts-dejavu-core)
+if [ "${1:-}" = test ]; then
+    paquets+=(libgtest-dev libbenchmark-dev clang-format clang-tidy git)
+fi
+manquants=()
+for paquet in "${paquets[@]}"; do
+    dpkg-query -W -f='${Status}' "$paquet" 2>/dev/null | grep -q 'install ok installed' || manquants+=("$paquet")
+done
+[ ${#manquants[@]} -eq 0 ] && exit 0
+sudo=
+[ "$(id -u)" -eq 0 ] || sudo=sudo
+$sudo apt-get update -qq
+DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${manquants[@]}"

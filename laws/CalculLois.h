@@ -1,0 +1,52 @@
+// Unit laws: lift s from 0 to 1 over the normalised cam angle x from 0 to 1, with its first two derivatives. All usual
+// laws are one family of four segments of the acceleration (sine rise, constant, cosine fall, none), told apart by four
+// shares of the interval; the law is built on 0 to 0.5 and mirrored. Asymmetry is a re-mapping of x around that family.
+//
+// The evaluation works on the study record and on module variables, and is not re-entrant.
+#pragma once
+
+#include "core/Etude.h"
+
+/// Fills `ListeLois` and `NombreLois` of the study record from the table `Lois`, in the order of the table.
+/// @throws ErreurExecution unreadable database.
+void ChargeLois();
+
+/// Evaluates the law of a zone into `LoiUnite`, with as many steps as the zone's `AngleCame` says.
+/// A custom percentage ("MS_Spe_ 5") overwrites the catalogue row whose number is that of the zone, and that row stays
+/// so.
+/// @param numeroZone 1..`NombreZones`
+/// @throws ErreurExecution subscript out of range for an unknown law; division by zero for no step, or a symmetry
+///         coefficient of 0; incorrect call for a custom name that cannot be cut.
+void AppliqueLoi(std::int16_t numeroZone);
+
+/// True for the name of a custom percentage: "Spe" at the second position or later.
+bool EstLoiSpe(const std::string& nomLoi);
+
+/// Subscript of the row of `ListeLois` whose name is exactly `nomLoi`, among 1..`NombreLois`; 0 when there is none.
+std::int16_t ChercheLoi(const std::string& nomLoi);
+
+/// The coefficients of the modified sine with a share of constant speed.
+/// @param pourcentage of the interval at constant speed, 0 to less than 100
+void CalculeCoefs(Loi& loi, double pourcentage);
+
+/// Fills the working fields of a row of `ListeLois`: the copies of its shares and the constants K1 to K7, which make s
+/// and v continuous from one segment to the next.
+void PrepareLoi(std::int16_t numeroLoi);
+
+/// The law at x, stretched over the zone's symmetry coefficient. `x` is overwritten with the re-mapped value.
+void EvalueLoiSymetrie(double& x);
+
+/// The symmetric law at x. `x` is overwritten with 1 - x in the second half.
+void EvalueLoi(double& x);
+
+/// Results of the last point evaluated, and the symmetry coefficient in use with its complement.
+extern double LoiCourse, LoiVitesse, LoiAccel;
+extern double CoefSym, CoefSymCompl;
+
+/// The rise-and-return law without dwell: rise over the first half of the points, its mirror image over the second.
+/// Reads `LoiEtude` (whose shares `PrepareLoiMSH` has arranged) and `NombrePoints`, fills `LoiUnite`. Speed and
+/// acceleration are per unit of the rise's share of the angle.
+void CalculeLoiMSH();
+
+/// Arranges the shares of a catalogue row of the MSH family in `LoiEtude` the way `CalculeLoiMSH` reads them.
+void PrepareLoiMSH(const Loi& ligne);

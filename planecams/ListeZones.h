@@ -1,0 +1,14 @@
+// The summary of the zones, a row each, as the data screens and the results show it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+std::vector<std::string> EntetesZones();
+
+/// True for the columns that hold a text.
+std::vector<bool> ColonnesTexteZones();
+
+/// Text of a cell, `ligne` and `colonne` from 0. Only the first `entrees` zones have their values yet.
+std::string CelluleZone(int ligne, int colonne, std::int16_t entrees);

@@ -1,0 +1,164 @@
+#include "planecams/MouvementCame.h"
+
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+#include "platform/Dialogues.h"
+
+#include <cmath>
+
+namespace {
+
+/// Follows the largest magnitude, and the cam angle at which it stands, in whole degrees.
+void SuitMaximum(double valeur, double angle, double& maximum, std::int16_t& angleMaximum) {
+    if (std::abs(valeur) > maximum) {
+        maximum = std::abs(valeur);
+        angleMaximum = Entier16(angle);
+    }
+}
+
+/// The points whose radius is too small for the roller, told in one box at the end.
+struct PointsTropPetits {
+    std::string liste;
+
+    void Controle(double rayon, long point) {
+        if (2.0 * etude.RayonGalet > rayon) liste += " ; " + Format(static_cast<double>(point), "###");
+    }
+
+    /// The study goes on all the same.
+    void Annonce() const {
+        if (liste.empty()) return;
+        LesDialogues().Message(Icone::Information, Texte(432) + liste + "\n\n" + Texte(433) + "\n" + Texte(434));
+    }
+};
+
+void RemetExtremes() {
+    // The maxima of the law and of the roller speed go on growing from one calculation to the next while the program
+    // runs.
+    etude.RayonMax = 0;
+    etude.RayonMin = 1e18;
+    etude.VitesseRayonMax = 0;
+    etude.AccelRayonMax = 0;
+}
+
+void SuitRayon(double rayon) {
+    if (rayon > etude.RayonMax) etude.RayonMax = rayon;
+    if (rayon < etude.RayonMin) etude.RayonMin = rayon;
+}
+
+/// Roller speed in Tr/min, rounded down: the roller runs on the profile at the radius of the cam there.
+void CalculeVitesseGalet(Point& p) {
+    p.VitesseGalet = Int(Divise((p.Rayon - etude.RayonGalet) * etude.VitesseCame, etude.RayonGalet));
+    if (p.VitesseGalet > etude.VitesseGaletMax) etude.VitesseGaletMax = p.VitesseGalet;
+}
+
+void CalculeVitesseGaletMoyenne() {
+    double somme = 0;
+    for (long k = 1; k <= etude.NombrePoints; ++k) somme += etude.Points[k].VitesseGalet;
+    etude.VitesseGaletMoyenne = Int(Divise(somme, etude.NombrePoints));
+}
+
+/// Speed and acceleration of the radius, from those of the arm. phi is the direction of O1-P; metres and seconds.
+void CalculeVitesseRayon(Point& p, const PointLoi& m) {
+    const double phi = (etude.AnglePO1A + p.AngleBras) * Pi / 180.0;
+    const double a = etude.CoteA / 1000.0, b = etude.CoteB / 1000.0;
+    const double L = etude.RayonO1P / 1000.0, R = p.Rayon / 1000.0;
+    const double s = std::sin(phi), c = std::cos(phi);
+    const double V = m.Vitesse, A = m.Accel;
+    p.VitesseRayon = V * ((c * b - s * a) * (-Divise(L, R)));
+    p.AccelRayon = (L / R) * (s * (V * V * b + A * a) + c * (V * V * a - A * b)) - p.VitesseRayon * p.VitesseRayon / R;
+    SuitMaximum(p.VitesseRayon, p.Angle, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
+    SuitMaximum(p.AccelRayon, p.Angle, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
+}
+
+/// The point on the arm, its speed and its acceleration. CoteA stands here in place of an arm length, on purpose.
+void CalculePointA(Point& p, const PointLoi& m) {
+    const double phi2 = p.AngleBras * Pi / 180.0;
+    const double s2 = std::sin(phi2), c2 = std::cos(phi2);
+    const double V = m.Vitesse, A = m.Accel;
+    p.XA = c2 * etude.CoteA;
+    p.YA = s2 * etude.CoteA;
+    p.VxA = -0.001 * etude.CoteA * V * s2;
+    p.VyA = 0.001 * etude.CoteA * V * c2;
+    p.VA = 0.001 * etude.CoteA * V;
+    p.AxA = -0.001 * etude.CoteA * (s2 * A + c2 * V * V);
+    p.AyA = 0.001 * etude.CoteA * (c2 * A - s2 * V * V);
+    p.AA = 0.001 * etude.CoteA * std::sqrt(A * A + V * V * V * V);
+}
+
+void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, double course, double depart, double T) {
+    m.Course = course * unite.Course + depart;
+    m.Vitesse = unite.Vitesse * (course * Pi / 180.0) / T;
+    m.Accel = unite.Accel * (course * Pi / 180.0) / (T * T);
+    if (std::abs(m.Course) > etude.LoiCourseMax) etude.LoiCourseMax = std::abs(m.Course);
+    SuitMaximum(m.Vitesse, p.Angle, etude.LoiVitesseMax, etude.LoiVitesseMaxAngle);
+    SuitMaximum(m.Accel, p.Angle, etude.LoiAccelMax, etude.LoiAccelMaxAngle);
+    p.AngleBras = m.Course;
+    p.Rayon = RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, p.AngleBras, etude.AnglePO1A);
+    SuitRayon(p.Rayon);
+    CalculeVitesseRayon(p, m);
+    CalculeVitesseGalet(p);
+    CalculePointA(p, m);
+}
+
+} // namespace
+
+double RayonGaletCentre(double a, double b, double L, double angle, double decalage) {
+    const double phi = (angle + decalage) * Pi / 180.0;
+    etude.Erreur = Faux;
+    const double c = std::cos(phi), s = std::sin(phi);
+    const double limite = Divise((a * a + b * b + L * L) / 2.0, L);
+    if (c * a + s * b <= limite) return std::sqrt(a * a + b * b + L * L - (c * a + s * b) * 2.0 * L);
+    etude.Erreur = Vrai;
+    return 0.0;
+}
+
+void CalculeRayonsZone(Zone& zone) {
+    zone.RayonDepart = RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, zone.AngleDepart, etude.AnglePO1A);
+    if (!SansErreur()) return;
+    zone.RayonFinal = RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, zone.AngleFinal, etude.AnglePO1A);
+}
+
+void CalculeMouvementBras() {
+    RemetExtremes();
+    PointsTropPetits tropPetits;
+    std::int16_t decalage = 0;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        // A law file has filled the unit law already, and left the catalogue with its one row.
+        if (etude.ListeLois[1].NomLoi != NomLoiFichier) AppliqueLoi(z);
+        const Zone& zone = etude.Zones[z];
+        const double course = CourseSignee(zone.AngleDepart, zone.AngleFinal);
+        if (z == 1) etude.Zones[0].AngleFinal = zone.AngleDepart;
+        const double depart = etude.Zones[z - 1].AngleFinal;
+        if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+        // The last point of a zone is written again by the first of the next.
+        for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
+            const long k = decalage + j;
+            Point& p = etude.Points[k];
+            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
+            CalculePointBras(p, etude.Mouvement[k], etude.LoiUnite[j], course, depart, zone.Temps);
+            tropPetits.Controle(p.Rayon, k);
+        }
+        decalage = Entier16(decalage + zone.AngleCame);
+    }
+    CalculeVitesseGaletMoyenne();
+    tropPetits.Annonce();
+}
+
+ZonesEnPoints::ZonesEnPoints() {
+    for (const Zone& zone : etude.Zones) degres_.push_back(zone.AngleCame);
+}
+
+ZonesEnPoints::~ZonesEnPoints() {
+    std::size_t z = 0;
+    for (Zone& zone : etude.Zones)
+        if (z < degres_.size()) zone.AngleCame = degres_[z++];
+}
+
+void ZonesEnPoints::Passe() {
+    etude.NombrePoints = 0;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        Zone& zone = etude.Zones[z];
+        zone.AngleCame = zone.AngleCame * etude.PointsParDegre;
+        etude.NombrePoints = Entier16(etude.NombrePoints + Arrondi(zone.AngleCame));
+    }
+}

@@ -1,0 +1,50 @@
+// From the zones to the point tables: motion of the follower, radius of the roller centre and its speeds.
+//
+// The mechanism of the oscillating arm: cam centre O at the origin, arm pivot O1 at (CoteA, CoteB) mm from it, roller
+// centre P on the arm at RayonO1P from O1, force point A at RayonO1A. The direction of O1-P is the arm angle plus
+// AnglePO1A.
+#pragma once
+
+#include "core/Etude.h"
+
+#include <string>
+
+/// Distance O-P for an arm of length `L` at `angle` + `decalage` degrees, its pivot at (a, b); lengths in mm.
+/// Clears `Erreur`; where no such distance exists it sets `Erreur` and gives 0.
+/// @throws ErreurExecution division by zero for an arm of length 0.
+double RayonGaletCentre(double a, double b, double L, double angle, double decalage);
+
+/// Signed travel of a zone, from its start value to its final value.
+inline double CourseSignee(double depart, double final) {
+    return final - depart;
+}
+
+/// The seconds that a zone of `angleCame` degrees lasts at `vitesseCame` Tr/min.
+/// @throws ErreurExecution division by zero for a cam at rest.
+inline double TempsZone(double angleCame, double vitesseCame) {
+    return Divise(angleCame, vitesseCame) / 6.0;
+}
+
+/// Radii of the roller centre at both ends of a zone of the arm cam, into its `RayonDepart` and `RayonFinal`. `Erreur`
+/// is set when either end cannot be reached.
+void CalculeRayonsZone(Zone& zone);
+
+/// Zones to `Mouvement` and `Points` of the arm cam, with the extreme values.
+void CalculeMouvementBras();
+
+/// Holds the extents of the zones in points for the length of a calculation. They are back in degrees when it is over,
+/// on every way out.
+class ZonesEnPoints {
+public:
+    ZonesEnPoints();
+    ~ZonesEnPoints();
+    ZonesEnPoints(const ZonesEnPoints&) = delete;
+    ZonesEnPoints& operator=(const ZonesEnPoints&) = delete;
+
+    /// Multiplies the extents by `PointsParDegre` and sums the rounded extents into `NombrePoints`.
+    /// @throws ErreurExecution overflow above 32767 points.
+    void Passe();
+
+private:
+    std::vector<double> degres_;
+};

@@ -1,0 +1,45 @@
+// The limits of what a designer may enter for a plane cam. The screens show the text and put the focus on the field at
+// fault.
+#pragma once
+
+#include "core/Etude.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+/// A scalar that cannot be calculated with: its member of the record, and the number of the text that says why.
+struct FauteDonnee {
+    double Etude::*membre;
+    int texte;
+};
+
+/// The first scalar of the arm cam at which the calculation could not but divide by zero; none when all will do.
+std::optional<FauteDonnee> ChercheFauteAngulaire();
+
+enum class ChampZone { Symetrie, NomLoi, AngleCame };
+
+struct FauteZone {
+    ChampZone champ;
+    std::string texte;
+};
+
+/// Checks what was entered for a zone: symmetry coefficient from 0 to 1, a law of the catalogue or a custom one, and a
+/// cam angle above 0.
+std::optional<FauteZone> ChercheFauteZone(const Zone& zone);
+
+/// Name of the catalogue row that needs a percentage.
+inline constexpr const char* NomLoiPourcentage = "MS_Spe";
+
+/// The name of the custom law of a percentage: the row's name, "_" and the number as `Str` writes it. None outside 1
+/// to 99.
+std::optional<std::string> NomLoiPersonnelle(double pourcentage);
+
+/// Points per degree that a study may have.
+inline constexpr std::int16_t PointsParDegrePermis[] = {1, 2, 4, 5, 8, 10};
+
+/// True for exactly the text of one of `PointsParDegrePermis`.
+bool EstPointsParDegre(const std::string& texte);
+
+/// True when the zones make more points than a 16-bit subscript reaches.
+bool TropDePoints(std::int16_t pointsParDegre);

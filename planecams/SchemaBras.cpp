@@ -1,0 +1,117 @@
+#include "planecams/SchemaBras.h"
+
+#include "core/Etude.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+/// A plane in mechanism units, y up, fitted into the middle of the surface.
+class Plan {
+public:
+    Plan(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge)
+        : dessin_(dessin), echelle_(std::min((dessin.Largeur() - 2 * marge) / (coinHaut.x - coinBas.x),
+                                             (dessin.Hauteur() - 2 * marge) / (coinHaut.y - coinBas.y))),
+          x0_(dessin.Largeur() / 2 - echelle_ * (coinBas.x + coinHaut.x) / 2),
+          y0_(dessin.Hauteur() / 2 + echelle_ * (coinBas.y + coinHaut.y) / 2) {}
+
+    PointDessin operator()(PointDessin p) const { return {x0_ + echelle_ * p.x, y0_ - echelle_ * p.y}; }
+    void Ligne(PointDessin a, PointDessin b, const Trait& t) { dessin_.Ligne((*this)(a), (*this)(b), t); }
+    void Cercle(PointDessin c, double r, const Trait& t) { dessin_.Cercle((*this)(c), r * echelle_, t); }
+    void Disque(PointDessin c, double r, const Trait& t) { dessin_.Disque((*this)(c), r * echelle_, t); }
+    void Nom(PointDessin p, const std::string& nom, Ancrage ancrage, bool accent) {
+        dessin_.Texte((*this)(p), nom, ancrage, 13, accent ? Couleur::Repere : Couleur::Texte);
+    }
+    void Contour(std::vector<PointDessin> points, const Trait& t, bool plein) {
+        for (auto& p : points) p = (*this)(p);
+        plein ? dessin_.Surface(points, t) : dessin_.Polyligne(points, t);
+    }
+    void Fleche(PointDessin de, PointDessin vers, const Trait& t);
+
+private:
+    Dessin& dessin_;
+    double echelle_, x0_, y0_;
+};
+
+PointDessin Polaire(PointDessin centre, double rayon, double degres) {
+    return {centre.x + rayon * std::cos(degres / RadDeg), centre.y + rayon * std::sin(degres / RadDeg)};
+}
+
+void Plan::Fleche(PointDessin de, PointDessin vers, const Trait& t) {
+    Ligne(de, vers, t);
+    const double angle = std::atan2(vers.y - de.y, vers.x - de.x) * RadDeg;
+    const double longueur = 7.0 / echelle_;
+    for (const double ecart : {160.0, -160.0}) Ligne(vers, Polaire(vers, longueur, angle + ecart), t);
+}
+
+std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a) {
+    std::vector<PointDessin> points;
+    for (int i = 0; i <= 40; ++i) points.push_back(Polaire(centre, rayon, de + (a - de) * i / 40));
+    return points;
+}
+
+/// A cam that touches the roller of radius `galet` at `P`, and swells on the far side.
+std::vector<PointDessin> ContourCame(PointDessin P, double galet) {
+    const double base = std::hypot(P.x, P.y) - galet, direction = std::atan2(P.y, P.x) * RadDeg;
+    std::vector<PointDessin> points;
+    for (int i = 0; i <= 120; ++i) {
+        const double angle = i * 3.0;
+        const double gonfle = (1 - std::cos((angle - direction - 25) / RadDeg)) / 2;
+        const double repos = (1 - std::cos(25 / RadDeg)) / 2;
+        points.push_back(Polaire({0, 0}, base + 20 * (gonfle - repos), angle));
+    }
+    return points;
+}
+
+} // namespace
+
+void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
+    constexpr double galet = 12, AngleBras = 8, AnglePO1A = 70;
+    const PointDessin O{0, 0}, O1{-75, -105};
+    const PointDessin P = Polaire(O1, 118, AngleBras + AnglePO1A), A = Polaire(O1, 125, AngleBras);
+    const Trait cote{Couleur::TexteDiscret, 1.0}, axe{Couleur::Graduation, 1.0, true};
+    const auto trait = [&](const char* nom, Trait ordinaire) {
+        return accent == nom ? Trait{Couleur::Repere, ordinaire.epaisseur + 1} : ordinaire;
+    };
+    Plan plan(dessin, {-118, -140}, {72, 62}, 10);
+
+    plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
+    plan.Ligne({-100, 0}, {66, 0}, axe);
+    plan.Ligne({0, -128}, {0, 58}, axe);
+    plan.Ligne({O1.x - 14, O1.y}, {62, O1.y}, axe);
+    plan.Ligne(O1, P, trait("O1-P", {Couleur::Bras, 2.2}));
+    plan.Ligne(O1, A, trait("O1-A", {Couleur::Bras, 2.2}));
+    plan.Disque(P, galet, trait("galet", {Couleur::Galet, 1.6}));
+    for (const auto& pivot : {O, O1, P, A}) plan.Disque(pivot, 2.6, {Couleur::Axe, 1.4});
+
+    plan.Fleche({(O.x + O1.x) / 2, -128}, {O1.x, -128}, trait("a", cote));
+    plan.Fleche({(O.x + O1.x) / 2, -128}, {O.x, -128}, trait("a", cote));
+    plan.Ligne(O1, {O1.x, -132}, cote);
+    plan.Fleche({-104, O1.y / 2}, {-104, O1.y}, trait("b", cote));
+    plan.Fleche({-104, O1.y / 2}, {-104, 0}, trait("b", cote));
+    plan.Ligne({O1.x, O1.y}, {-108, O1.y}, cote);
+    plan.Contour(Arc(O1, 38, AngleBras, AngleBras + AnglePO1A), trait("P-O1-A", cote), false);
+    plan.Contour(Arc(O1, 78, 0, AngleBras), cote, false);
+
+    plan.Nom({O1.x / 2, -136}, "a", Ancrage::Centre, accent == "a");
+    plan.Nom({-111, O1.y / 2}, "b", Ancrage::Centre, accent == "b");
+    plan.Nom({7, 9}, "O", Ancrage::Gauche, false);
+    plan.Nom({O1.x - 6, O1.y - 9}, "O1", Ancrage::Droite, false);
+    plan.Nom({P.x - 15, P.y + 6}, "P", Ancrage::Droite, accent == "galet" || accent == "O1-P");
+    plan.Nom({A.x + 3, A.y + 11}, "A", Ancrage::Gauche, accent == "O1-A");
+    plan.Nom({A.x - 34, A.y + 5}, "O1-A", Ancrage::Centre, accent == "O1-A");
+    plan.Nom({(O1.x + P.x) / 2 - 5, (O1.y + P.y) / 2 + 10}, "O1-P", Ancrage::Droite, accent == "O1-P");
+    const PointDessin nomAngle = Polaire(O1, 43, AngleBras + AnglePO1A / 2);
+    plan.Nom(nomAngle, "P-O1-A", Ancrage::Gauche, accent == "P-O1-A");
+    plan.Nom({O1.x + 81, O1.y + 6}, "(a)", Ancrage::Gauche, false);
+}
+
+void DessinePesanteur(Dessin& dessin, double angle) {
+    Plan plan(dessin, {-50, -50}, {50, 50}, 4);
+    plan.Cercle({0, 0}, 48, {Couleur::Graduation, 1.0});
+    plan.Ligne({-48, 0}, {48, 0}, {Couleur::Graduation, 1.0, true});
+    plan.Ligne({0, -48}, {0, 48}, {Couleur::Graduation, 1.0, true});
+    plan.Fleche(Polaire({0, 0}, 30, angle + 180), Polaire({0, 0}, 42, angle), {Couleur::Repere, 2.2});
+}

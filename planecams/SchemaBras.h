@@ -1,0 +1,13 @@
+// The small drawings of the data screens of plane cams: the mechanism with the names of its dimensions, and gravity.
+#pragma once
+
+#include "platform/Dessin.h"
+
+#include <string>
+
+/// The arm mechanism, not to scale, with its named dimensions.
+/// @param accent name of the dimension to set off ("a", "b", "O1-A", "O1-P", "P-O1-A", "galet"), or empty
+void DessineSchemaBras(Dessin& dessin, const std::string& accent);
+
+/// The direction of gravity: an arrow at `angle` degrees from the x axis, counter-clockwise.
+void DessinePesanteur(Dessin& dessin, double angle);

@@ -1,0 +1,143 @@
+// The cam centre O is the origin; the pivot O1 stands at (-CoteA, -CoteB), the roller centre P at RayonO1P from it in
+// the direction AnglePO1A plus the arm angle. The point of the pitch curve that belongs to the shown angle lies under
+// P.
+#include "studies/DessinCame.h"
+
+#include "core/Etude.h"
+#include "data/Textes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+PointDessin Polaire(PointDessin centre, double rayon, double radians) {
+    return {centre.x + rayon * std::cos(radians), centre.y + rayon * std::sin(radians)};
+}
+
+PointDessin Pivot() {
+    return {-etude.CoteA, -etude.CoteB};
+}
+
+PointDessin CentreGalet(long i) {
+    return Polaire(Pivot(), etude.RayonO1P, (etude.AnglePO1A + etude.Points[i].AngleBras) / RadDeg);
+}
+
+PointDessin PointA(long i) {
+    return Polaire(Pivot(), etude.RayonO1A, etude.Points[i].AngleBras / RadDeg);
+}
+
+/// What the drawing covers at any angle, so that the scale does not change while the cam turns.
+struct Etendue {
+    double gauche, bas, droite, haut;
+
+    void Contient(PointDessin p, double rayon) {
+        gauche = std::min(gauche, p.x - rayon);
+        droite = std::max(droite, p.x + rayon);
+        bas = std::min(bas, p.y - rayon);
+        haut = std::max(haut, p.y + rayon);
+    }
+};
+
+Etendue CalculeEtendue() {
+    const double came = etude.RayonMax + etude.RayonGalet;
+    Etendue e{-came, -came, came, came};
+    e.Contient(Pivot(), 8);
+    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
+        e.Contient(PointA(i), 6);
+        e.Contient(CentreGalet(i), etude.RayonGalet);
+    }
+    return e;
+}
+
+/// From mechanism millimetres, y up, to the surface, below the line of the legend.
+class Vue {
+public:
+    Vue(Dessin& dessin, const Etendue& e) {
+        constexpr double marge = 14, legende = 26;
+        const double largeur = dessin.Largeur() - 2 * marge, hauteur = dessin.Hauteur() - 2 * marge - legende;
+        echelle = std::max(0.0, std::min(largeur / (e.droite - e.gauche), hauteur / (e.haut - e.bas)));
+        x0_ = dessin.Largeur() / 2 - echelle * (e.gauche + e.droite) / 2;
+        y0_ = legende + marge + hauteur / 2 + echelle * (e.bas + e.haut) / 2;
+    }
+    PointDessin operator()(PointDessin p) const { return {x0_ + echelle * p.x, y0_ - echelle * p.y}; }
+
+    double echelle; ///< surface units per mm
+
+private:
+    double x0_, y0_;
+};
+
+/// A curve of the cam, turned by `radians` counter-clockwise.
+template <class X, class Y> std::vector<PointDessin> CourbeTournee(const Vue& vue, double radians, X x, Y y) {
+    const double c = std::cos(radians), s = std::sin(radians);
+    std::vector<PointDessin> points;
+    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
+    for (long i = 0; i <= etude.NombrePoints; ++i) points.push_back(vue({c * x(i) - s * y(i), s * x(i) + c * y(i)}));
+    return points;
+}
+
+void DessineLegende(Dessin& dessin) {
+    constexpr struct {
+        Couleur couleur;
+        int texte;
+        bool pointille;
+    } lignes[] = {{Couleur::Came, 291, false},
+                  {Couleur::TexteDiscret, 290, false},
+                  {Couleur::Primitif, 293, true},
+                  {Couleur::Galet, 289, false},
+                  {Couleur::Bras, 217, false}};
+    double x = 14;
+    for (const auto& ligne : lignes) {
+        dessin.Ligne({x, 16}, {x + 20, 16}, {ligne.couleur, 2.0, ligne.pointille});
+        dessin.Texte({x + 26, 16}, Texte(ligne.texte), Ancrage::Gauche, 12);
+        x += 46 + dessin.LargeurTexte(Texte(ligne.texte), 12);
+    }
+}
+
+void DessineProfils(Dessin& dessin, const Vue& vue, double radians) {
+    const auto interieur = CourbeTournee(
+        vue, radians, [](long i) { return etude.Profil[i].XInterieur; },
+        [](long i) { return etude.Profil[i].YInterieur; });
+    const auto exterieur = CourbeTournee(
+        vue, radians, [](long i) { return etude.Profil[i].XExterieur; },
+        [](long i) { return etude.Profil[i].YExterieur; });
+    const auto primitif = CourbeTournee(
+        vue, radians, [](long i) { return etude.Points[i].Rayon * std::cos(etude.Points[i].Angle / RadDeg); },
+        [](long i) { return etude.Points[i].Rayon * std::sin(etude.Points[i].Angle / RadDeg); });
+    const bool ferme = etude.NombrePoints >= 360 * etude.PointsParDegre;
+    const Trait came{Couleur::Came, 1.8};
+    ferme ? dessin.Surface(interieur, came) : dessin.Polyligne(interieur, came);
+    dessin.Polyligne(exterieur, {Couleur::TexteDiscret, 1.0});
+    dessin.Polyligne(primitif, {Couleur::Primitif, 1.0, true});
+    dessin.Ligne(vue({0, 0}), interieur.front(), {Couleur::Repere, 1.0});
+}
+
+} // namespace
+
+void DessineCamePlate(Dessin& dessin, double angle) {
+    if (etude.Points.Vide() || etude.NombrePoints == 0) return;
+    const long i = std::clamp(std::lround(angle * etude.PointsParDegre), 0L, static_cast<long>(etude.NombrePoints));
+    const Vue vue(dessin, CalculeEtendue());
+    const PointDessin P = CentreGalet(i), O1 = Pivot(), A = PointA(i);
+    const double radians = std::atan2(P.y, P.x) - etude.Points[i].Angle / RadDeg;
+
+    DessineProfils(dessin, vue, radians);
+    const double croix = etude.RayonMin / 6;
+    const Trait axe{Couleur::Axe, 1.0};
+    dessin.Ligne(vue({-croix, 0}), vue({croix, 0}), axe);
+    dessin.Ligne(vue({0, -croix}), vue({0, croix}), axe);
+    dessin.Disque(vue(P), etude.RayonGalet * vue.echelle, {Couleur::Galet, 1.6});
+    dessin.Ligne(vue(O1), vue(P), {Couleur::Bras, 2.4});
+    dessin.Ligne(vue(O1), vue(A), {Couleur::Bras, 2.4});
+    for (const auto& articulation : {O1, P, A}) dessin.Disque(vue(articulation), 3.5, {Couleur::Bras, 1.4});
+    const auto nomme = [&](PointDessin p, const char* nom) {
+        const PointDessin place = vue(p);
+        dessin.Texte({place.x + 8, place.y + 12}, nom, Ancrage::Gauche, 12);
+    };
+    nomme(O1, "O1");
+    nomme(A, "A");
+    nomme({0, 0}, "O");
+    DessineLegende(dessin);
+}

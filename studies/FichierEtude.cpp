@@ -1,0 +1,144 @@
+#include "studies/FichierEtude.h"
+
+#include "core/FichierEntier.h"
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+#include "planecams/MouvementCame.h"
+
+#include <chrono>
+#include <ctime>
+#include <locale>
+
+namespace {
+
+/// The lines of a file one after the other, without their line ends.
+class Lignes {
+public:
+    explicit Lignes(std::string_view contenu) : reste_(contenu) {}
+
+    /// @throws ErreurExecution input past the end of the file.
+    std::string_view Suivante() {
+        if (reste_.empty()) throw ErreurExecution(NumeroErreur::FinDeFichier);
+        const auto fin = reste_.find('\n');
+        std::string_view ligne = reste_.substr(0, fin);
+        reste_ = fin == std::string_view::npos ? std::string_view{} : reste_.substr(fin + 1);
+        if (!ligne.empty() && ligne.back() == '\r') ligne.remove_suffix(1);
+        return ligne;
+    }
+
+    /// A number by its leading digits, with the point or the comma; a text reads as 0.
+    double Nombre() { return ValVirgule(Suivante()); }
+
+private:
+    std::string_view reste_;
+};
+
+bool LoiConnue(const std::string& nomLoi) {
+    return nomLoi.find("Spe") != std::string::npos || ChercheLoi(nomLoi) != 0;
+}
+
+void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
+    lignes.Suivante();
+    zone.*type.valeurDepart = lignes.Nombre();
+    zone.*type.valeurFinale = lignes.Nombre();
+    zone.AngleCame = lignes.Nombre();
+    zone.NomLoi = lignes.Suivante();
+    zone.CoefSymetrie = lignes.Nombre();
+}
+
+/// Radii of the roller centre at the ends of a zone of an arm cam, each zone starting where the one before ends.
+void CalculeRayonsZoneLue(Zone& zone, const Zone& precedente, bool premiere) {
+    CalculeRayonsZone(zone);
+    if (!premiere) zone.RayonDepart = precedente.RayonFinal;
+}
+
+/// Today's date as "dd mm yyyy".
+std::string DateDuJour() {
+    const std::time_t maintenant = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    char date[16];
+    std::strftime(date, sizeof date, "%d %m %Y", std::localtime(&maintenant));
+    return date;
+}
+
+/// Decimal separator of the machine's regional settings.
+char SeparateurRegional() {
+    try {
+        return std::use_facet<std::numpunct<char>>(std::locale("")).decimal_point();
+    } catch (const std::runtime_error&) {
+        return '.'; // settings that the machine does not know
+    }
+}
+
+} // namespace
+
+bool LitEtude(std::string_view contenu, const TypeEtude& type) {
+    Lignes lignes(contenu);
+    lignes.Suivante();
+    lignes.Suivante();
+    for (const auto& champ : type.champs) etude.*champ.membre = lignes.Nombre();
+    etude.NombreZones = Entier16(lignes.Nombre());
+    etude.Zones.Redimensionne(etude.NombreZones);
+    etude.TypeCame = type.nom;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        Zone& zone = etude.Zones[z];
+        LitZone(lignes, type, zone);
+        if (!LoiConnue(zone.NomLoi)) {
+            LesDialogues().Message(Icone::Critique,
+                                   Texte(521) + " ' " + zone.NomLoi + " ' " + Texte(103) + "\n" + Texte(509));
+            return false;
+        }
+        zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
+        if (type.bras) CalculeRayonsZoneLue(zone, etude.Zones[z - 1], z == 1);
+    }
+    etude.ZonesConjuguees = etude.Zones;
+    etude.PointsParDegre = Entier16(lignes.Nombre());
+    return true;
+}
+
+bool LitFichierEtude(const std::filesystem::path& chemin) {
+    const TypeEtude* type = TrouveTypeFichier(chemin);
+    if (type == nullptr || !type->Disponible())
+        throw ErreurExecution(NumeroErreur::ExtensionInconnue, chemin.extension().string());
+    const std::string contenu = LitFichierEntier(chemin);
+    etude.NomFichier = chemin.filename().string();
+    return LitEtude(contenu, *type);
+}
+
+std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
+    std::string contenu;
+    const auto ligne = [&](const std::string& texte) { contenu += texte + "\r\n"; };
+    const auto nombre = [&](std::string texte) {
+        const auto point = texte.find('.');
+        if (point != std::string::npos) texte[point] = separateur;
+        ligne(texte);
+    };
+    ligne(Texte(type.titre) + type.suffixeTitre);
+    ligne(Texte(387) + DateDuJour());
+    for (const auto& champ : type.champs) nombre(Format(etude.*champ.membre, champ.masque));
+    nombre(Format(etude.NombreZones, type.masqueNombreZones));
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        const Zone& zone = etude.Zones[z];
+        ligne(Texte(187) + Format(z, "##"));
+        nombre(Format(zone.*type.valeurDepart, type.masqueValeur));
+        nombre(Format(zone.*type.valeurFinale, type.masqueValeur));
+        nombre(Format(zone.AngleCame, type.masqueAngleCame));
+        ligne(zone.NomLoi);
+        nombre(StrTrim(zone.CoefSymetrie));
+    }
+    ligne(std::to_string(etude.PointsParDegre));
+    return contenu;
+}
+
+bool DonneesDepart() {
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
+    const auto chemin = LesDialogues().FichierASauver({Texte(120) + " " + Texte(type->titre),
+                                                       CheminAppli / NomDossierEtudes,
+                                                       etude.NomFichier,
+                                                       {FiltreEtude(*type)}});
+    if (!chemin || chemin->empty()) return false;
+    EcritFichierEntier(*chemin, ComposeFichierEtude(*type, SeparateurRegional()));
+    etude.NomFichier = chemin->filename().string();
+    return true;
+}

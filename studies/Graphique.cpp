@@ -1,0 +1,119 @@
+#include "studies/Graphique.h"
+
+#include "core/Etude.h"
+#include "data/Textes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace {
+
+constexpr Couleur couleurs[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
+
+/// The plot inside the surface, with what surrounds it; sizes follow the height of the text.
+struct Cadre {
+    double texte, gauche, droite, haut, bas;
+
+    Cadre(const Dessin& dessin, std::size_t courbes)
+        : texte(std::clamp(dessin.Hauteur() / 24.0, dessin.Largeur() / 90.0, 13.0)), gauche(6.0 * texte),
+          droite(dessin.Largeur() - (courbes > 1 ? 6.0 : 1.5) * texte - (courbes > 2 ? 5.5 : 0.0) * texte),
+          haut(2.8 * texte), bas(dessin.Hauteur() - 3.2 * texte) {}
+
+    double Milieu() const { return (haut + bas) / 2; }
+    double DemiHauteur() const { return (bas - haut) / 2; }
+};
+
+double AngleTotal() {
+    return etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
+}
+
+/// Degrees between graduations: a round number that leaves some twelve of them.
+double PasGraduation(double total) {
+    for (const double pas : {5.0, 10.0, 15.0, 30.0, 45.0, 60.0, 90.0, 180.0})
+        if (total / pas <= 13.0) return pas;
+    return 360.0;
+}
+
+void DessineAxeHorizontal(Dessin& dessin, const Cadre& c) {
+    const double total = AngleTotal(), pas = PasGraduation(total);
+    for (double angle = 0; angle <= total + 1e-9; angle += pas) {
+        const double x = c.gauche + (c.droite - c.gauche) * angle / total;
+        dessin.Ligne({x, c.haut}, {x, c.bas}, {Couleur::Graduation, 1.0});
+        dessin.Texte({x, c.bas + 0.8 * c.texte}, std::to_string(static_cast<int>(std::lround(angle))), Ancrage::Centre,
+                     0.9 * c.texte, Couleur::TexteDiscret);
+    }
+    dessin.Texte({(c.gauche + c.droite) / 2, c.bas + 2.2 * c.texte}, Texte(280), Ancrage::Centre, c.texte);
+}
+
+/// The graduations of a curve, at its maximum and at the half: the first curve's on the left, the others' on the right.
+void DessineGraduations(Dessin& dessin, const Cadre& c, double maximum, std::size_t rang) {
+    for (int cran = -2; cran <= 2; ++cran) {
+        const double y = c.Milieu() - c.DemiHauteur() * cran / 2.0;
+        if (rang == 0) dessin.Ligne({c.gauche, y}, {c.droite, y}, {Couleur::Graduation, 1.0});
+        if (cran == 0 && rang > 0) continue;
+        const std::string nombre = cran == 0 ? "0" : Format(maximum * cran / 2.0, maximum < 10 ? "0.000" : "0.0");
+        const double x = rang == 0 ? c.gauche - 0.6 * c.texte : c.droite + (rang == 1 ? 0.6 : 6.1) * c.texte;
+        dessin.Texte({x, y}, nombre, rang == 0 ? Ancrage::Droite : Ancrage::Gauche, 0.9 * c.texte, couleurs[rang]);
+    }
+}
+
+void DessineLegende(Dessin& dessin, const Cadre& c, std::span<const Courbe> courbes) {
+    double x = c.gauche;
+    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
+        const double y = c.haut - 1.4 * c.texte;
+        dessin.Ligne({x, y}, {x + 2 * c.texte, y}, {couleurs[rang], 2.0});
+        const std::string& nom = Texte(courbes[rang].legende);
+        dessin.Texte({x + 2.5 * c.texte, y}, nom, Ancrage::Gauche, c.texte, couleurs[rang]);
+        x += 4.5 * c.texte + dessin.LargeurTexte(nom, c.texte);
+    }
+}
+
+void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double maximum, std::size_t rang) {
+    std::vector<PointDessin> points;
+    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
+    const double pas = (c.droite - c.gauche) / etude.NombrePoints, echelle = c.DemiHauteur() / maximum;
+    for (long i = 0; i <= etude.NombrePoints; ++i)
+        points.push_back({c.gauche + pas * static_cast<double>(i), c.Milieu() - echelle * courbe.valeur(i)});
+    dessin.Polyligne(points, {couleurs[rang], 1.6});
+}
+
+} // namespace
+
+std::vector<Courbe> CourbesGalet() {
+    return {{281, etude.RayonMax, [](long i) { return etude.Points[i].Rayon; }},
+            {282, etude.VitesseRayonMax, [](long i) { return etude.Points[i].VitesseRayon; }},
+            {283, etude.AccelRayonMax, [](long i) { return etude.Points[i].AccelRayon; }}};
+}
+
+std::vector<Courbe> CourbesBras() {
+    // The angle of the arm is drawn to the scale of the radius, so that both graphs compare.
+    return {{284, etude.RayonMax, [](long i) { return etude.Mouvement[i].Course; }},
+            {285, etude.LoiVitesseMax, [](long i) { return etude.Mouvement[i].Vitesse; }},
+            {286, etude.LoiAccelMax, [](long i) { return etude.Mouvement[i].Accel; }}};
+}
+
+std::vector<Courbe> CourbesForce() {
+    return {{287, etude.ForceGaletMax, [](long i) { return etude.Points[i].ForceGalet; }}};
+}
+
+std::vector<Courbe> CourbesCouple() {
+    return {{288, etude.CoupleMax, [](long i) { return etude.Points[i].Couple; }}};
+}
+
+void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes) {
+    if (etude.Points.Vide() || etude.NombrePoints == 0) return;
+    const Cadre cadre(dessin, courbes.size());
+    DessineAxeHorizontal(dessin, cadre);
+    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
+        const double maximum = courbes[rang].maximum == 0.0 ? 1.0 : courbes[rang].maximum;
+        DessineGraduations(dessin, cadre, maximum, rang);
+    }
+    dessin.Ligne({cadre.gauche, cadre.Milieu()}, {cadre.droite, cadre.Milieu()}, {Couleur::Axe, 1.2});
+    dessin.Ligne({cadre.gauche, cadre.haut}, {cadre.gauche, cadre.bas}, {Couleur::Axe, 1.2});
+    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
+        const double maximum = courbes[rang].maximum == 0.0 ? 1.0 : courbes[rang].maximum;
+        DessineCourbe(dessin, cadre, courbes[rang], maximum, rang);
+    }
+    DessineLegende(dessin, cadre, courbes);
+}

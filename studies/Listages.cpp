@@ -1,0 +1,88 @@
+#include "studies/Listages.h"
+
+#include "core/Etude.h"
+
+namespace {
+
+constexpr const char* M3 = "###.###";
+constexpr const char* M3Court = "##.###";
+constexpr const char* M2 = "###.##";
+
+template <double Point::*membre> double DuPoint(long i) {
+    return etude.Points[i].*membre;
+}
+template <double PointLoi::*membre> double DuMouvement(long i) {
+    return etude.Mouvement[i].*membre;
+}
+template <double PointProfil::*membre> double DuProfil(long i) {
+    return etude.Profil[i].*membre;
+}
+
+/// Pressure angle in degrees: 0 where the tangent is square to the radius.
+double AnglePression(long i) {
+    return etude.Profil[i].AngleTangent * 180.0 / Pi - 90.0;
+}
+
+constexpr Colonne angle = {245, 19, DuPoint<&Point::Angle>, "##0"};
+
+const Colonne galet[] = {
+    angle,
+    {247, 18, DuPoint<&Point::Rayon>, M3},
+    {225, 27, DuPoint<&Point::VitesseRayon>, M3Court},
+    {226, 28, DuPoint<&Point::AccelRayon>, M2},
+    {261, 21, DuPoint<&Point::VitesseGalet>, M2},
+};
+const Colonne bras[] = {
+    angle,
+    {246, 19, DuMouvement<&PointLoi::Course>, M3},
+    {248, 29, DuMouvement<&PointLoi::Vitesse>, M3Court},
+    {249, 30, DuMouvement<&PointLoi::Accel>, M2},
+    {262, 18, DuPoint<&Point::XA>, M3},
+    {263, 18, DuPoint<&Point::YA>, M3},
+    {264, 27, DuPoint<&Point::VxA>, M3Court},
+    {265, 27, DuPoint<&Point::VyA>, M3Court},
+    {266, 27, DuPoint<&Point::VA>, M3Court},
+    {271, 28, DuPoint<&Point::AxA>, M2},
+    {272, 28, DuPoint<&Point::AyA>, M2},
+    {273, 28, DuPoint<&Point::AA>, M2},
+};
+const Colonne efforts[] = {
+    angle,
+    {251, 25, DuPoint<&Point::ForceGalet>, M2},
+    {252, 26, DuPoint<&Point::Couple>, M3},
+    {253, 19, AnglePression, M2},
+};
+const Colonne came[] = {
+    angle,
+    {253, 19, AnglePression, M2},
+    {254, 18, DuProfil<&PointProfil::RayonCourbure>, M2},
+    {255, 18, DuProfil<&PointProfil::RayonCourbureInterieur>, M2},
+    {256, 18, DuProfil<&PointProfil::RayonCourbureExterieur>, M2},
+    {259, 18, DuProfil<&PointProfil::XInterieur>, M3},
+    {260, 18, DuProfil<&PointProfil::YInterieur>, M3},
+    {257, 18, DuProfil<&PointProfil::XExterieur>, M3},
+    {258, 18, DuProfil<&PointProfil::YExterieur>, M3},
+};
+
+} // namespace
+
+std::span<const Colonne> ColonnesGalet() {
+    return galet;
+}
+std::span<const Colonne> ColonnesBras() {
+    return bras;
+}
+std::span<const Colonne> ColonnesEfforts() {
+    return efforts;
+}
+std::span<const Colonne> ColonnesCame() {
+    return came;
+}
+
+int LignesListage() {
+    return etude.Points.Vide() ? 0 : etude.NombrePoints / etude.PointsParDegre + 1;
+}
+
+std::string CelluleListage(const Colonne& colonne, int ligne) {
+    return Format(colonne.valeur(static_cast<long>(ligne) * etude.PointsParDegre), colonne.masque);
+}

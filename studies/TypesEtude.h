@@ -1,0 +1,52 @@
+// The table of study kinds: one row per `TypeCame`. Reader, writer, dialogue filters, menus, save screen, reports and
+// batch walk this table, so that adding a kind of cam is adding a row.
+#pragma once
+
+#include "core/Etude.h"
+#include "planecams/SaisieCame.h"
+#include "platform/Dialogues.h"
+
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+/// A scalar of a kind of study, in the order of its file: its member of the record, the mask that it is written with,
+/// and what the screens and reports call it.
+struct ChampFichier {
+    const char* nom;
+    double Etude::*membre;
+    const char* masque;
+    int texte; ///< text number of its caption
+    int unite; ///< text number of its unit
+};
+
+struct TypeEtude {
+    const char* nom;          ///< `TypeCame`
+    const char* extension;    ///< of its study files, without the point
+    int titre;                ///< text number of the kind's name
+    const char* suffixeTitre; ///< what follows the name in the first line of a file
+    std::span<const ChampFichier> champs;
+    const char* masqueNombreZones;
+    double Zone::*valeurDepart; ///< start and end value of a zone in the file
+    double Zone::*valeurFinale;
+    const char* masqueValeur;
+    const char* masqueAngleCame;
+    bool bras;                   ///< the roller sits on an arm, whose ends give the radii of a zone
+    void (*calcule)() = nullptr; ///< the pipeline; none while this kind cannot be calculated
+    std::optional<FauteDonnee> (*chercheFaute)() = nullptr; ///< the first scalar that cannot be calculated with
+
+    bool Disponible() const { return calcule != nullptr; }
+};
+
+std::span<const TypeEtude> LesTypesEtude();
+
+/// The row of a `TypeCame`, or of a file name by its extension in any case; none for an unknown one.
+const TypeEtude* TrouveType(std::string_view nom);
+const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier);
+
+/// The filter of a file dialogue for the study files of one kind: its name " (*.ang)" and "*.Ang".
+FiltreFichier FiltreEtude(const TypeEtude& type);
+
+/// Runs the pipeline of the present study's kind.
+/// @throws ErreurExecution whatever stops the pipeline; the zones are back in degrees.
+void CalculeEtude();

@@ -1,0 +1,173 @@
+#include "studies/screens/PanneauCame.h"
+
+#include "core/Etude.h"
+#include "studies/DessinCame.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Icones.h"
+#include "widgets/Legendes.h"
+#include "widgets/PanneauChamps.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTimer>
+#include <QToolBar>
+
+#include <cmath>
+
+namespace {
+
+constexpr int PasRotation = 10; ///< degrees a step
+constexpr int VitesseMax = 10, VitesseInitiale = 8;
+
+constexpr Legende legendes[] = {
+    {"EtiquettePression", 0, 224}, {"Tourner", 0, 296},     {"Arret", 0, 297},
+    {"TitreVitesse", 0, 298},      {"Lent", 0, 299},        {"Rapide", 0, 300},
+    {"SensTrigo", 0, 301},         {"SensHorloge", 0, 302},
+};
+
+template <class T> T* Nomme(T* controle, const char* nom) {
+    controle->setObjectName(QString::fromLatin1(nom));
+    return controle;
+}
+
+} // namespace
+
+PanneauCame::PanneauCame(QWidget* parent) : QWidget(parent), pas_(new QTimer(this)) {
+    auto* disposition = new QVBoxLayout(this);
+    dessin_ = Nomme(new ZoneDessin, "Picture6");
+    dessin_->setMinimumSize(420, 320);
+    disposition->addWidget(dessin_, 1);
+
+    angle_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
+    angle_->setRange(0, 360);
+    angle_->setPageStep(PasRotation);
+    angle_->setFocusPolicy(Qt::StrongFocus);
+    disposition->addWidget(angle_);
+    FaitCommandes(*disposition);
+    AppliqueLegendes(*this, legendes);
+
+    pas_->setSingleShot(true);
+    connect(pas_, &QTimer::timeout, this, &PanneauCame::Avance);
+    connect(angle_, &QScrollBar::valueChanged, this, &PanneauCame::MontreAngle);
+    connect(texteAngle_, &ChampNombre::Suivant, this, &PanneauCame::EntreAngle);
+    connect(texteAngle_, &QLineEdit::editingFinished, this, &PanneauCame::EntreAngle);
+    connect(tourner_, &QPushButton::clicked, this, &PanneauCame::Tourne);
+    connect(arret_, &QPushButton::clicked, this, &PanneauCame::Arrete);
+    Arrete();
+}
+
+PanneauCame::~PanneauCame() {
+    etude.RotationEnCours = Faux;
+}
+
+void PanneauCame::FaitCommandes(QBoxLayout& disposition) {
+    auto* commandes = new QGridLayout;
+    texteAngle_ = AjouteLigneChamp(*commandes, 0, "Text1", 295, 19);
+    pression_ = Nomme(new QLabel, "Label42");
+    pression_->setMinimumWidth(pression_->fontMetrics().horizontalAdvance("-000.00 "));
+    pression_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    commandes->addWidget(Nomme(new QLabel, "EtiquettePression"), 1, 0);
+    commandes->addWidget(pression_, 1, 1);
+    auto* unite = new QLabel(QTexte(19));
+    unite->setForegroundRole(QPalette::PlaceholderText);
+    commandes->addWidget(unite, 1, 2);
+    commandes->setColumnStretch(0, 0);
+    commandes->setColumnStretch(3, 1);
+
+    auto* sens = Nomme(new QToolBar, "Toolbar1");
+    auto* groupe = new QActionGroup(this);
+    for (const char* cle : {"SensTrigo", "SensHorloge"}) {
+        auto* action = Nomme(new QAction(IconeBarre(cle), {}, groupe), cle);
+        action->setCheckable(true);
+        action->setChecked(QLatin1String(cle) == QLatin1String("SensHorloge"));
+        sens->addAction(action);
+        addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, trigo = action->objectName() == "SensTrigo"] { sensTrigo_ = trigo; });
+    }
+    tourner_ = Nomme(new QPushButton, "Tourner");
+    arret_ = Nomme(new QPushButton, "Arret");
+    vitesse_ = Nomme(new QSlider(Qt::Horizontal), "Slider1");
+    vitesse_->setRange(0, VitesseMax);
+    vitesse_->setPageStep(1);
+    vitesse_->setValue(VitesseInitiale);
+    vitesse_->setFixedWidth(140);
+
+    commandes->addWidget(sens, 0, 4, 2, 1);
+    commandes->addWidget(tourner_, 0, 5, 2, 1);
+    commandes->addWidget(arret_, 0, 6, 2, 1);
+    auto* reglage = new QHBoxLayout;
+    reglage->addWidget(Nomme(new QLabel, "Lent"));
+    reglage->addWidget(vitesse_);
+    reglage->addWidget(Nomme(new QLabel, "Rapide"));
+    commandes->addWidget(Nomme(new QLabel, "TitreVitesse"), 0, 7, Qt::AlignHCenter);
+    commandes->addLayout(reglage, 1, 7);
+    disposition.addLayout(commandes);
+}
+
+void PanneauCame::Montre() {
+    angle_->setRange(0, 360);
+    MontreAngle(angle_->value());
+}
+
+void PanneauCame::MontreAngle(int angle) {
+    texteAngle_->Montre(angle);
+    etude.AngleRotation = angle / RadDeg;
+    const long point = static_cast<long>(etude.PointsParDegre) * angle;
+    const bool present = point <= etude.Profil.BorneHaute();
+    pression_->setText(present ? Q(Format(etude.Profil[point].AngleTangent * 180.0 / Pi - 90.0, "0.00")) : QString());
+    dessin_->Peint([angle](Dessin& dessin) { DessineCamePlate(dessin, angle); });
+}
+
+void PanneauCame::EntreAngle() {
+    const double angle = texteAngle_->Valeur();
+    // Only an angle of the cam's turn can be shown.
+    if (angle < 0.0 || angle > 360.0) texteAngle_->Montre(0);
+    angle_->setValue(static_cast<int>(std::lround(texteAngle_->Valeur())));
+    texteAngle_->Montre(angle_->value());
+}
+
+bool PanneauCame::RotationEnCours() const {
+    return etude.RotationEnCours != Faux;
+}
+
+void PanneauCame::Tourne() {
+    arret_->setEnabled(true);
+    tourner_->setEnabled(false);
+    arret_->setFocus();
+    etude.RotationEnCours = Vrai;
+    angle_->setRange(0, 360);
+    ArmePas();
+}
+
+void PanneauCame::ArmePas() {
+    // The right end is the fastest: the next step follows as soon as the drawing is done.
+    const double delaiRotation = (vitesse_->maximum() - vitesse_->value()) / 10.0;
+    pas_->start(static_cast<int>(std::lround(delaiRotation * 1000.0)));
+}
+
+void PanneauCame::Avance() {
+    if (!RotationEnCours()) return;
+    const int angle = angle_->value();
+    if (!sensTrigo_) {
+        angle_->setValue(angle < angle_->maximum() - PasRotation ? angle + PasRotation : angle_->minimum());
+    } else {
+        angle_->setValue(angle > angle_->minimum() + PasRotation ? angle - PasRotation : angle_->maximum());
+    }
+    ArmePas();
+}
+
+void PanneauCame::Arrete() {
+    pas_->stop();
+    etude.RotationEnCours = Faux;
+    arret_->setEnabled(false);
+    tourner_->setEnabled(true);
+}

@@ -1,0 +1,349 @@
+#include "studies/screens/Resultat.h"
+
+#include "core/Etude.h"
+#include "data/Textes.h"
+#include "planecams/ListeZones.h"
+#include "planecams/MouvementCame.h"
+#include "platform/Dialogues.h"
+#include "studies/Graphique.h"
+#include "studies/Listages.h"
+#include "studies/TypesEtude.h"
+#include "studies/screens/PanneauCame.h"
+#include "widgets/Application.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Grille.h"
+#include "widgets/Legendes.h"
+#include "widgets/PanneauChamps.h"
+#include "widgets/ZoneDefilante.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int OngletRotation = 4;
+constexpr int UniteMm = 18, UniteDegres = 19, UniteTours = 21, UniteKg = 24, UniteN = 25, UniteNm = 26, UniteMS = 27,
+              UniteMS2 = 28, UniteRadS = 29, UniteRadS2 = 30, UniteKgM2 = 31;
+
+/// A remarkable value: the group it stands in, its caption, value, mask and unit, and the cam angle at which it occurs.
+struct LigneValeur {
+    const char* groupe;
+    const char* controle;
+    int texte;
+    double (*valeur)();
+    const char* masque;
+    int unite;
+    std::int16_t Etude::*angle = nullptr;
+};
+
+template <double Etude::*membre> double De() {
+    return etude.*membre;
+}
+double PenteMaxi() {
+    return etude.AngleTangentMax * 180.0 / Pi - 90.0;
+}
+
+const LigneValeur valeurs[] = {
+    {"GroupeCame", "RayonMin", 220, De<&Etude::RayonMin>, "###.###", UniteMm},
+    {"GroupeCame", "RayonMax", 221, De<&Etude::RayonMax>, "###.###", UniteMm},
+    {"GroupeCame", "RayonCourbureMin", 222, De<&Etude::RayonCourbureMin>, "##.##", UniteMm},
+    {"GroupeCame", "AngleTangentMax", 223, PenteMaxi, "##.##", UniteDegres},
+    {"GroupeCame", "CoupleMax", 232, De<&Etude::CoupleMax>, "###.##", UniteNm, &Etude::CoupleMaxAngle},
+    {"GroupeCame", "MasseCame", 234, De<&Etude::MasseCame>, "##.##", UniteKg},
+    {"GroupeCame", "InertieCame", 233, De<&Etude::InertieCame>, "##.##", UniteKgM2},
+    {"GroupeGalet", "VitesseRayonMax", 225, De<&Etude::VitesseRayonMax>, "##.##", UniteMS,
+     &Etude::VitesseRayonMaxAngle},
+    {"GroupeGalet", "AccelRayonMax", 226, De<&Etude::AccelRayonMax>, "##.##", UniteMS2, &Etude::AccelRayonMaxAngle},
+    {"GroupeGalet", "VitesseGaletMoyenne", 229, De<&Etude::VitesseGaletMoyenne>, "###.##", UniteTours},
+    {"GroupeGalet", "VitesseGaletMax", 230, De<&Etude::VitesseGaletMax>, "###.##", UniteTours},
+    {"GroupeGalet", "ForceGaletMax", 231, De<&Etude::ForceGaletMax>, "####.##", UniteN, &Etude::ForceGaletMaxAngle},
+    {"GroupeBras", "LoiVitesseMax", 225, De<&Etude::LoiVitesseMax>, "##.##", UniteRadS, &Etude::LoiVitesseMaxAngle},
+    {"GroupeBras", "LoiAccelMax", 226, De<&Etude::LoiAccelMax>, "##.##", UniteRadS2, &Etude::LoiAccelMaxAngle},
+    {"GroupeBras", "LoiCourseMax", 237, De<&Etude::LoiCourseMax>, "###.##", UniteDegres},
+    {"GroupeBras", "InertieBras", 235, De<&Etude::InertieBras>, "##.#####", UniteKgM2},
+    {"GroupeBras", "InertieMasseA", 236, De<&Etude::InertieMasseA>, "##.#####", UniteKgM2},
+};
+
+/// What may be changed here and calculated again.
+constexpr ChampSaisie champsRecalcul[] = {
+    {"Text2", 164, UniteKg, &Etude::MasseA},         {"Text3", 166, UniteN, &Etude::ForceX},
+    {"Text4", 167, UniteN, &Etude::ForceY},          {"Text5", 123, UniteMm, &Etude::RayonGalet},
+    {"Text6", 157, UniteTours, &Etude::VitesseCame},
+};
+
+constexpr Legende legendes[] = {
+    {"SSTab1", 0, 209},        {"SSTab1", 1, 210},         {"SSTab1", 2, 776},        {"SSTab1", 3, 214},
+    {"SSTab1", 4, 147},        {"Listages", 0, 211},       {"Listages", 1, 212},      {"Listages", 2, 214},
+    {"Listages", 3, 147},      {"Donnees", 0, 215},        {"GroupeCame", 0, 147},    {"GroupeGalet", 0, 289},
+    {"GroupeBras", 0, 217},    {"GroupeRecalcul", 0, 219}, {"TitreGrille", 0, 179},   {"TitrePicture1", 0, 274},
+    {"TitrePicture5", 0, 275}, {"TitrePicture4", 0, 276},  {"TitrePicture2", 0, 277}, {"Recalcul", 0, 11},
+    {"Quitter", 0, 12},
+};
+
+template <class T> T* Nomme(T* controle, const char* nom) {
+    controle->setObjectName(QString::fromLatin1(nom));
+    return controle;
+}
+
+QLabel* FaitUnite(const QString& texte) {
+    auto* unite = new QLabel(texte);
+    unite->setForegroundRole(QPalette::PlaceholderText);
+    return unite;
+}
+
+QLabel* FaitValeur(const char* nom) {
+    auto* valeur = Nomme(new QLabel, nom);
+    valeur->setFont(PoliceTabulaire(valeur->font()));
+    valeur->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    valeur->setMinimumWidth(valeur->fontMetrics().horizontalAdvance("-00000.00"));
+    valeur->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return valeur;
+}
+
+/// A number by its mask; the mask may cut it, so that all its digits stand in the tip.
+void MontreNombre(QLabel& etiquette, double valeur, const char* masque) {
+    etiquette.setText(Q(Format(valeur, masque)));
+    etiquette.setToolTip(QTexte(777) + " " + Q(StrTrim(valeur)));
+}
+
+bool EstRecalculable(double Etude::*membre) {
+    return std::any_of(std::begin(champsRecalcul), std::end(champsRecalcul),
+                       [&](const ChampSaisie& champ) { return champ.membre == membre; });
+}
+
+void RemplitListage(Grille& grille, std::span<const Colonne> colonnes) {
+    Grille::Contenu contenu;
+    for (const auto& colonne : colonnes) contenu.entetes.push_back(Texte(colonne.texte) + "\n" + Texte(colonne.unite));
+    contenu.lignes = LignesListage();
+    contenu.cellule = [colonnes](int ligne, int colonne) {
+        return CelluleListage(colonnes[static_cast<std::size_t>(colonne)], ligne);
+    };
+    grille.Remplit(std::move(contenu));
+}
+
+} // namespace
+
+Resultat::Resultat(QWidget* parent) : QWidget(parent) {
+    setObjectName("Resultat");
+    onglets_ = Nomme(new QTabWidget, "SSTab1");
+    onglets_->addTab(new ZoneDefilante(FaitValeurs()), {});
+    onglets_->addTab(FaitListages(), {});
+    onglets_->addTab(FaitGraphiques("Picture1", &graphiqueGalet_, "Picture5", &graphiqueBras_), {});
+    onglets_->addTab(FaitGraphiques("Picture4", &graphiqueForce_, "Picture2", &graphiqueCouple_), {});
+    came_ = new PanneauCame;
+    onglets_->addTab(came_, {});
+
+    quitter_ = Nomme(new QPushButton, "Quitter");
+    quitter_->setShortcut(Qt::Key_Escape);
+    auto* boutons = new QHBoxLayout;
+    boutons->addWidget(quitter_);
+    boutons->addStretch();
+    auto* disposition = new QVBoxLayout(this);
+    disposition->addWidget(onglets_, 1);
+    disposition->addLayout(boutons);
+    AppliqueLegendes(*this, legendes);
+
+    connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
+    connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
+    Montre();
+}
+
+QWidget* Resultat::FaitValeurs() {
+    auto* feuille = new QWidget;
+    auto* disposition = new QGridLayout(feuille);
+    donnees_ = Nomme(new QGroupBox, "Donnees");
+    dispositionDonnees_ = new QGridLayout(donnees_);
+    disposition->addWidget(donnees_, 0, 0, 2, 1);
+
+    constexpr std::pair<int, int> places[] = {{0, 1}, {0, 2}, {1, 2}};
+    std::size_t place = 0;
+    for (const char* nom : {"GroupeCame", "GroupeGalet", "GroupeBras"}) {
+        auto* groupe = Nomme(new QGroupBox, nom);
+        auto* grille = new QGridLayout(groupe);
+        for (const auto& ligne : valeurs) {
+            if (QLatin1String(ligne.groupe) != QLatin1String(nom)) continue;
+            const int rang = grille->rowCount();
+            valeurs_.push_back(FaitValeur(ligne.controle));
+            angles_.push_back(FaitUnite({}));
+            angles_.back()->setObjectName(QString::fromLatin1(ligne.controle) + "Angle");
+            grille->addWidget(new QLabel(QTexte(ligne.texte)), rang, 0);
+            grille->addWidget(valeurs_.back(), rang, 1);
+            grille->addWidget(FaitUnite(QTexte(ligne.unite)), rang, 2);
+            grille->addWidget(angles_.back(), rang, 3);
+        }
+        grille->setColumnStretch(0, 1);
+        grille->setRowStretch(grille->rowCount(), 1);
+        const auto [rangGroupe, colonneGroupe] = places[place++];
+        disposition->addWidget(groupe, rangGroupe, colonneGroupe);
+    }
+    disposition->addWidget(FaitRecalcul(), 1, 1);
+    zones_ = Nomme(new Grille, "Grille");
+    zones_->setMinimumHeight(150);
+    disposition->addWidget(Nomme(new QLabel, "TitreGrille"), 2, 0, 1, 3);
+    disposition->addWidget(zones_, 3, 0, 1, 3);
+    disposition->setRowStretch(3, 1);
+    return feuille;
+}
+
+QWidget* Resultat::FaitRecalcul() {
+    auto* groupe = Nomme(new QGroupBox, "GroupeRecalcul");
+    auto* grille = new QGridLayout(groupe);
+    for (const auto& champ : champsRecalcul)
+        champs_.push_back(AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, champ.texte, champ.unite));
+    recalcul_ = Nomme(new QPushButton, "Recalcul");
+    recalcul_->setDefault(true);
+    grille->setRowStretch(grille->rowCount(), 1);
+    grille->addWidget(recalcul_, grille->rowCount(), 0, 1, 3, Qt::AlignRight);
+    for (std::size_t i = 0; i < champs_.size(); ++i) {
+        QWidget* suivant = i + 1 < champs_.size() ? static_cast<QWidget*>(champs_[i + 1]) : recalcul_;
+        connect(champs_[i], &ChampNombre::Suivant, suivant, [suivant] { suivant->setFocus(Qt::TabFocusReason); });
+    }
+    return groupe;
+}
+
+QWidget* Resultat::FaitListages() {
+    listages_ = Nomme(new QTabWidget, "Listages");
+    for (const auto& [nom, grille] : {std::pair{"Grille1", &grilleGalet_},
+                                      {"Grille2", &grilleBras_},
+                                      {"Grille3", &grilleEfforts_},
+                                      {"Grille5", &grilleCame_}}) {
+        *grille = Nomme(new Grille, nom);
+        listages_->addTab(*grille, {});
+    }
+    return listages_;
+}
+
+QWidget* Resultat::FaitGraphiques(const char* titre1, ZoneDessin** zone1, const char* titre2, ZoneDessin** zone2) {
+    auto* feuille = new QWidget;
+    auto* disposition = new QVBoxLayout(feuille);
+    for (const auto& [nom, zone] : {std::pair{titre1, zone1}, {titre2, zone2}}) {
+        auto* titre = Nomme(new QLabel, "");
+        titre->setObjectName("Titre" + QString::fromLatin1(nom));
+        *zone = Nomme(new ZoneDessin, nom);
+        disposition->addWidget(titre);
+        disposition->addWidget(*zone, 1);
+    }
+    return feuille;
+}
+
+void Resultat::Montre() {
+    setWindowTitle((etude.NomFichier.empty() ? QString() : Q(etude.NomFichier) + " ") + QTexte(118));
+    RemplitValeurs();
+    RemplitRecalcul();
+    RemplitGrilles();
+    RemplitGraphiques();
+    came_->Montre();
+}
+
+void Resultat::MontreRotation() {
+    onglets_->setCurrentIndex(OngletRotation);
+}
+
+void Resultat::RemplitValeurs() {
+    for (std::size_t i = 0; i < std::size(valeurs); ++i) {
+        MontreNombre(*valeurs_[i], valeurs[i].valeur(), valeurs[i].masque);
+        if (valeurs[i].angle != nullptr)
+            angles_[i]->setText(QTexte(227) + " " + Q(Format(etude.*valeurs[i].angle, "##0")) + "°");
+    }
+    while (QLayoutItem* ancien = dispositionDonnees_->takeAt(0)) {
+        delete ancien->widget();
+        delete ancien;
+    }
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    if (type == nullptr) return;
+    int ligne = 0;
+    for (const auto& champ : type->champs) {
+        if (EstRecalculable(champ.membre)) continue;
+        auto* valeur = FaitValeur("");
+        valeur->setObjectName(QString("Donnee") + champ.nom);
+        valeur->setText(Q(StrTrim(etude.*champ.membre)));
+        dispositionDonnees_->addWidget(new QLabel(QTexte(champ.texte)), ligne, 0);
+        dispositionDonnees_->addWidget(valeur, ligne, 1);
+        dispositionDonnees_->addWidget(FaitUnite(QTexte(champ.unite)), ligne++, 2);
+    }
+    dispositionDonnees_->setColumnStretch(0, 1);
+    dispositionDonnees_->setRowStretch(ligne, 1);
+}
+
+void Resultat::RemplitGrilles() {
+    zones_->Remplit({EntetesZones(), etude.NombreZones,
+                     [](int ligne, int colonne) { return CelluleZone(ligne, colonne, etude.NombreZones); },
+                     ColonnesTexteZones()});
+    RemplitListage(*grilleGalet_, ColonnesGalet());
+    RemplitListage(*grilleBras_, ColonnesBras());
+    RemplitListage(*grilleEfforts_, ColonnesEfforts());
+    RemplitListage(*grilleCame_, ColonnesCame());
+}
+
+void Resultat::RemplitGraphiques() {
+    graphiqueGalet_->Peint([](Dessin& dessin) { DessineGraphique(dessin, CourbesGalet()); });
+    graphiqueBras_->Peint([](Dessin& dessin) { DessineGraphique(dessin, CourbesBras()); });
+    graphiqueForce_->Peint([](Dessin& dessin) { DessineGraphique(dessin, CourbesForce()); });
+    graphiqueCouple_->Peint([](Dessin& dessin) { DessineGraphique(dessin, CourbesCouple()); });
+}
+
+void Resultat::RemplitRecalcul() {
+    for (std::size_t i = 0; i < champs_.size(); ++i) champs_[i]->Montre(etude.*champsRecalcul[i].membre);
+}
+
+bool Resultat::RefuseSiRotation() {
+    etude.Erreur = Faux;
+    if (!came_->RotationEnCours()) return false;
+    LesDialogues().Message(Icone::Information, Texte(435));
+    MontreRotation();
+    etude.Erreur = Vrai;
+    return true;
+}
+
+bool Resultat::FauteDeDonnee(const TypeEtude& type) {
+    const auto faute = type.chercheFaute();
+    if (!faute) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+    for (std::size_t i = 0; i < champs_.size(); ++i)
+        if (champsRecalcul[i].membre == faute->membre) champs_[i]->setFocus();
+    return true;
+}
+
+void Resultat::Recalcul() {
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    if (type == nullptr || RefuseSiRotation()) return;
+    // A calculation that fails leaves data and tables as they are shown.
+    const Etude gardee = etude;
+    try {
+        for (std::size_t i = 0; i < champs_.size(); ++i) etude.*champsRecalcul[i].membre = champs_[i]->Valeur();
+        if (FauteDeDonnee(*type)) {
+            etude = gardee;
+            return;
+        }
+        for (std::int16_t z = 1; z <= etude.NombreZones; ++z)
+            etude.Zones[z].Temps = TempsZone(etude.Zones[z].AngleCame, etude.VitesseCame);
+        etude.Erreur = Faux;
+        const Sablier sablier;
+        CalculeEtude();
+    } catch (...) {
+        etude = gardee;
+        RemplitRecalcul();
+        throw;
+    }
+    if (!SansErreur()) {
+        LesDialogues().Message(Icone::Critique, Texte(75) + "\n\n" + Texte(509));
+        etude = gardee;
+        RemplitRecalcul();
+        return;
+    }
+    etude.EtudeModifiee = Vrai;
+    Montre();
+    emit EtudeRecalculee();
+}
+
+void Resultat::Quitter() {
+    came_->Arrete();
+    if (SansErreur()) emit Quitte();
+}

@@ -1,0 +1,59 @@
+// The results of a calculated study: remarkable values, point-to-point listings, graphs, the cam that turns, and a
+// panel where a few data may be changed and the study calculated again.
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class ChampNombre;
+class Grille;
+class PanneauCame;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QTabWidget;
+class ZoneDessin;
+struct TypeEtude;
+
+class Resultat : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Resultat(QWidget* parent = nullptr);
+
+    /// Shows the results of the study record.
+    void Montre();
+
+    /// Brings the turning cam to the front.
+    void MontreRotation();
+
+signals:
+    void Quitte();
+    void EtudeRecalculee();
+
+private:
+    QWidget* FaitValeurs();
+    QWidget* FaitRecalcul();
+    QWidget* FaitListages();
+    QWidget* FaitGraphiques(const char* titre1, ZoneDessin** zone1, const char* titre2, ZoneDessin** zone2);
+    void RemplitValeurs();
+    void RemplitGrilles();
+    void RemplitGraphiques();
+    void RemplitRecalcul();
+    bool FauteDeDonnee(const TypeEtude& type);
+    void Recalcul();
+    void Quitter();
+    bool RefuseSiRotation();
+
+    QTabWidget *onglets_, *listages_;
+    std::vector<QLabel*> valeurs_, angles_;
+    QGroupBox* donnees_;
+    QGridLayout* dispositionDonnees_;
+    Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;
+    ZoneDessin *graphiqueGalet_, *graphiqueBras_, *graphiqueForce_, *graphiqueCouple_;
+    PanneauCame* came_;
+    std::vector<ChampNombre*> champs_;
+    QPushButton *recalcul_, *quitter_;
+};

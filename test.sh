@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Sets everything up on a Debian 12 machine and runs all tests: the checks of format and of the code, the tests as shipped,
+# then the tests with the address and undefined-behaviour sanitizers.
+set -euo pipefail
+cd "$(dirname "$0")"
+./installe.sh test
+export QT_QPA_PLATFORM=offscreen
+
+git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+
+cmake --preset release >/dev/null
+cmake --build --preset release -j "$(nproc)"
+git ls-files 'core/*.cpp' 'data/*.cpp' 'laws/*.cpp' 'planecams/*.cpp' 'studies/*.cpp' ':!*/screens/*' |
+    xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/release 2>/dev/null
+ctest --preset release
+
+cmake --preset sanitize >/dev/null
+cmake --build --preset sanitize -j "$(nproc)"
+ctest --preset sanitize

@@ -1,0 +1,143 @@
+// The command line, the printed form of numbers, and a few runs of the real executable.
+#include "Passe.h"
+#include "batch/DialoguesCollecte.h"
+#include "batch/JsonEtude.h"
+#include "batch/LigneCommande.h"
+#include "outils/DossierTemporaire.h"
+
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <limits>
+
+namespace {
+
+const std::string exemple = VELORIN_DOSSIER "/Profils/Exemple.Ang";
+
+struct PasseReelle {
+    int statut = -1;
+    std::string sortie;
+};
+
+/// Runs the executable through the shell; the standard error goes where `commande` says.
+PasseReelle LanceReelle(const std::string& commande) {
+    std::FILE* tube = ::popen((VELORIN_DOSSIER "/velorin-batch " + commande).c_str(), "r");
+    PasseReelle passe;
+    char bloc[4096];
+    while (const std::size_t lus = std::fread(bloc, 1, sizeof bloc, tube)) passe.sortie.append(bloc, lus);
+    passe.statut = WEXITSTATUS(::pclose(tube));
+    return passe;
+}
+
+} // namespace
+
+TEST(Commandes, WrongUsageIsOneErrorLineAndNothingElse) {
+    const std::vector<std::vector<std::string>> fausses = {
+        {},
+        {"calcule", exemple},
+        {"etude"},
+        {"etude", exemple, "--points", "x.Pnt"},
+        {"etude", exemple, "--rapport", "x.pdf"},
+        {"etude", exemple, "--inconnue"},
+        {"loi", "CYC"},
+        {"loi", "--points", "10"},
+        {"loi", "CYC", "MS", "--points", "10"},
+        {"loi", "CYC", "--points", "0"},
+        {"loi", "CYC", "--points", "32768"},
+        {"loi", "CYC", "--points", "12.5"},
+        {"loi", "CYC", "--points", "-3"},
+        {"loi", "CYC", "--points", "dix"},
+        {"loi", "CYC", "--points", "10", "--symetrie", "1.5"},
+        {"loi", "CYC", "--points", "10", "--symetrie", "demi"},
+        {"loi", "MSH", "--points", "10", "--symetrie", "0.3"},
+        {"loi", "CYC", "--points", "10", "--resume"},
+    };
+    for (const auto& mots : fausses) {
+        const auto passe = LancePasse(mots);
+        EXPECT_EQ(passe.statut, 2) << testing::PrintToString(mots);
+        EXPECT_EQ(passe.sortie, "") << testing::PrintToString(mots);
+        EXPECT_EQ(passe.LignesErreur(), 1) << passe.erreurs;
+    }
+    EXPECT_EQ(LancePasse({"loi", "CYC", "--points", "10"}, "Klingon").statut, 2);
+}
+
+TEST(Commandes, OptionsStandAnywhereAndNamesMayLookLikeOptions) {
+    const auto ligne = AnalyseLigne({"--oui", "etude", "a.Ang", "--langue", "English", "b.Ang", "--", "--c.Ang"});
+    EXPECT_EQ(ligne.commande, "etude");
+    EXPECT_EQ(ligne.arguments, (std::vector<std::string>{"a.Ang", "b.Ang", "--c.Ang"}));
+    EXPECT_EQ(ligne.langue, "English");
+    EXPECT_TRUE(ligne.oui);
+    EXPECT_FALSE(ligne.resume);
+    EXPECT_THROW(AnalyseLigne({"etude", "--base"}), UsageIncorrect);
+}
+
+TEST(Commandes, BaseThatCannotBeOpenedIsStatusTwo) {
+    const DossierTemporaire dossier;
+    for (const auto& base : {(dossier / "Absente.Mdb").string(), dossier.Ecrit("Fausse.Mdb", std::string(9000, 'x'))}) {
+        std::ostringstream sortie, erreurs;
+        EXPECT_EQ(LanceCommande({"etude", exemple, "--langue", "English", "--base", base}, sortie, erreurs), 2);
+        EXPECT_EQ(sortie.str(), "");
+        EXPECT_NE(erreurs.str().find(base), std::string::npos);
+    }
+}
+
+TEST(Commandes, QuestionsAreRefusedUnlessToldOtherwise) {
+    for (const bool oui : {false, true}) {
+        DialoguesCollecte dialogues(oui);
+        LesDialogues().Message(Icone::Avertissement, "attention");
+        EXPECT_EQ(LesDialogues().Question("remplacer ?"), oui);
+        EXPECT_EQ(LesDialogues().Saisie("titre", "pourcentage", "50").has_value(), oui);
+        EXPECT_FALSE(LesDialogues().FichierASauver({}).has_value());
+        EXPECT_EQ(JsonMessages(dialogues).dump(), R"([{"icone":"avertissement","texte":"attention"},)"
+                                                  R"({"icone":"question","texte":"remplacer ?"},)"
+                                                  R"({"icone":"question","texte":"pourcentage"}])");
+    }
+}
+
+TEST(Commandes, NumbersAreShortAndReadBack) {
+    const auto ecrit = [](const Json& json) {
+        std::ostringstream flux;
+        EcritJson(flux, json);
+        return flux.str();
+    };
+    EXPECT_EQ(ecrit(Json::array({0.1, 100.0, -2.5, 1e18, 7})), "[0.1,100,-2.5,1e+18,7]");
+    const double infini = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(ecrit({{"a", std::nan("")}, {"b", {infini, -infini}}}), R"({"a":null,"b":[null,null]})");
+    EXPECT_EQ(ecrit("é\xff\n"), "\"é\xEF\xBF\xBD\\n\"");
+    for (const double x : {M_PI, 1.0 / 3.0, 5e-324, 1.7976931348623157e308, 9007199254740993.0, 123456.789e-30})
+        EXPECT_EQ(Json::parse(ecrit(x)).get<double>(), x);
+}
+
+TEST(Executable, FindsItsCatalogueAndLanguageBesideItself) {
+    const auto calculee = LanceReelle("etude '" + exemple + "' --resume");
+    EXPECT_EQ(calculee.statut, 0);
+    EXPECT_EQ(nlohmann::json::parse(calculee.sortie)["resume"]["NombrePoints"], 720);
+
+    const auto refusee = LanceReelle("loi NON --points 3");
+    EXPECT_EQ(refusee.statut, 1);
+    EXPECT_NE(refusee.sortie.find("n'existe pas"), std::string::npos);
+
+    const auto fausse = LanceReelle("etude /nulle/part.Ang 2>/dev/null");
+    EXPECT_EQ(fausse.statut, 2);
+    EXPECT_EQ(fausse.sortie, "");
+    EXPECT_EQ(LanceReelle("loi CYC --points 0 2>&1 >/dev/null").sortie.substr(0, 15), "velorin-batch: ");
+}
+
+TEST(Executable, HelpNamesEveryCommandAndOption) {
+    const auto aide = LanceReelle("--aide");
+    EXPECT_EQ(aide.statut, 0);
+    for (const char* mot : {"etude FILE", "loi NAME", "--resume", "--points N", "--symetrie S", "--base FILE",
+                            "--langue NAME", "--oui", "--aide"})
+        EXPECT_NE(aide.sortie.find(mot), std::string::npos) << mot;
+    EXPECT_EQ(aide.sortie.find("--rapport"), std::string::npos);
+}
+
+TEST(Executable, ResultThatCannotBeWrittenIsAFailure) {
+    EXPECT_EQ(LanceReelle("etude '" + exemple + "' 2>&1 >/dev/full").statut, 1);
+}
+
+TEST(Executable, ManyRunAtOnce) {
+    const auto passes = LanceReelle("--aide >/dev/null; for i in 1 2 3 4 5 6; do (" VELORIN_DOSSIER
+                                    "/velorin-batch loi CYC --points 1 >/dev/null || echo refused) & done; wait");
+    EXPECT_EQ(passes.sortie, "");
+}

@@ -1,0 +1,80 @@
+#include "core/Nombres.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+TEST(Nombres, ValTakesTheLeadingNumber) {
+    EXPECT_EQ(Val("  12.5 mm"), 12.5);
+    EXPECT_EQ(Val("-.25"), -0.25);
+    EXPECT_EQ(Val("+3"), 3.0);
+    EXPECT_EQ(Val("1e3x"), 1000.0);
+    EXPECT_EQ(Val("1e"), 1.0);
+    EXPECT_EQ(Val("12,5"), 12.0);
+    EXPECT_EQ(ValVirgule("12,5"), 12.5);
+    for (const char* texte : {"", "abc", ".", "-", "nan", "inf", "e5"}) EXPECT_EQ(Val(texte), 0.0) << texte;
+    EXPECT_EQ(Val("1e-400"), 0.0);
+    EXPECT_THROW(Val("1e400"), ErreurExecution);
+    EXPECT_TRUE(EstNombre(" -1.5e-3 "));
+    EXPECT_FALSE(EstNombre("1.5 mm"));
+}
+
+TEST(Nombres, StrWritesTheShortestDigits) {
+    EXPECT_EQ(Str(0.5), " .5");
+    EXPECT_EQ(Str(-0.25), "-.25");
+    EXPECT_EQ(Str(0), " 0");
+    EXPECT_EQ(Str(50), " 50");
+    EXPECT_EQ(StrTrim(0.1 + 0.2), ".30000000000000004");
+    EXPECT_EQ(StrTrim(1e15), "1000000000000000");
+    EXPECT_EQ(StrTrim(2e15), "2E+15");
+    EXPECT_EQ(StrTrim(1e-15), ".000000000000001");
+    EXPECT_EQ(StrTrim(1.5e-16), "1.5E-16");
+    EXPECT_EQ(StrTrim(1234.5), "1234.5");
+}
+
+TEST(Nombres, StrReadsBackToTheSameDouble) {
+    std::mt19937_64 hasard(7);
+    std::uniform_real_distribution<double> mantisse(-10, 10), exposant(-40, 40);
+    for (int i = 0; i < 20000; ++i) {
+        const double valeur = mantisse(hasard) * std::pow(10.0, std::floor(exposant(hasard)));
+        ASSERT_EQ(Val(Str(valeur)), valeur) << Str(valeur);
+    }
+}
+
+TEST(Nombres, FormatFollowsItsMask) {
+    EXPECT_EQ(Format(0, "###.##"), ".");
+    EXPECT_EQ(Format(5, "###.##"), "5.");
+    EXPECT_EQ(Format(0.5, "###.##"), ".5");
+    EXPECT_EQ(Format(12345.678, "###.##"), "12345.68");
+    EXPECT_EQ(Format(0, "0.00"), "0.00");
+    EXPECT_EQ(Format(-3.14159, "0.00"), "-3.14");
+    EXPECT_EQ(Format(0, "###"), "");
+    EXPECT_EQ(Format(7, "000.000"), "007.000");
+    EXPECT_EQ(Format(12.3, "###.00"), "12.30");
+    EXPECT_EQ(Format(99.996, "##.##"), "100.");
+    EXPECT_EQ(Format(-0.001, "0.00"), "0.00");
+    EXPECT_EQ(Format(1e-9, "###.##"), ".");
+}
+
+TEST(Nombres, FormatRoundsHalfAwayFromZeroOnTheDecimalText) {
+    // 1.005 and 2.675 lie below the half in binary; their decimal text lies on it.
+    EXPECT_EQ(Format(1.005, "0.00"), "1.01");
+    EXPECT_EQ(Format(2.675, "0.00"), "2.68");
+    EXPECT_EQ(Format(-0.125, "0.00"), "-0.13");
+    EXPECT_EQ(Format(0.5, "0"), "1");
+    EXPECT_EQ(Format(0.05, "0.0"), "0.1");
+    EXPECT_EQ(Format(0.04, "0.0"), "0.0");
+}
+
+TEST(Nombres, RoundingsAndLimits) {
+    EXPECT_EQ(Int(-1.5), -2.0);
+    EXPECT_EQ(Entier16(0.5), 0);
+    EXPECT_EQ(Entier16(1.5), 2);
+    EXPECT_EQ(Entier16(-2.5), -2);
+    EXPECT_EQ(Entier16(32767.4), 32767);
+    EXPECT_THROW(Entier16(32767.6), ErreurExecution);
+    EXPECT_THROW(Entier16(std::numeric_limits<double>::quiet_NaN()), ErreurExecution);
+    EXPECT_THROW(Divise(1, 0), ErreurExecution);
+}

@@ -1,0 +1,169 @@
+#include "laws/CalculLois.h"
+
+#include "outils/Catalogue.h"
+
+#include <cmath>
+
+namespace {
+
+class Lois : public AvecCatalogue {
+protected:
+    /// Evaluates a law as the law of zone `zone`, over `n` steps.
+    static void Applique(const std::string& nom, double n, double symetrie = 0.5, std::int16_t zone = 1) {
+        etude.Zones.Redimensionne(zone);
+        etude.Zones[zone].NomLoi = nom;
+        etude.Zones[zone].AngleCame = n;
+        etude.Zones[zone].CoefSymetrie = symetrie;
+        AppliqueLoi(zone);
+    }
+
+    static double Maximum(double PointLoi::*champ) {
+        double maximum = 0;
+        for (const auto& p : etude.LoiUnite) maximum = std::max(maximum, std::abs(p.*champ));
+        return maximum;
+    }
+
+    static NumeroErreur NumeroDe(const std::string& nom, double n, double symetrie = 0.5) {
+        try {
+            Applique(nom, n, symetrie);
+        } catch (const ErreurExecution& e) {
+            return e.numero;
+        }
+        ADD_FAILURE() << nom << " did not fail";
+        return {};
+    }
+};
+
+const char* const usuelles[] = {"CYC",   "SHM",   "MT",    "MTC50", "MS",    "MSC15",
+                                "MSC20", "MSC25", "MSC33", "MSC50", "MSC66", "MSC80"};
+
+} // namespace
+
+TEST_F(Lois, PublishedPeakFactors) {
+    const struct {
+        const char* nom;
+        double ca, cv;
+    } publiees[] = {{"CYC", 6.283185, 2},       {"SHM", 4.934802, 1.570796}, {"MT", 4.888124, 2},
+                    {"MS", 5.527957, 1.759603}, {"MTC50", 6.517, 1.333},     {"MSC20", 5.999, 1.528},
+                    {"MSC25", 6.194, 1.479},    {"MSC33", 6.616, 1.404},     {"MSC50", 8.013, 1.275},
+                    {"MSC66", 11.009, 1.168},   {"MSC80", 17.192, 1.094},    {"MSC15", 5.8383, 1.5796}};
+    for (const auto& p : publiees) {
+        Applique(p.nom, 7200);
+        const double ecart = p.ca == 5.527957 || p.ca == 6.283185 || p.ca == 4.934802 ? 1e-6 : 1e-3;
+        EXPECT_NEAR(Maximum(&PointLoi::Accel), p.ca, ecart) << p.nom;
+        EXPECT_NEAR(Maximum(&PointLoi::Vitesse), p.cv, ecart) << p.nom;
+    }
+}
+
+TEST_F(Lois, EachLawIsTheIntegralOfItsAcceleration) {
+    for (const char* nom : usuelles) {
+        for (const double symetrie : {0.5, 0.3, 0.75}) {
+            const long n = 3600;
+            Applique(nom, n, symetrie);
+            const auto& u = etude.LoiUnite;
+            const double h = 1.0 / static_cast<double>(n);
+            EXPECT_NEAR(u[0].Course, 0, 1e-12) << nom;
+            EXPECT_NEAR(u[n].Course, 1, 1e-12) << nom;
+            EXPECT_NEAR(u[0].Vitesse, 0, 1e-12) << nom;
+            EXPECT_NEAR(u[n].Vitesse, 0, 1e-9) << nom;
+            // Away from the joint of both halves, where the acceleration of some laws may jump.
+            for (long i = 2; i < n - 1; ++i) {
+                ASSERT_NEAR((u[i + 1].Course - u[i - 1].Course) / (2 * h), u[i].Vitesse, 2e-4) << nom << " " << i;
+                if (std::abs(static_cast<double>(i) * h - symetrie) > 3 * h) {
+                    ASSERT_NEAR((u[i + 1].Vitesse - u[i - 1].Vitesse) / (2 * h), u[i].Accel, 0.15) << nom << " " << i;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Lois, HandWorkedValues) {
+    Applique("CYC", 4);
+    EXPECT_NEAR(etude.LoiUnite[1].Course, 0.25 - 1 / (2 * Pi), 1e-15);
+    EXPECT_NEAR(etude.LoiUnite[1].Vitesse, 1, 1e-15);
+    EXPECT_NEAR(etude.LoiUnite[1].Accel, 2 * Pi, 1e-14);
+    EXPECT_NEAR(etude.LoiUnite[2].Course, 0.5, 1e-15);
+
+    Applique("SHM", 10);
+    EXPECT_NEAR(etude.LoiUnite[0].Accel, Pi * Pi / 2, 1e-14);
+    EXPECT_NEAR(etude.LoiUnite[3].Course, (1 - std::cos(0.3 * Pi)) / 2, 1e-15);
+
+    Applique("MTC50", 4);
+    EXPECT_NEAR(etude.LoiUnite[1].Vitesse, 4.0 / 3, 1e-6);
+    EXPECT_NEAR(etude.LoiUnite[1].Accel, 0, 1e-14);
+
+    Applique("MS", 100, 0.3);
+    EXPECT_NEAR(etude.LoiUnite[30].Course, 0.3, 1e-12);
+    EXPECT_NEAR(etude.LoiUnite[30].Vitesse, 1.759603, 1e-6);
+    EXPECT_NEAR(etude.LoiUnite[15].Accel, 4.787351 / 0.6, 1e-5);
+}
+
+TEST_F(Lois, SymmetryAtItsLimits) {
+    // A coefficient of 1 has no second half; rounding must not carry the last point past the end either.
+    Applique("CYC", 90, 1.0);
+    EXPECT_NEAR(etude.LoiUnite[90].Course, 1, 1e-12);
+    for (double s = 0.01; s < 1; s += 0.01) {
+        for (const char* nom : usuelles) {
+            ASSERT_NO_THROW(Applique(nom, 73, s)) << nom << " " << s;
+            ASSERT_NEAR(etude.LoiUnite[73].Course, 1, 1e-9) << nom << " " << s;
+        }
+    }
+    EXPECT_EQ(NumeroDe("MS", 90, 0.0), NumeroErreur::DivisionParZero);
+}
+
+TEST_F(Lois, FractionalExtentLeavesTheLastRowEmpty) {
+    Applique("MS", 30.7);
+    EXPECT_EQ(etude.LoiUnite.BorneHaute(), 31);
+    EXPECT_EQ(etude.LoiUnite[31].Course, 0);
+    Applique("MS", 307);
+    const double attendu = etude.LoiUnite[300].Course;
+    Applique("MS", 30.7);
+    EXPECT_NEAR(etude.LoiUnite[30].Course, attendu, 1e-12);
+}
+
+TEST_F(Lois, CustomPercentageOverwritesTheRowOfItsZone) {
+    const std::string avant = etude.ListeLois[3].NomLoi;
+    Applique("MS_Spe_ 40", 200, 0.5, 3);
+    EXPECT_EQ(etude.ListeLois[3].NomLoi, avant);
+    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefA, 0.15);
+    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefC, 0.45);
+    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefD, 0.4);
+    const double milieu = etude.LoiUnite[60].Course;
+    Applique(avant, 200);
+    EXPECT_EQ(etude.LoiUnite[60].Course, milieu) << "a later zone of that row's law gets the custom coefficients";
+
+    // Only the last two characters count: one digit needs its blank, decimals lose their integer part.
+    Applique("MS_Spe_ 5", 100);
+    EXPECT_DOUBLE_EQ(etude.ListeLois[1].CoefD, 0.05);
+    Applique("MS_Spe_ 12.5", 100);
+    EXPECT_DOUBLE_EQ(etude.ListeLois[1].CoefD, 0.005);
+    Applique("MS_Spe_ 99", 1000);
+    EXPECT_NEAR(etude.LoiUnite[1000].Course, 1, 1e-9);
+}
+
+TEST_F(Lois, FailuresAreRunTimeFailures) {
+    EXPECT_EQ(NumeroDe("XYZ", 90), NumeroErreur::IndiceHorsLimites);
+    EXPECT_EQ(NumeroDe("MS", 0), NumeroErreur::DivisionParZero);
+    EXPECT_EQ(NumeroDe("MS", 40000), NumeroErreur::Depassement);
+    EXPECT_EQ(NumeroDe("MS", -5), NumeroErreur::IndiceHorsLimites);
+    EXPECT_EQ(NumeroDe("MS_Special", 90), NumeroErreur::AppelIncorrect);
+}
+
+TEST_F(Lois, RiseAndReturnMeetsAtTheTop) {
+    for (const char* nom : {"MSH", "MSHC20", "MSHC33", "MSHC50"}) {
+        const long n = 3600;
+        etude.NombrePoints = n;
+        PrepareLoiMSH(etude.ListeLois[ChercheLoi(nom)]);
+        CalculeLoiMSH();
+        const auto& u = etude.LoiUnite;
+        EXPECT_NEAR(u[n / 2].Course, 1, 1e-12) << nom;
+        EXPECT_NEAR(Maximum(&PointLoi::Vitesse), etude.LoiEtude.Cv, 1e-6) << nom;
+        EXPECT_NEAR(Maximum(&PointLoi::Accel), etude.LoiEtude.Ca, 1e-6) << nom;
+        const double h = 2.0 / static_cast<double>(n);
+        for (long i = 1; i < n / 2; ++i) {
+            ASSERT_NEAR((u[i + 1].Course - u[i - 1].Course) / (2 * h), u[i].Vitesse, 2e-4) << nom << " " << i;
+            ASSERT_EQ(u[n - i].Course, u[i].Course);
+            ASSERT_EQ(u[n - i].Vitesse, -u[i].Vitesse);
+        }
+    }
+}

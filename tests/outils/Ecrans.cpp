@@ -1,0 +1,63 @@
+#include "outils/Ecrans.h"
+
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "widgets/Chaines.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QStyle>
+#include <QTabBar>
+
+QObject* ControleNomme(QObject& racine, const QString& nom, const QMetaObject& classe) {
+    QList<QObject*> tous = racine.findChildren<QObject*>();
+    tous.prepend(&racine);
+    QStringList noms;
+    for (QObject* objet : tous) {
+        if (objet->objectName() == nom && classe.cast(objet)) return objet;
+        if (!objet->objectName().isEmpty() && !objet->objectName().startsWith(QLatin1String("qt_")))
+            noms << objet->objectName();
+    }
+    noms.removeDuplicates();
+    noms.sort();
+    throw std::logic_error("no " + std::string(classe.className()) + " named " + S(nom) +
+                           " among: " + S(noms.join(' ')));
+}
+
+void LaisseFaire() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+std::vector<std::string> LegendesCoupees(QWidget& ecran) {
+    std::vector<std::string> coupees;
+    const auto note = [&coupees](const QWidget* widget, const QString& legende) {
+        coupees.push_back(S(widget->objectName() + ": " + legende));
+    };
+    for (QWidget* widget : ecran.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&ecran)) continue;
+        const QSize place = widget->size();
+        if (auto* etiquette = qobject_cast<QLabel*>(widget)) {
+            const QSize besoin = etiquette->wordWrap() ? QSize(0, etiquette->heightForWidth(place.width()))
+                                                       : etiquette->minimumSizeHint();
+            if (!etiquette->text().isEmpty() && (besoin.width() > place.width() || besoin.height() > place.height()))
+                note(widget, etiquette->text());
+        } else if (auto* bouton = qobject_cast<QAbstractButton*>(widget); bouton && !bouton->text().isEmpty()) {
+            if (bouton->minimumSizeHint().width() > place.width()) note(widget, bouton->text());
+        } else if (auto* groupe = qobject_cast<QGroupBox*>(widget)) {
+            if (groupe->fontMetrics().horizontalAdvance(groupe->title()) > place.width()) note(widget, groupe->title());
+        } else if (auto* onglets = qobject_cast<QTabBar*>(widget)) {
+            if (onglets->sizeHint().width() > place.width()) note(widget, onglets->tabText(0));
+        }
+    }
+    return coupees;
+}
+
+void ChoisitLangue(const char* langue) {
+    LangueTravail = langue;
+    ChargeTextes(LaBase);
+}

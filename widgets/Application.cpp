@@ -1,0 +1,56 @@
+#include "widgets/Application.h"
+
+#include "data/Textes.h"
+#include "platform/Dialogues.h"
+#include "widgets/Icones.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+
+namespace {
+
+/// Name shown in the titles of the boxes.
+constexpr const char* NomProgramme = "Velorin";
+
+void Annonce(const std::string& texte) {
+    while (QGuiApplication::overrideCursor()) QGuiApplication::restoreOverrideCursor();
+    LesDialogues().Message(Icone::Critique, texte);
+}
+
+} // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName(QString::fromLatin1(NomProgramme));
+    setStyle(QStringLiteral("Fusion")); // the same on every desktop; its palette is light or dark as the system's
+    setWindowIcon(IconeBarre(applicationName()));
+}
+
+bool Application::notify(QObject* receveur, QEvent* evenement) {
+    try {
+        return QApplication::notify(receveur, evenement);
+    } catch (const ErreurExecution& erreur) {
+        Annonce(TexteErreur(erreur));
+    } catch (const std::exception& faute) {
+        Annonce(faute.what());
+    }
+    return true;
+}
+
+QFont PoliceTabulaire(const QFont& base) {
+    const QFontMetricsF mesures(base);
+    const double largeur = mesures.horizontalAdvance('0');
+    for (char chiffre = '1'; chiffre <= '9'; ++chiffre)
+        if (mesures.horizontalAdvance(chiffre) != largeur) {
+            QFont fixe = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+            fixe.setPointSizeF(base.pointSizeF());
+            return fixe;
+        }
+    return base;
+}
+
+Sablier::Sablier() {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+Sablier::~Sablier() {
+    QGuiApplication::restoreOverrideCursor();
+}

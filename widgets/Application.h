@@ -1,0 +1,28 @@
+// The application object: the one place where run-time failures are caught, and the looks that hold everywhere.
+#pragma once
+
+#include <QApplication>
+#include <QFont>
+
+class Application : public QApplication {
+    Q_OBJECT
+
+public:
+    Application(int& argc, char** argv);
+
+    /// Delivers an event. A failure that its handler lets out is told in a critical box, and the program goes on.
+    bool notify(QObject* receveur, QEvent* evenement) override;
+};
+
+/// `base` when all its figures have one width, otherwise the fixed-pitch font of the system in the same size: numbers
+/// below each other stay in columns.
+QFont PoliceTabulaire(const QFont& base);
+
+/// The hourglass for the life of this object.
+class Sablier {
+public:
+    Sablier();
+    ~Sablier();
+    Sablier(const Sablier&) = delete;
+    Sablier& operator=(const Sablier&) = delete;
+};

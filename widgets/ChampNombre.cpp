@@ -1,0 +1,126 @@
+#include "widgets/ChampNombre.h"
+
+#include "core/Nombres.h"
+#include "widgets/Application.h"
+#include "widgets/Chaines.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QStyleOptionFrame>
+#include <QValidator>
+
+namespace {
+
+constexpr int ChiffresVisibles = 10;
+
+/// Background of the field that has the focus; the same on a light and on a dark palette, as is its black text.
+const QColor FondFocus(0x00, 0xFF, 0xFF);
+
+/// One entry of the context menu; the toolkit's own are not in the working language.
+struct EntreeContexte {
+    int texte;
+    void (*commande)(QLineEdit& champ);
+    QKeySequence::StandardKey raccourci;
+};
+constexpr EntreeContexte LesEntrees[] = {
+    {755, [](QLineEdit& champ) { champ.undo(); }, QKeySequence::Undo},
+    {756, [](QLineEdit& champ) { champ.cut(); }, QKeySequence::Cut},
+    {754, [](QLineEdit& champ) { champ.copy(); }, QKeySequence::Copy},
+    {757, [](QLineEdit& champ) { champ.paste(); }, QKeySequence::Paste},
+    {758, [](QLineEdit& champ) { champ.clear(); }, QKeySequence::UnknownKey},
+    {753, [](QLineEdit& champ) { champ.selectAll(); }, QKeySequence::SelectAll},
+};
+
+/// Lets through what is a number, or the beginning of one.
+class ValidateurNombre : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& texte, int& curseur) const override {
+        static const QRegularExpression etranger(QStringLiteral("[^0-9+\\-.eE]"));
+        static const QRegularExpression debutNombre(
+            QRegularExpression::anchoredPattern(QStringLiteral("[+-]?[0-9]*\\.?[0-9]*([eE][+-]?[0-9]*)?")));
+        const auto nettoie = [](QString partie) { return partie.replace(',', '.').remove(etranger); };
+        const QString avant = nettoie(texte.left(curseur));
+        texte = avant + nettoie(texte.mid(curseur));
+        curseur = static_cast<int>(avant.size());
+        return debutNombre.match(texte).hasMatch() ? Acceptable : Invalid;
+    }
+};
+
+} // namespace
+
+ChampNombre::ChampNombre(QWidget* parent) : QLineEdit(parent) {
+    setValidator(new ValidateurNombre(this));
+    setAlignment(Qt::AlignRight);
+    setFont(PoliceTabulaire(font()));
+    PrendLargeur();
+}
+
+double ChampNombre::Valeur() const {
+    return Val(S(text()));
+}
+
+void ChampNombre::Montre(double valeur) {
+    setText(Q(StrTrim(valeur)));
+    setCursorPosition(0);
+}
+
+void ChampNombre::PrendLargeur() {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize chiffres(fontMetrics().horizontalAdvance(QString(ChiffresVisibles, '0')) +
+                             2 * fontMetrics().averageCharWidth(),
+                         fontMetrics().height());
+    setFixedWidth(style()->sizeFromContents(QStyle::CT_LineEdit, &option, chiffres, this).width());
+}
+
+void ChampNombre::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter) {
+        evenement->accept(); // the default button of the screen must not go off
+        emit Suivant();
+        return;
+    }
+    QLineEdit::keyPressEvent(evenement);
+}
+
+void ChampNombre::focusInEvent(QFocusEvent* evenement) {
+    QPalette couleurs;
+    couleurs.setColor(QPalette::Base, FondFocus);
+    couleurs.setColor(QPalette::Text, Qt::black);
+    setPalette(couleurs);
+    QLineEdit::focusInEvent(evenement);
+    vientDeLaSouris_ = evenement->reason() == Qt::MouseFocusReason;
+    if (evenement->reason() != Qt::PopupFocusReason) selectAll();
+}
+
+void ChampNombre::focusOutEvent(QFocusEvent* evenement) {
+    if (evenement->reason() != Qt::PopupFocusReason) setPalette(QPalette());
+    QLineEdit::focusOutEvent(evenement);
+}
+
+void ChampNombre::mouseReleaseEvent(QMouseEvent* evenement) {
+    QLineEdit::mouseReleaseEvent(evenement);
+    if (vientDeLaSouris_ && !hasSelectedText()) selectAll();
+    vientDeLaSouris_ = false;
+}
+
+void ChampNombre::changeEvent(QEvent* evenement) {
+    QLineEdit::changeEvent(evenement);
+    if (evenement->type() == QEvent::FontChange || evenement->type() == QEvent::StyleChange) PrendLargeur();
+}
+
+void ChampNombre::contextMenuEvent(QContextMenuEvent* evenement) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const EntreeContexte& entree : LesEntrees) {
+        QAction* action = menu->addAction(QTexte(entree.texte), this, [this, &entree] { entree.commande(*this); });
+        action->setShortcut(entree.raccourci);
+    }
+    menu->popup(evenement->globalPos());
+}

@@ -1,0 +1,35 @@
+// A field for one number. The decimal separator is the point; a comma typed or pasted becomes one, so that nobody loses
+// decimals.
+#pragma once
+
+#include <QLineEdit>
+
+class ChampNombre : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit ChampNombre(QWidget* parent = nullptr);
+
+    /// The leading number of the text; 0 for an empty one.
+    /// @throws ErreurExecution overflow when the number exceeds a double.
+    double Valeur() const;
+
+    /// Shows a number with its shortest digits.
+    void Montre(double valeur);
+
+signals:
+    void Suivant(); ///< Return was pressed
+
+protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void focusInEvent(QFocusEvent* evenement) override;
+    void focusOutEvent(QFocusEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
+
+private:
+    void PrendLargeur();
+
+    bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
+};

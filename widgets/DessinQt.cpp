@@ -1,0 +1,162 @@
+#include "widgets/DessinQt.h"
+
+#include "widgets/Chaines.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+/// Points of a polyline nearer than this to the last one kept, in pixels, are left out: nobody could see them.
+constexpr double EcartMinPixels = 0.4;
+
+/// Share of the stroke's colour in the shade that fills a surface.
+constexpr double PartTeinte = 0.16;
+
+/// The smallest font size that the toolkit draws legibly, pixels.
+constexpr double TaillePoliceMin = 6.0;
+
+struct Teintes {
+    Couleur couleur;
+    QRgb claire; ///< on a light sheet
+    QRgb sombre; ///< on a dark sheet
+};
+
+constexpr std::array<Teintes, 12> LesTeintes{{
+    {Couleur::Axe, 0x3A3F47, 0xD5D9DF},
+    {Couleur::Graduation, 0xD3D8DF, 0x4A515B},
+    {Couleur::Texte, 0x1B1E23, 0xF0F2F5},
+    {Couleur::TexteDiscret, 0x5F6773, 0xA6AFBB},
+    {Couleur::Courbe1, 0x0B5CAD, 0x6CB6FF},
+    {Couleur::Courbe2, 0xB93C0A, 0xFF9B63},
+    {Couleur::Courbe3, 0x157A3A, 0x6FDC8C},
+    {Couleur::Came, 0x1F4E79, 0x8ECBFF},
+    {Couleur::Primitif, 0x8A6200, 0xE6C35C},
+    {Couleur::Galet, 0x6D33C9, 0xC7ACFF},
+    {Couleur::Bras, 0x475160, 0xC3CAD4},
+    {Couleur::Repere, 0xCB1528, 0xFF7B86},
+}};
+
+bool FeuilleSombre(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < 128;
+}
+
+QPointF EnQPoint(PointDessin p) {
+    return {p.x, p.y};
+}
+
+} // namespace
+
+QColor CouleurTrait(Couleur couleur, const QPalette& palette) {
+    for (const Teintes& teintes : LesTeintes)
+        if (teintes.couleur == couleur)
+            return QColor::fromRgb(0xFF000000U | (FeuilleSombre(palette) ? teintes.sombre : teintes.claire));
+    return palette.color(QPalette::Text);
+}
+
+DessinQt::DessinQt(QPainter& peintre, const QRectF& cadre, const QPalette& palette)
+    : peintre_(peintre), cadre_(cadre), palette_(palette) {
+    peintre_.save();
+    peintre_.setRenderHint(QPainter::Antialiasing);
+    peintre_.translate(cadre_.topLeft());
+    const double echelle = std::sqrt(std::abs(peintre_.worldTransform().determinant()));
+    ecartMin_ = EcartMinPixels / (echelle > 0 ? echelle : 1);
+}
+
+DessinQt::~DessinQt() {
+    peintre_.restore();
+}
+
+void DessinQt::PrendTrait(const Trait& trait) {
+    QPen plume(CouleurTrait(trait.couleur, palette_), trait.epaisseur, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (trait.pointille) {
+        plume.setCapStyle(Qt::FlatCap);
+        plume.setDashPattern({5, 4});
+    }
+    peintre_.setPen(plume);
+    peintre_.setBrush(Qt::NoBrush);
+}
+
+void DessinQt::PrendTeinte(Couleur couleur) {
+    const QColor trait = CouleurTrait(couleur, palette_);
+    const QColor feuille = palette_.color(QPalette::Base);
+    const auto melange = [](int a, int b) { return static_cast<int>(PartTeinte * a + (1 - PartTeinte) * b); };
+    peintre_.setBrush(QColor(melange(trait.red(), feuille.red()), melange(trait.green(), feuille.green()),
+                             melange(trait.blue(), feuille.blue())));
+}
+
+const std::vector<QPointF>& DessinQt::Allege(std::span<const PointDessin> points) {
+    points_.clear();
+    const double carre = ecartMin_ * ecartMin_;
+    for (const PointDessin& p : points) {
+        if (!points_.empty()) {
+            const double dx = p.x - points_.back().x();
+            const double dy = p.y - points_.back().y();
+            if (dx * dx + dy * dy < carre) continue;
+        }
+        points_.push_back(EnQPoint(p));
+    }
+    // A stroke ends where it ends; one whose points all fall together is still a dot.
+    if (!points.empty() && (points_.size() == 1 || points_.back() != EnQPoint(points.back())))
+        points_.push_back(EnQPoint(points.back()));
+    return points_;
+}
+
+void DessinQt::Ligne(PointDessin de, PointDessin a, const Trait& trait) {
+    PrendTrait(trait);
+    peintre_.drawLine(EnQPoint(de), EnQPoint(a));
+}
+
+void DessinQt::Polyligne(std::span<const PointDessin> points, const Trait& trait) {
+    if (points.empty()) return;
+    PrendTrait(trait);
+    const std::vector<QPointF>& gardes = Allege(points);
+    peintre_.drawPolyline(gardes.data(), static_cast<int>(gardes.size()));
+}
+
+void DessinQt::Surface(std::span<const PointDessin> points, const Trait& trait) {
+    if (points.empty()) return;
+    PrendTrait(trait);
+    PrendTeinte(trait.couleur);
+    const std::vector<QPointF>& gardes = Allege(points);
+    peintre_.drawPolygon(gardes.data(), static_cast<int>(gardes.size()));
+}
+
+void DessinQt::Cercle(PointDessin centre, double rayon, const Trait& trait) {
+    PrendTrait(trait);
+    peintre_.drawEllipse(EnQPoint(centre), rayon, rayon);
+}
+
+void DessinQt::Disque(PointDessin centre, double rayon, const Trait& trait) {
+    PrendTrait(trait);
+    PrendTeinte(trait.couleur);
+    peintre_.drawEllipse(EnQPoint(centre), rayon, rayon);
+}
+
+QFont DessinQt::Police(double hauteur) const {
+    QFont police = peintre_.font();
+    police.setPixelSize(static_cast<int>(std::lround(std::max(hauteur, TaillePoliceMin))));
+    return police;
+}
+
+void DessinQt::Texte(PointDessin p, const std::string& texte, Ancrage ancrage, double hauteur, Couleur couleur) {
+    const QString ligne = Q(texte);
+    const QFont police = Police(hauteur);
+    const QFontMetricsF mesures(police);
+    const double largeur = mesures.horizontalAdvance(ligne);
+    const double recul = ancrage == Ancrage::Gauche ? 0 : ancrage == Ancrage::Centre ? largeur / 2 : largeur;
+    peintre_.save();
+    peintre_.setFont(police);
+    peintre_.setPen(CouleurTrait(couleur, palette_));
+    // The vertical middle of a line of figures and capitals lies half their height above the baseline.
+    peintre_.drawText(QPointF(p.x - recul, p.y + mesures.capHeight() / 2), ligne);
+    peintre_.restore();
+}
+
+double DessinQt::LargeurTexte(const std::string& texte, double hauteur) const {
+    return QFontMetricsF(Police(hauteur)).horizontalAdvance(Q(texte));
+}

@@ -1,0 +1,141 @@
+#include "widgets/DialoguesQt.h"
+
+#include "widgets/Chaines.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+enum NumerosTexte {
+    TexteOk = 3,
+    TexteAnnuler = 4,
+    TexteEnregistrer = 15,
+    TexteOuvrir = 125,
+    TexteNomFichier = 307,
+    TexteRemplacer = 317,
+    TexteTypeFichier = 341,
+    TexteOui = 769,
+    TexteNon = 770,
+};
+
+/// Text of the working language, or `reserve` before the texts are loaded (a failure at start-up).
+QString TexteOuReserve(int numero, const char* reserve) {
+    return numero <= NombreTextes() ? QTexte(numero) : QString::fromUtf8(reserve);
+}
+
+QMessageBox::Icon IconeQt(Icone icone) {
+    switch (icone) {
+    case Icone::Avertissement:
+        return QMessageBox::Warning;
+    case Icone::Critique:
+        return QMessageBox::Critical;
+    case Icone::Information:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+/// The lines of the filter list. A pattern matches whatever the case of the extension, and is not shown a second time.
+QStringList Filtres(const DemandeFichier& demande) {
+    QStringList filtres;
+    for (const FiltreFichier& filtre : demande.filtres) {
+        const QString motif = Q(filtre.motif);
+        QStringList motifs{motif, motif.toLower(), motif.toUpper()};
+        motifs.removeDuplicates();
+        filtres << Q(filtre.libelle) + " (" + motifs.join(' ') + ")";
+    }
+    return filtres;
+}
+
+void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter) {
+    dialogue.setWindowTitle(Q(demande.titre));
+    dialogue.setDirectory(QChemin(demande.dossier));
+    dialogue.setNameFilters(Filtres(demande));
+    dialogue.setOption(QFileDialog::HideNameFilterDetails);
+    if (!demande.nom.empty()) dialogue.selectFile(Q(demande.nom));
+    dialogue.setLabelText(QFileDialog::Accept, QTexte(accepter));
+    dialogue.setLabelText(QFileDialog::Reject, QTexte(TexteAnnuler));
+    dialogue.setLabelText(QFileDialog::FileName, QTexte(TexteNomFichier));
+    dialogue.setLabelText(QFileDialog::FileType, QTexte(TexteTypeFichier));
+}
+
+std::filesystem::path FichierChoisi(const QFileDialog& dialogue) {
+    return Chemin(dialogue.selectedFiles().value(0));
+}
+
+std::string MotifChoisi(const QFileDialog& dialogue, const DemandeFichier& demande) {
+    const qsizetype indice = dialogue.nameFilters().indexOf(dialogue.selectedNameFilter());
+    if (indice < 0 || static_cast<std::size_t>(indice) >= demande.filtres.size()) return {};
+    return demande.filtres[static_cast<std::size_t>(indice)].motif;
+}
+
+} // namespace
+
+std::filesystem::path AvecExtension(const std::filesystem::path& chemin, const std::string& motif) {
+    const std::filesystem::path extension = std::filesystem::path(motif).extension();
+    if (chemin.has_extension() || extension == ".*") return chemin;
+    std::filesystem::path complet = chemin;
+    complet.replace_extension(extension); // "came." has an empty extension: no second point
+    return complet;
+}
+
+void DialoguesQt::Message(Icone icone, const std::string& texte) {
+    QMessageBox boite(IconeQt(icone), QCoreApplication::applicationName(), Q(texte), QMessageBox::NoButton,
+                      QApplication::activeWindow());
+    boite.setTextFormat(Qt::PlainText);
+    boite.addButton(TexteOuReserve(TexteOk, "OK"), QMessageBox::AcceptRole);
+    boite.exec();
+}
+
+bool DialoguesQt::Question(const std::string& texte) {
+    QMessageBox boite(QMessageBox::Question, QCoreApplication::applicationName(), Q(texte), QMessageBox::NoButton,
+                      QApplication::activeWindow());
+    boite.setTextFormat(Qt::PlainText);
+    QPushButton* oui = boite.addButton(QTexte(TexteOui), QMessageBox::YesRole);
+    QPushButton* non = boite.addButton(QTexte(TexteNon), QMessageBox::NoRole);
+    boite.setDefaultButton(oui);
+    boite.setEscapeButton(non);
+    boite.exec();
+    return boite.clickedButton() == oui;
+}
+
+std::optional<std::string> DialoguesQt::Saisie(const std::string& titre, const std::string& invite,
+                                               const std::string& defaut) {
+    QInputDialog boite(QApplication::activeWindow());
+    boite.setWindowTitle(Q(titre));
+    boite.setLabelText(Q(invite));
+    boite.setTextValue(Q(defaut));
+    boite.setOkButtonText(QTexte(TexteOk));
+    boite.setCancelButtonText(QTexte(TexteAnnuler));
+    if (boite.exec() != QDialog::Accepted) return {};
+    return S(boite.textValue());
+}
+
+std::optional<std::filesystem::path> DialoguesQt::FichierAOuvrir(const DemandeFichier& demande) {
+    QFileDialog dialogue(QApplication::activeWindow());
+    dialogue.setAcceptMode(QFileDialog::AcceptOpen);
+    dialogue.setFileMode(QFileDialog::ExistingFile);
+    Prepare(dialogue, demande, TexteOuvrir);
+    if (dialogue.exec() != QDialog::Accepted) return {};
+    return FichierChoisi(dialogue);
+}
+
+std::optional<std::filesystem::path> DialoguesQt::FichierASauver(const DemandeFichier& demande) {
+    QFileDialog dialogue(QApplication::activeWindow());
+    dialogue.setAcceptMode(QFileDialog::AcceptSave);
+    dialogue.setFileMode(QFileDialog::AnyFile);
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite); // asked below, for the name with its extension
+    Prepare(dialogue, demande, TexteEnregistrer);
+    while (dialogue.exec() == QDialog::Accepted) {
+        const std::filesystem::path chemin = AvecExtension(FichierChoisi(dialogue), MotifChoisi(dialogue, demande));
+        std::error_code sansImportance;
+        if (!std::filesystem::exists(chemin, sansImportance)) return chemin;
+        if (Question(Texte(TexteRemplacer) + "\n" + S(QChemin(chemin.filename())))) return chemin;
+        dialogue.selectFile(QChemin(chemin.filename()));
+    }
+    return {};
+}

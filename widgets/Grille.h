@@ -1,0 +1,47 @@
+// A read-only table of any length. The cells are asked for as they come into view, so that it opens at once.
+#pragma once
+
+#include <QTableView>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class ModeleGrille;
+
+class Grille : public QTableView {
+    Q_OBJECT
+
+public:
+    struct Contenu {
+        std::vector<std::string> entetes; ///< one per column, may hold line breaks
+        int lignes = 0;
+        std::function<std::string(int ligne, int colonne)> cellule; ///< both from 0
+        std::vector<bool> texte; ///< true for a left-aligned column of text; may be empty: all are numbers
+    };
+
+    explicit Grille(QWidget* parent = nullptr);
+
+    void Remplit(Contenu contenu);
+
+    /// Text of a cell, subscripts from 0; empty outside the table.
+    std::string Cellule(int ligne, int colonne) const;
+    int NombreLignes() const;
+    int NombreColonnes() const;
+
+    /// The selected cells, tab-separated, one row a line; empty without a selection.
+    QString TexteSelection() const;
+
+protected:
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+private:
+    void MesureColonnes();
+    void PlaceColonnes();
+
+    ModeleGrille* modele_;
+    std::vector<int> largeurs_; ///< what each column needs, pixels
+};

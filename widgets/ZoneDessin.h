@@ -1,0 +1,27 @@
+// A plain sheet on which a procedure draws through the drawing interface.
+#pragma once
+
+#include "platform/Dessin.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class ZoneDessin : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ZoneDessin(QWidget* parent = nullptr);
+
+    /// The procedure that draws this sheet from now on. A failure in it is told once, and leaves the sheet empty.
+    void Peint(std::function<void(Dessin&)> procedure);
+
+    QSize sizeHint() const override { return {420, 320}; }
+    QSize minimumSizeHint() const override { return {120, 90}; }
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+
+private:
+    std::function<void(Dessin&)> procedure_;
+};

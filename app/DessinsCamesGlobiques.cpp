@@ -16,7 +16,7 @@ constexpr double Entraxe = 34;
 constexpr double RhoCorps = 23;   ///< bottom of the grooves
 constexpr double RhoNervure = 18; ///< top of the ribs
 constexpr double TauBout = 0.86;  ///< ends of the cam, radians on the turret
-constexpr double Axe = -24;       ///< height of the cam's axis in the window
+constexpr double Axe = -22.5;     ///< height of the cam's axis in the window
 constexpr double DemiGalet = 3;
 constexpr double RhoGalet = 22; ///< end of a roller
 
@@ -118,11 +118,11 @@ void DessineOscillateurGlobique(Dessin& dessin) {
     DessineCorps(plume);
     DessineNervure(
         plume, [](double phi) { return DemiCourse * std::cos(phi); }, demiNervure);
-    const PointFigure centre = PlaceTourelle(0, 0), sortie{centre.x - 12, centre.y + 30};
+    const PointFigure centre = PlaceTourelle(0, 0), sortie{centre.x - 12, centre.y + 26};
     for (const double ecart : {-EcartGalets, EcartGalets}) DessineGalet(plume, DemiCourse + ecart, 10);
     plume.Biellette(centre, 6, sortie, 3, Couleur::Bras);
     plume.Biellette(centre, 7, PlaceTourelle(DemiCourse, 9), 6, Couleur::Bras);
     plume.Disque(sortie, 1.4, Couleur::Bras);
     plume.Pivot(centre, 4);
-    plume.Fleche(centre, 38, 62, 92, true);
+    plume.Fleche(centre, 30, 64, 96, true);
 }

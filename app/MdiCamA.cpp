@@ -145,6 +145,7 @@ void MdiCamA::OuvreParType(const TypeEtude* type) {
 void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     const Sablier sablier;
     const std::string nom = S(QChemin(chemin.filename()));
+    Annonce(Texte(TextePret));
     VideEtude();
     try {
         if (!LitFichierEtude(chemin)) return;

@@ -17,7 +17,6 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QToolBar;
-class QToolButton;
 struct ChoixEtude;
 struct EcranEnfant;
 struct TypeEtude;

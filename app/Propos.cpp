@@ -2,6 +2,7 @@
 
 #include "app/Aide.h"
 #include "app/DessinsCames.h"
+#include "app/Version.h"
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/ZoneDessin.h"
@@ -42,7 +43,7 @@ Propos::Propos(QWidget* parent) : QDialog(parent) {
     grande.setBold(true);
     nom->setFont(grande);
     auto* version = FaitEtiquette("Label2");
-    version->setText(QTexte(TexteVersion) + " " + QCoreApplication::applicationVersion());
+    version->setText(QTexte(TexteVersion) + " " + QString::fromLatin1(VersionProgramme));
     auto* ok = new QPushButton;
     ok->setObjectName(QStringLiteral("Ok"));
     ok->setDefault(true);

@@ -6,57 +6,59 @@
 
 namespace {
 
-/// Decimal digits of a finite magnitude: 0.d1d2d3... times ten to `exposant`; no digit at all for zero.
+/// Decimal digits of a finite magnitude: 0.d1d2d3... times ten to `exposant`; no digit at all for zero. The last digit
+/// is never 0.
 struct Decimales {
-    std::string chiffres;
+    char chiffres[24];
+    int nombre = 0;
     int exposant = 0;
+
+    char operator[](int position) const { return position >= 0 && position < nombre ? chiffres[position] : '0'; }
+    void OteZerosFinals() {
+        while (nombre > 0 && chiffres[nombre - 1] == '0') --nombre;
+        if (nombre == 0) exposant = 0;
+    }
 };
 
+/// The shortest digits that read back to the same double.
 Decimales DecomposeDecimales(double magnitude) {
     Decimales d;
     if (magnitude == 0.0) return d;
     char tampon[32];
     const auto fin = std::to_chars(tampon, tampon + sizeof tampon, magnitude, std::chars_format::scientific).ptr;
-    const auto e = std::find(tampon, fin, 'e');
-    for (auto p = tampon; p != e; ++p)
-        if (*p != '.') d.chiffres += *p;
-    const char* debutExposant = e + 1;
-    if (*debutExposant == '+') ++debutExposant;
-    std::from_chars(debutExposant, fin, d.exposant);
-    d.exposant += 1;
-    while (d.chiffres.size() > 1 && d.chiffres.back() == '0') d.chiffres.pop_back();
+    const char* p = tampon;
+    for (; *p != 'e'; ++p)
+        if (*p != '.') d.chiffres[d.nombre++] = *p;
+    ++p;
+    if (*p == '+') ++p;
+    std::from_chars(p, fin, d.exposant);
+    ++d.exposant;
+    d.OteZerosFinals();
     return d;
 }
 
 /// Rounds half away from zero to `decimales` digits behind the point.
 void ArronditDecimales(Decimales& d, int decimales) {
     const int gardes = d.exposant + decimales;
+    if (gardes >= d.nombre) return;
     if (gardes < 0) {
         d = {};
         return;
     }
-    if (static_cast<std::size_t>(gardes) >= d.chiffres.size()) return;
-    const bool monte = d.chiffres[static_cast<std::size_t>(gardes)] >= '5';
-    d.chiffres.resize(static_cast<std::size_t>(gardes));
+    const bool monte = d.chiffres[gardes] >= '5';
+    d.nombre = gardes;
     if (monte) {
         int i = gardes - 1;
-        while (i >= 0 && d.chiffres[static_cast<std::size_t>(i)] == '9')
-            d.chiffres[static_cast<std::size_t>(i--)] = '0';
+        while (i >= 0 && d.chiffres[i] == '9') d.chiffres[i--] = '0';
         if (i >= 0) {
-            ++d.chiffres[static_cast<std::size_t>(i)];
+            ++d.chiffres[i];
         } else {
-            d.chiffres.insert(d.chiffres.begin(), '1');
+            d.chiffres[0] = '1';
+            d.nombre = 1;
             ++d.exposant;
         }
     }
-    while (!d.chiffres.empty() && d.chiffres.back() == '0') d.chiffres.pop_back();
-    if (d.chiffres.empty()) d.exposant = 0;
-}
-
-char ChiffreEn(const Decimales& d, int position) {
-    return position >= 0 && static_cast<std::size_t>(position) < d.chiffres.size()
-               ? d.chiffres[static_cast<std::size_t>(position)]
-               : '0';
+    d.OteZerosFinals();
 }
 
 std::string NonFini(double valeur) {
@@ -117,27 +119,33 @@ bool EstNombre(std::string_view texte) {
     return !t.empty() && LongueurNombre(t) == t.size();
 }
 
-std::string StrTrim(double valeur) {
-    if (!std::isfinite(valeur)) return NonFini(valeur);
+void AjouteStr(std::string& sortie, double valeur) {
     const double magnitude = std::abs(valeur);
-    if (magnitude == 0.0) return "0";
-    const Decimales d = DecomposeDecimales(magnitude);
-    const int nombre = static_cast<int>(d.chiffres.size());
-    std::string texte = valeur < 0 ? "-" : "";
-    if (magnitude < 1e-15 || magnitude > 1e15) {
-        texte += d.chiffres[0];
-        if (nombre > 1) texte += "." + d.chiffres.substr(1);
+    if (!std::isfinite(valeur)) {
+        sortie += NonFini(valeur);
+    } else if (magnitude == 0.0) {
+        sortie += '0';
+    } else if (magnitude >= 1e-15 && magnitude <= 1e15) {
+        char tampon[48];
+        const char* fin = std::to_chars(tampon, tampon + sizeof tampon, magnitude, std::chars_format::fixed).ptr;
+        if (valeur < 0) sortie += '-';
+        const char* debut = magnitude < 1.0 ? tampon + 1 : tampon;
+        sortie.append(debut, fin);
+    } else {
+        const Decimales d = DecomposeDecimales(magnitude);
+        if (valeur < 0) sortie += '-';
+        sortie += d[0];
+        if (d.nombre > 1) sortie.append(1, '.').append(d.chiffres + 1, d.chiffres + d.nombre);
         const int e = d.exposant - 1;
-        texte += e < 0 ? "E-" : "E+";
-        if (std::abs(e) < 10) texte += '0';
-        return texte + std::to_string(std::abs(e));
+        sortie += e < 0 ? "E-" : "E+";
+        if (std::abs(e) < 10) sortie += '0';
+        sortie += std::to_string(std::abs(e));
     }
-    for (int i = 0; i < d.exposant; ++i) texte += ChiffreEn(d, i);
-    if (nombre > d.exposant) {
-        texte += '.';
-        for (int i = std::min(d.exposant, 0); i < nombre; ++i)
-            if (i >= d.exposant) texte += ChiffreEn(d, i);
-    }
+}
+
+std::string StrTrim(double valeur) {
+    std::string texte;
+    AjouteStr(texte, valeur);
     return texte;
 }
 
@@ -146,28 +154,32 @@ std::string Str(double valeur) {
     return texte.front() == '-' ? texte : " " + texte;
 }
 
-std::string Format(double valeur, std::string_view masque) {
-    if (!std::isfinite(valeur)) return NonFini(valeur);
+void AjouteFormat(std::string& sortie, double valeur, std::string_view masque) {
+    if (!std::isfinite(valeur)) {
+        sortie += NonFini(valeur);
+        return;
+    }
     const auto point = masque.find('.');
     const std::string_view entiers = masque.substr(0, point);
     const std::string_view decimales = point == std::string_view::npos ? std::string_view{} : masque.substr(point + 1);
 
     Decimales d = DecomposeDecimales(std::abs(valeur));
     ArronditDecimales(d, static_cast<int>(decimales.size()));
-
-    std::string texte;
-    const int entiersMini = static_cast<int>(std::count(entiers.begin(), entiers.end(), '0'));
-    for (int i = std::max(entiersMini, d.exposant); i > 0; --i) texte += ChiffreEn(d, d.exposant - i);
-    if (point != std::string_view::npos) {
-        texte += '.';
-        const auto dernierZero = decimales.rfind('0');
-        const int decimalesMini = dernierZero == std::string_view::npos ? 0 : static_cast<int>(dernierZero) + 1;
-        const int presentes = static_cast<int>(d.chiffres.size()) - d.exposant;
-        const int ecrites = d.chiffres.empty() ? decimalesMini : std::max(decimalesMini, presentes);
-        for (int i = 0; i < ecrites; ++i) texte += ChiffreEn(d, d.exposant + i);
-    }
     // A value that rounds to zero bears no sign.
-    return valeur < 0 && !d.chiffres.empty() ? "-" + texte : texte;
+    if (valeur < 0 && d.nombre > 0) sortie += '-';
+    const int entiersMini = static_cast<int>(std::count(entiers.begin(), entiers.end(), '0'));
+    for (int i = std::max(entiersMini, d.exposant); i > 0; --i) sortie += d[d.exposant - i];
+    if (point == std::string_view::npos) return;
+    sortie += '.';
+    const int decimalesMini = static_cast<int>(decimales.rfind('0') + 1); // npos + 1 is 0
+    const int ecrites = std::max(decimalesMini, d.nombre - d.exposant);
+    for (int i = 0; i < ecrites; ++i) sortie += d[d.exposant + i];
+}
+
+std::string Format(double valeur, std::string_view masque) {
+    std::string texte;
+    AjouteFormat(texte, valeur, masque);
+    return texte;
 }
 
 std::string Trim(std::string_view texte) {

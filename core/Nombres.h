@@ -32,6 +32,10 @@ std::string Str(double valeur);
 /// `Str` without its leading blank.
 std::string StrTrim(double valeur);
 
+/// Appends `StrTrim` of a value, or `Format` of it, for texts of many numbers.
+void AjouteStr(std::string& sortie, double valeur);
+void AjouteFormat(std::string& sortie, double valeur, std::string_view masque);
+
 /// `valeur` by a mask of '0' (a digit always shown) and '#' (a digit shown where there is one) around one '.'. The
 /// value is rounded half away from zero on its shortest decimal digits. The point of the mask always shows: "###.##"
 /// writes 5 as "5." and 0 as ".".

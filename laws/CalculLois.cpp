@@ -96,6 +96,13 @@ std::int16_t ChercheLoi(const std::string& nomLoi) {
     return 0;
 }
 
+std::vector<std::string> NomsLoisZones() {
+    std::vector<std::string> noms;
+    for (long i = 1; i <= etude.ListeLois.BorneHaute(); ++i)
+        if (etude.ListeLois[i].NomLoi.find("MSH") == std::string::npos) noms.push_back(etude.ListeLois[i].NomLoi);
+    return noms;
+}
+
 void CalculeCoefs(Loi& loi, double pourcentage) {
     const double c = pourcentage;
     loi.CoefA = (100.0 - c) / 400.0;

@@ -25,6 +25,9 @@ bool EstLoiSpe(const std::string& nomLoi);
 /// Subscript of the row of `ListeLois` whose name is exactly `nomLoi`, among 1..`NombreLois`; 0 when there is none.
 std::int16_t ChercheLoi(const std::string& nomLoi);
 
+/// Names of the laws that may be given to a zone, in the order of the catalogue: all but the MSH family.
+std::vector<std::string> NomsLoisZones();
+
 /// The coefficients of the modified sine with a share of constant speed.
 /// @param pourcentage of the interval at constant speed, 0 to less than 100
 void CalculeCoefs(Loi& loi, double pourcentage);

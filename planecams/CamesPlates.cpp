@@ -17,29 +17,41 @@ void OublieResultats() {
     etude.Erreur = Vrai;
 }
 
-} // namespace
+/// The stages that tell one plane cam from the other.
+struct Etapes {
+    bool bras; ///< an arm: `Mouvement` is filled, and the arm must not cross the cam centre
+    void (*mouvement)();
+    void (*forces)();
+};
 
-void CalculeCameAngulaire() {
+void CalculeCamePlate(const Etapes& etapes) {
     ZonesEnPoints zones;
     try {
         zones.Passe();
         etude.Points.Redimensionne(etude.NombrePoints);
-        etude.Mouvement.Redimensionne(etude.NombrePoints);
+        etude.Mouvement.Redimensionne(etapes.bras ? etude.NombrePoints : -1);
         etude.Profil.Redimensionne(etude.NombrePoints);
         etude.Erreur = Faux;
-        CalculeMouvementBras();
+        etapes.mouvement();
         if (SansErreur()) {
             CalculeProfil();
             etude.Erreur = Faux;
-            ControleBrasCentre();
+            if (etapes.bras) ControleBrasCentre();
         }
-        if (SansErreur()) {
-            etude.Erreur = Faux;
-            ControleCourbure();
-        }
-        if (SansErreur()) CalculeForcesBras();
+        if (SansErreur()) ControleCourbure();
+        if (SansErreur()) etapes.forces();
     } catch (...) {
         OublieResultats();
         throw;
     }
+}
+
+} // namespace
+
+void CalculeCameAngulaire() {
+    CalculeCamePlate({true, CalculeMouvementBras, CalculeForcesBras});
+}
+
+void CalculeCameLineaire() {
+    CalculeCamePlate({false, CalculeMouvementLineaire, CalculeForcesLineaire});
 }

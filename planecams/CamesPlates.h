@@ -5,3 +5,6 @@
 /// whether the results are to be shown.
 /// @throws ErreurExecution whatever stops the arithmetic; the zones are back in degrees and no table is left.
 void CalculeCameAngulaire();
+
+/// The same for the plane cam with a translating follower.
+void CalculeCameLineaire();

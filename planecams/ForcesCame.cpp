@@ -62,3 +62,17 @@ void CalculeForcesBras() {
         SuitEfforts(p);
     }
 }
+
+void CalculeForcesLineaire() {
+    etude.ForceGaletMax = 0;
+    etude.CoupleMax = 0;
+    CalculeMasseCame();
+    const double gravite = GraviteProjetee();
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        Point& p = etude.Points[i];
+        const double b = etude.Profil[i].AngleTangent - Pi / 2.0;
+        p.ForceGalet = Divise(etude.MasseA * (FacteurDynamique * p.AccelRayon + gravite) + etude.ForceY, std::cos(b));
+        p.Couple = (p.Rayon / 1000.0) * p.ForceGalet * std::tan(b);
+        SuitEfforts(p);
+    }
+}

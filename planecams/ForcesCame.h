@@ -4,3 +4,6 @@
 /// Forces and torques of the arm cam.
 /// @throws ErreurExecution division by zero for an arm O1-P of length 0.
 void CalculeForcesBras();
+
+/// Forces and torques of the cam with a translating follower.
+void CalculeForcesLineaire();

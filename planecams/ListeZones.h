@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
-std::vector<std::string> EntetesZones();
+/// @param bras the zones are those of an arm, and have angles beside their radii
+std::vector<std::string> EntetesZones(bool bras);
 
 /// True for the columns that hold a text.
-std::vector<bool> ColonnesTexteZones();
+std::vector<bool> ColonnesTexteZones(bool bras);
 
 /// Text of a cell, `ligne` and `colonne` from 0. Only the first `entrees` zones have their values yet.
-std::string CelluleZone(int ligne, int colonne, std::int16_t entrees);
+std::string CelluleZone(bool bras, int ligne, int colonne, std::int16_t entrees);

@@ -66,8 +66,6 @@ void CalculeVitesseRayon(Point& p, const PointLoi& m) {
     const double V = m.Vitesse, A = m.Accel;
     p.VitesseRayon = V * ((c * b - s * a) * (-Divise(L, R)));
     p.AccelRayon = (L / R) * (s * (V * V * b + A * a) + c * (V * V * a - A * b)) - p.VitesseRayon * p.VitesseRayon / R;
-    SuitMaximum(p.VitesseRayon, p.Angle, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
-    SuitMaximum(p.AccelRayon, p.Angle, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
 }
 
 /// The point on the arm, its speed and its acceleration. CoteA stands here in place of an arm length, on purpose.
@@ -85,8 +83,16 @@ void CalculePointA(Point& p, const PointLoi& m) {
     p.AA = 0.001 * etude.CoteA * std::sqrt(A * A + V * V * V * V);
 }
 
-void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, double course, double depart, double T) {
-    m.Course = course * unite.Course + depart;
+/// What a zone gives to each of its points.
+struct Parcours {
+    double course; ///< signed travel, degrees or mm
+    double depart; ///< value at its start: the end of the zone before
+    double T;      ///< duration, s
+};
+
+void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcours& zone) {
+    const double course = zone.course, T = zone.T;
+    m.Course = course * unite.Course + zone.depart;
     m.Vitesse = unite.Vitesse * (course * Pi / 180.0) / T;
     m.Accel = unite.Accel * (course * Pi / 180.0) / (T * T);
     if (std::abs(m.Course) > etude.LoiCourseMax) etude.LoiCourseMax = std::abs(m.Course);
@@ -94,10 +100,49 @@ void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, double cours
     SuitMaximum(m.Accel, p.Angle, etude.LoiAccelMax, etude.LoiAccelMaxAngle);
     p.AngleBras = m.Course;
     p.Rayon = RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, p.AngleBras, etude.AnglePO1A);
-    SuitRayon(p.Rayon);
     CalculeVitesseRayon(p, m);
-    CalculeVitesseGalet(p);
     CalculePointA(p, m);
+}
+
+void CalculePointLineaire(Point& p, const PointLoi& unite, const Parcours& zone) {
+    const double C = zone.course / 1000.0;
+    p.Rayon = unite.Course * zone.course + zone.depart;
+    p.VitesseRayon = unite.Vitesse * C / zone.T;
+    p.AccelRayon = unite.Accel * C / (zone.T * zone.T);
+}
+
+/// Walks the zones and calculates each point, from the unit law of its zone and from where the zone before ended.
+/// @param calcule called with the subscript of the point, its row of the unit law and its zone; it sets radius, speed
+/// and
+///        acceleration of the point
+template <class Calcule>
+void DerouleZones(double Zone::*valeurDepart, double Zone::*valeurFinale, bool loiDeFichier, Calcule calcule) {
+    RemetExtremes();
+    PointsTropPetits tropPetits;
+    std::int16_t decalage = 0;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        if (!loiDeFichier) AppliqueLoi(z);
+        const Zone& zone = etude.Zones[z];
+        if (z == 1) etude.Zones[0].*valeurFinale = zone.*valeurDepart;
+        const Parcours parcours{CourseSignee(zone.*valeurDepart, zone.*valeurFinale), etude.Zones[z - 1].*valeurFinale,
+                                zone.Temps};
+        if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+        // The last point of a zone is written again by the first of the next.
+        for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
+            const long k = decalage + j;
+            Point& p = etude.Points[k];
+            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
+            calcule(k, etude.LoiUnite[j], parcours);
+            tropPetits.Controle(p.Rayon, k);
+            SuitRayon(p.Rayon);
+            SuitMaximum(p.VitesseRayon, p.Angle, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
+            SuitMaximum(p.AccelRayon, p.Angle, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
+            CalculeVitesseGalet(p);
+        }
+        decalage = Entier16(decalage + zone.AngleCame);
+    }
+    CalculeVitesseGaletMoyenne();
+    tropPetits.Annonce();
 }
 
 } // namespace
@@ -119,29 +164,18 @@ void CalculeRayonsZone(Zone& zone) {
 }
 
 void CalculeMouvementBras() {
-    RemetExtremes();
-    PointsTropPetits tropPetits;
-    std::int16_t decalage = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        // A law file has filled the unit law already, and left the catalogue with its one row.
-        if (etude.ListeLois[1].NomLoi != NomLoiFichier) AppliqueLoi(z);
-        const Zone& zone = etude.Zones[z];
-        const double course = CourseSignee(zone.AngleDepart, zone.AngleFinal);
-        if (z == 1) etude.Zones[0].AngleFinal = zone.AngleDepart;
-        const double depart = etude.Zones[z - 1].AngleFinal;
-        if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
-        // The last point of a zone is written again by the first of the next.
-        for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
-            const long k = decalage + j;
-            Point& p = etude.Points[k];
-            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
-            CalculePointBras(p, etude.Mouvement[k], etude.LoiUnite[j], course, depart, zone.Temps);
-            tropPetits.Controle(p.Rayon, k);
-        }
-        decalage = Entier16(decalage + zone.AngleCame);
-    }
-    CalculeVitesseGaletMoyenne();
-    tropPetits.Annonce();
+    // A law file has filled the unit law already, and left the catalogue with its one row.
+    const bool loiDeFichier = etude.ListeLois[1].NomLoi == NomLoiFichier;
+    DerouleZones(&Zone::AngleDepart, &Zone::AngleFinal, loiDeFichier,
+                 [](long k, const PointLoi& unite, const Parcours& zone) {
+                     CalculePointBras(etude.Points[k], etude.Mouvement[k], unite, zone);
+                 });
+}
+
+void CalculeMouvementLineaire() {
+    DerouleZones(&Zone::RayonDepart, &Zone::RayonFinal, false, [](long k, const PointLoi& unite, const Parcours& zone) {
+        CalculePointLineaire(etude.Points[k], unite, zone);
+    });
 }
 
 ZonesEnPoints::ZonesEnPoints() {

@@ -32,6 +32,10 @@ void CalculeRayonsZone(Zone& zone);
 /// Zones to `Mouvement` and `Points` of the arm cam, with the extreme values.
 void CalculeMouvementBras();
 
+/// Zones to `Points` of the cam with a translating follower, with the extreme values. The zones give radii, and every
+/// zone is evaluated by its law: a law file has no place here.
+void CalculeMouvementLineaire();
+
 /// Holds the extents of the zones in points for the length of a calculation. They are back in degrees when it is over,
 /// on every way out.
 class ZonesEnPoints {

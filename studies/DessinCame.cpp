@@ -5,6 +5,7 @@
 
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "studies/TypesEtude.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,12 +21,24 @@ PointDessin Pivot() {
     return {-etude.CoteA, -etude.CoteB};
 }
 
+bool ABras() {
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    return type != nullptr && type->bras;
+}
+
 PointDessin CentreGalet(long i) {
+    // A translating follower stands on the vertical through the cam centre.
+    if (!ABras()) return {0, etude.Points[i].Rayon};
     return Polaire(Pivot(), etude.RayonO1P, (etude.AnglePO1A + etude.Points[i].AngleBras) / RadDeg);
 }
 
 PointDessin PointA(long i) {
     return Polaire(Pivot(), etude.RayonO1A, etude.Points[i].AngleBras / RadDeg);
+}
+
+/// Length of the stem above the roller of a translating follower, mm.
+double LongueurTige() {
+    return etude.RayonMax / 3;
 }
 
 /// What the drawing covers at any angle, so that the scale does not change while the cam turns.
@@ -43,6 +56,10 @@ struct Etendue {
 Etendue CalculeEtendue() {
     const double came = etude.RayonMax + etude.RayonGalet;
     Etendue e{-came, -came, came, came};
+    if (!ABras()) {
+        e.Contient({0, came + LongueurTige()}, 2);
+        return e;
+    }
     e.Contient(Pivot(), 8);
     for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
         e.Contient(PointA(i), 6);
@@ -90,6 +107,7 @@ void DessineLegende(Dessin& dessin) {
                   {Couleur::Bras, 217, false}};
     double x = 14;
     for (const auto& ligne : lignes) {
+        if (ligne.couleur == Couleur::Bras && !ABras()) continue;
         dessin.Ligne({x, 16}, {x + 20, 16}, {ligne.couleur, 2.0, ligne.pointille});
         dessin.Texte({x + 26, 16}, Texte(ligne.texte), Ancrage::Gauche, 12);
         x += 46 + dessin.LargeurTexte(Texte(ligne.texte), 12);
@@ -114,30 +132,38 @@ void DessineProfils(Dessin& dessin, const Vue& vue, double radians) {
     dessin.Ligne(vue({0, 0}), interieur.front(), {Couleur::Repere, 1.0});
 }
 
+void NommePoint(Dessin& dessin, const Vue& vue, PointDessin p, const char* nom) {
+    const PointDessin place = vue(p);
+    dessin.Texte({place.x + 8, place.y + 12}, nom, Ancrage::Gauche, 12);
+}
+
+void DessineBras(Dessin& dessin, const Vue& vue, long i) {
+    const PointDessin P = CentreGalet(i), O1 = Pivot(), A = PointA(i);
+    dessin.Ligne(vue(O1), vue(P), {Couleur::Bras, 2.4});
+    dessin.Ligne(vue(O1), vue(A), {Couleur::Bras, 2.4});
+    for (const auto& articulation : {O1, P, A}) dessin.Disque(vue(articulation), 3.5, {Couleur::Bras, 1.4});
+    NommePoint(dessin, vue, O1, "O1");
+    NommePoint(dessin, vue, A, "A");
+}
+
 } // namespace
 
 void DessineCamePlate(Dessin& dessin, double angle) {
     if (etude.Points.Vide() || etude.NombrePoints == 0) return;
     const long i = std::clamp(std::lround(angle * etude.PointsParDegre), 0L, static_cast<long>(etude.NombrePoints));
     const Vue vue(dessin, CalculeEtendue());
-    const PointDessin P = CentreGalet(i), O1 = Pivot(), A = PointA(i);
+    const PointDessin P = CentreGalet(i);
     const double radians = std::atan2(P.y, P.x) - etude.Points[i].Angle / RadDeg;
-
     DessineProfils(dessin, vue, radians);
     const double croix = etude.RayonMin / 6;
     const Trait axe{Couleur::Axe, 1.0};
     dessin.Ligne(vue({-croix, 0}), vue({croix, 0}), axe);
     dessin.Ligne(vue({0, -croix}), vue({0, croix}), axe);
+    NommePoint(dessin, vue, {0, 0}, "O");
     dessin.Disque(vue(P), etude.RayonGalet * vue.echelle, {Couleur::Galet, 1.6});
-    dessin.Ligne(vue(O1), vue(P), {Couleur::Bras, 2.4});
-    dessin.Ligne(vue(O1), vue(A), {Couleur::Bras, 2.4});
-    for (const auto& articulation : {O1, P, A}) dessin.Disque(vue(articulation), 3.5, {Couleur::Bras, 1.4});
-    const auto nomme = [&](PointDessin p, const char* nom) {
-        const PointDessin place = vue(p);
-        dessin.Texte({place.x + 8, place.y + 12}, nom, Ancrage::Gauche, 12);
-    };
-    nomme(O1, "O1");
-    nomme(A, "A");
-    nomme({0, 0}, "O");
+    if (ABras())
+        DessineBras(dessin, vue, i);
+    else
+        dessin.Ligne(vue(P), vue({P.x, P.y + etude.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
     DessineLegende(dessin);
 }

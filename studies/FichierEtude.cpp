@@ -1,6 +1,7 @@
 #include "studies/FichierEtude.h"
 
 #include "core/FichierEntier.h"
+#include "core/Lignes.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
@@ -12,27 +13,10 @@
 
 namespace {
 
-/// The lines of a file one after the other, without their line ends.
-class Lignes {
-public:
-    explicit Lignes(std::string_view contenu) : reste_(contenu) {}
-
-    /// @throws ErreurExecution input past the end of the file.
-    std::string_view Suivante() {
-        if (reste_.empty()) throw ErreurExecution(NumeroErreur::FinDeFichier);
-        const auto fin = reste_.find('\n');
-        std::string_view ligne = reste_.substr(0, fin);
-        reste_ = fin == std::string_view::npos ? std::string_view{} : reste_.substr(fin + 1);
-        if (!ligne.empty() && ligne.back() == '\r') ligne.remove_suffix(1);
-        return ligne;
-    }
-
-    /// A number by its leading digits, with the point or the comma; a text reads as 0.
-    double Nombre() { return ValVirgule(Suivante()); }
-
-private:
-    std::string_view reste_;
-};
+/// A number by its leading digits, with the point or the comma; a text reads as 0.
+double LitNombre(Lignes& lignes) {
+    return ValVirgule(lignes.Suivante());
+}
 
 bool LoiConnue(const std::string& nomLoi) {
     return nomLoi.find("Spe") != std::string::npos || ChercheLoi(nomLoi) != 0;
@@ -40,11 +24,11 @@ bool LoiConnue(const std::string& nomLoi) {
 
 void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
     lignes.Suivante();
-    zone.*type.valeurDepart = lignes.Nombre();
-    zone.*type.valeurFinale = lignes.Nombre();
-    zone.AngleCame = lignes.Nombre();
+    zone.*type.valeurDepart = LitNombre(lignes);
+    zone.*type.valeurFinale = LitNombre(lignes);
+    zone.AngleCame = LitNombre(lignes);
     zone.NomLoi = lignes.Suivante();
-    zone.CoefSymetrie = lignes.Nombre();
+    zone.CoefSymetrie = LitNombre(lignes);
 }
 
 /// Radii of the roller centre at the ends of a zone of an arm cam, each zone starting where the one before ends.
@@ -76,8 +60,8 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
     Lignes lignes(contenu);
     lignes.Suivante();
     lignes.Suivante();
-    for (const auto& champ : type.champs) etude.*champ.membre = lignes.Nombre();
-    etude.NombreZones = Entier16(lignes.Nombre());
+    for (const auto& champ : type.champs) etude.*champ.membre = LitNombre(lignes);
+    etude.NombreZones = Entier16(LitNombre(lignes));
     etude.Zones.Redimensionne(etude.NombreZones);
     etude.TypeCame = type.nom;
     for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
@@ -92,7 +76,7 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
         if (type.bras) CalculeRayonsZoneLue(zone, etude.Zones[z - 1], z == 1);
     }
     etude.ZonesConjuguees = etude.Zones;
-    etude.PointsParDegre = Entier16(lignes.Nombre());
+    etude.PointsParDegre = Entier16(LitNombre(lignes));
     return true;
 }
 
@@ -107,7 +91,7 @@ bool LitFichierEtude(const std::filesystem::path& chemin) {
 
 std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     std::string contenu;
-    const auto ligne = [&](const std::string& texte) { contenu += texte + "\r\n"; };
+    const auto ligne = [&](const std::string& texte) { contenu += texte + FinDeLigne; };
     const auto nombre = [&](std::string texte) {
         const auto point = texte.find('.');
         if (point != std::string::npos) texte[point] = separateur;

@@ -78,8 +78,9 @@ constexpr auto rayonDepart = &Zone::RayonDepart, rayonFinal = &Zone::RayonFinal;
 
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, angleDepart, angleFinal, M2, M2, true,
-     CalculeCameAngulaire},
-    {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, rayonDepart, rayonFinal, M2Large, M2Large, false},
+     CalculeCameAngulaire, ChercheFauteAngulaire},
+    {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, rayonDepart, rayonFinal, M2Large, M2Large, false,
+     CalculeCameLineaire, ChercheFauteLineaire},
     {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, rayonDepart, rayonFinal, M2Large, M2Large, false},
     {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, angleDepart, angleFinal, M2, M2, false},
     {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, angleDepart, angleFinal, M2, M2, false},

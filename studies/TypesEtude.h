@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/Etude.h"
-#include "planecams/SaisieCame.h"
+#include "planecams/LimitesSaisie.h"
 #include "platform/Dialogues.h"
 
 #include <filesystem>

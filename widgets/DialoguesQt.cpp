@@ -68,18 +68,22 @@ std::filesystem::path FichierChoisi(const QFileDialog& dialogue) {
 }
 
 std::string MotifChoisi(const QFileDialog& dialogue, const DemandeFichier& demande) {
-    const qsizetype indice = dialogue.nameFilters().indexOf(dialogue.selectedNameFilter());
-    if (indice < 0 || static_cast<std::size_t>(indice) >= demande.filtres.size()) return {};
-    return demande.filtres[static_cast<std::size_t>(indice)].motif;
+    // The toolkit's own dialogue gives the filter back without its patterns, that of the system with them.
+    const QString choisi = dialogue.selectedNameFilter();
+    const QStringList filtres = Filtres(demande);
+    for (std::size_t i = 0; i < demande.filtres.size(); ++i)
+        if (filtres[static_cast<qsizetype>(i)].startsWith(choisi)) return demande.filtres[i].motif;
+    return {};
 }
 
 } // namespace
 
 std::filesystem::path AvecExtension(const std::filesystem::path& chemin, const std::string& motif) {
     const std::filesystem::path extension = std::filesystem::path(motif).extension();
-    if (chemin.has_extension() || extension == ".*") return chemin;
+    const bool sans = !chemin.has_extension() || chemin.extension() == "."; // "came." gets no second point
+    if (!sans || extension == ".*") return chemin;
     std::filesystem::path complet = chemin;
-    complet.replace_extension(extension); // "came." has an empty extension: no second point
+    complet.replace_extension(extension);
     return complet;
 }
 

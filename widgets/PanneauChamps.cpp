@@ -59,3 +59,9 @@ ChampNombre* PanneauChamps::Champ(const char* controle) const {
     }
     throw std::logic_error(std::string("no field ") + controle + " among:" + noms);
 }
+
+ChampNombre* PanneauChamps::ChampDe(double Etude::*membre) const {
+    for (std::size_t i = 0; i < lesChamps_.size(); ++i)
+        if (table_[i].membre == membre) return lesChamps_[i];
+    return nullptr;
+}

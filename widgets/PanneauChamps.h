@@ -35,6 +35,8 @@ public:
 
     /// @throws std::logic_error when there is no such field, with the names there are.
     ChampNombre* Champ(const char* controle) const;
+    /// The field of a member of the record; none when this panel does not have it.
+    ChampNombre* ChampDe(double Etude::*membre) const;
     const std::vector<ChampNombre*>& Champs() const { return lesChamps_; }
 
     /// The grid of the fields, one row each, for an owner that adds rows below them.

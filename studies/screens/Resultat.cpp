@@ -235,10 +235,13 @@ QWidget* Resultat::FaitGraphiques(const char* titre1, ZoneDessin** zone1, const 
 
 void Resultat::Montre() {
     setWindowTitle((etude.NomFichier.empty() ? QString() : Q(etude.NomFichier) + " ") + QTexte(118));
-    RemplitValeurs();
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    if (type == nullptr) return;
+    RemplitValeurs(*type);
     RemplitRecalcul();
-    RemplitGrilles();
+    RemplitGrilles(*type);
     RemplitGraphiques();
+    MontreSelonType(*type);
     came_->Montre();
 }
 
@@ -246,7 +249,7 @@ void Resultat::MontreRotation() {
     onglets_->setCurrentIndex(OngletRotation);
 }
 
-void Resultat::RemplitValeurs() {
+void Resultat::RemplitValeurs(const TypeEtude& type) {
     for (std::size_t i = 0; i < std::size(valeurs); ++i) {
         MontreNombre(*valeurs_[i], valeurs[i].valeur(), valeurs[i].masque);
         if (valeurs[i].angle != nullptr)
@@ -256,10 +259,8 @@ void Resultat::RemplitValeurs() {
         delete ancien->widget();
         delete ancien;
     }
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr) return;
     int ligne = 0;
-    for (const auto& champ : type->champs) {
+    for (const auto& champ : type.champs) {
         if (EstRecalculable(champ.membre)) continue;
         auto* valeur = FaitValeur("");
         valeur->setObjectName(QString("Donnee") + champ.nom);
@@ -272,10 +273,11 @@ void Resultat::RemplitValeurs() {
     dispositionDonnees_->setRowStretch(ligne, 1);
 }
 
-void Resultat::RemplitGrilles() {
-    zones_->Remplit({EntetesZones(), etude.NombreZones,
-                     [](int ligne, int colonne) { return CelluleZone(ligne, colonne, etude.NombreZones); },
-                     ColonnesTexteZones()});
+void Resultat::RemplitGrilles(const TypeEtude& type) {
+    const bool bras = type.bras;
+    zones_->Remplit({EntetesZones(bras), etude.NombreZones,
+                     [bras](int ligne, int colonne) { return CelluleZone(bras, ligne, colonne, etude.NombreZones); },
+                     ColonnesTexteZones(bras)});
     RemplitListage(*grilleGalet_, ColonnesGalet());
     RemplitListage(*grilleBras_, ColonnesBras());
     RemplitListage(*grilleEfforts_, ColonnesEfforts());
@@ -291,6 +293,27 @@ void Resultat::RemplitGraphiques() {
 
 void Resultat::RemplitRecalcul() {
     for (std::size_t i = 0; i < champs_.size(); ++i) champs_[i]->Montre(etude.*champsRecalcul[i].membre);
+}
+
+void Resultat::MontreSelonType(const TypeEtude& type) {
+    onglets_->setUpdatesEnabled(false);
+    findChild<QWidget*>("GroupeBras")->setVisible(type.bras);
+    findChild<QWidget*>("TitrePicture5")->setVisible(type.bras);
+    graphiqueBras_->setVisible(type.bras);
+    listages_->setTabVisible(listages_->indexOf(grilleBras_), type.bras);
+    auto* grille = qobject_cast<QGridLayout*>(recalcul_->parentWidget()->layout());
+    for (std::size_t i = 0; i < champs_.size(); ++i) {
+        const bool employe = std::any_of(type.champs.begin(), type.champs.end(), [&](const ChampFichier& champ) {
+            return champ.membre == champsRecalcul[i].membre;
+        });
+        int rang = 0, colonne = 0, etendueRang = 0, etendueColonne = 0;
+        grille->getItemPosition(grille->indexOf(champs_[i]), &rang, &colonne, &etendueRang, &etendueColonne);
+        for (int c = 0; c < 3; ++c)
+            if (auto* element = grille->itemAtPosition(rang, c)) element->widget()->setVisible(employe);
+    }
+    // Without an arm there is no point A for the mass to stand at.
+    findChild<QLabel*>("EtiquetteText2")->setText(QTexte(type.bras ? 164 : 163));
+    onglets_->setUpdatesEnabled(true);
 }
 
 bool Resultat::RefuseSiRotation() {

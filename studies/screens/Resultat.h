@@ -38,8 +38,9 @@ private:
     QWidget* FaitRecalcul();
     QWidget* FaitListages();
     QWidget* FaitGraphiques(const char* titre1, ZoneDessin** zone1, const char* titre2, ZoneDessin** zone2);
-    void RemplitValeurs();
-    void RemplitGrilles();
+    void RemplitValeurs(const TypeEtude& type);
+    void RemplitGrilles(const TypeEtude& type);
+    void MontreSelonType(const TypeEtude& type);
     void RemplitGraphiques();
     void RemplitRecalcul();
     bool FauteDeDonnee(const TypeEtude& type);

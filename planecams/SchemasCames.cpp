@@ -1,4 +1,4 @@
-#include "planecams/SchemaBras.h"
+#include "planecams/SchemasCames.h"
 
 #include "core/Etude.h"
 
@@ -106,6 +106,28 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
     const PointDessin nomAngle = Polaire(O1, 43, AngleBras + AnglePO1A / 2);
     plan.Nom(nomAngle, "P-O1-A", Ancrage::Gauche, accent == "P-O1-A");
     plan.Nom({O1.x + 81, O1.y + 6}, "(a)", Ancrage::Gauche, false);
+}
+
+void DessineSchemaTranslation(Dessin& dessin) {
+    constexpr double galet = 13;
+    const PointDessin O{0, 0}, P{0, 66};
+    const Trait cote{Couleur::TexteDiscret, 1.0}, axe{Couleur::Graduation, 1.0, true};
+    Plan plan(dessin, {-90, -84}, {98, 140}, 10);
+    plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
+    plan.Ligne({-86, 0}, {86, 0}, axe);
+    plan.Ligne({0, -80}, {0, 136}, axe);
+    plan.Ligne(P, {0, 118}, {Couleur::Bras, 2.2});
+    for (const double x : {-9.0, 9.0}) plan.Ligne({x, 96}, {x, 128}, {Couleur::Axe, 1.4});
+    plan.Disque(P, galet, {Couleur::Galet, 1.6});
+    for (const auto& centre : {O, P}) plan.Disque(centre, 2.6, {Couleur::Axe, 1.4});
+    plan.Ligne(P, {84, P.y}, cote);
+    plan.Fleche({78, P.y / 2}, {78, 0}, cote);
+    plan.Fleche({78, P.y / 2}, {78, P.y}, cote);
+    plan.Nom({83, P.y / 2}, "R", Ancrage::Gauche, false);
+    plan.Nom({7, -9}, "O", Ancrage::Gauche, false);
+    plan.Nom({-17, P.y + 4}, "P", Ancrage::Droite, false);
+    plan.Fleche({-26, 100}, {-26, 126}, {Couleur::Repere, 1.6});
+    plan.Nom({-32, 113}, "y", Ancrage::Droite, true);
 }
 
 void DessinePesanteur(Dessin& dessin, double angle) {

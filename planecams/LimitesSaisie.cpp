@@ -1,16 +1,29 @@
-#include "planecams/SaisieCame.h"
+#include "planecams/LimitesSaisie.h"
 
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
 
 #include <algorithm>
 
-std::optional<FauteDonnee> ChercheFauteAngulaire() {
-    constexpr FauteDonnee nonNuls[] = {
-        {&Etude::CoteA, 197}, {&Etude::RayonO1P, 202}, {&Etude::RayonGalet, 201}, {&Etude::VitesseCame, 200}};
+namespace {
+
+std::optional<FauteDonnee> ChercheNul(std::span<const FauteDonnee> nonNuls) {
     for (const auto& faute : nonNuls)
         if (etude.*faute.membre == 0.0) return faute;
     return {};
+}
+
+} // namespace
+
+std::optional<FauteDonnee> ChercheFauteAngulaire() {
+    constexpr FauteDonnee nonNuls[] = {
+        {&Etude::CoteA, 197}, {&Etude::RayonO1P, 202}, {&Etude::RayonGalet, 201}, {&Etude::VitesseCame, 200}};
+    return ChercheNul(nonNuls);
+}
+
+std::optional<FauteDonnee> ChercheFauteLineaire() {
+    constexpr FauteDonnee nonNuls[] = {{&Etude::RayonGalet, 201}, {&Etude::VitesseCame, 200}};
+    return ChercheNul(nonNuls);
 }
 
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {

@@ -17,6 +17,9 @@ struct FauteDonnee {
 /// The first scalar of the arm cam at which the calculation could not but divide by zero; none when all will do.
 std::optional<FauteDonnee> ChercheFauteAngulaire();
 
+/// The same for the cam with a translating follower.
+std::optional<FauteDonnee> ChercheFauteLineaire();
+
 enum class ChampZone { Symetrie, NomLoi, AngleCame };
 
 struct FauteZone {

@@ -9,5 +9,8 @@
 /// @param accent name of the dimension to set off ("a", "b", "O1-A", "O1-P", "P-O1-A", "galet"), or empty
 void DessineSchemaBras(Dessin& dessin, const std::string& accent);
 
+/// The translating follower on its radial line, not to scale, with the radius of its roller centre named.
+void DessineSchemaTranslation(Dessin& dessin);
+
 /// The direction of gravity: an arrow at `angle` degrees from the x axis, counter-clockwise.
 void DessinePesanteur(Dessin& dessin, double angle);

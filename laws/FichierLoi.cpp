@@ -1,0 +1,67 @@
+#include "laws/FichierLoi.h"
+
+#include "core/Etude.h"
+#include "core/FichierEntier.h"
+#include "core/Lignes.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The three numbers of a line, cut at its first two ";". A line without them reads as zeros.
+PointLoi LitPoint(std::string_view ligne) {
+    const auto premier = ligne.find(';');
+    if (premier == std::string_view::npos) return {};
+    const auto second = ligne.find(';', premier + 1);
+    if (second == std::string_view::npos) return {Val(ligne.substr(0, premier)), 0, 0};
+    // The sign of the return half and of the deceleration is lost, on purpose.
+    return {Val(ligne.substr(0, premier)), std::abs(Val(ligne.substr(premier + 1, second - premier - 1))),
+            std::abs(Val(ligne.substr(second + 1)))};
+}
+
+std::string Decimales(double valeur, const char* masque) {
+    return StrTrim(Val(Format(valeur, masque)));
+}
+
+} // namespace
+
+std::string ComposeFichierLoi() {
+    std::string contenu;
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        const PointLoi& p = etude.LoiUnite[i];
+        contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + FinDeLigne;
+    }
+    for (long i = etude.NombrePoints; i <= PointsLoiFichier; ++i) contenu += std::string("1;0;0") + FinDeLigne;
+    return contenu;
+}
+
+std::string ComposeListageLoi() {
+    std::string contenu;
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        const PointLoi& p = etude.Mouvement[i];
+        contenu += StrTrim(Divise(static_cast<double>(i), etude.PointsParDegre)) + ";" + Decimales(p.Course, "0.000") +
+                   ";" + Decimales(p.Vitesse, "0.00000") + ";" + Decimales(p.Accel, "0.00000") + FinDeLigne;
+    }
+    return contenu;
+}
+
+void LitLoi(std::string_view contenu) {
+    Lignes lignes(contenu);
+    Tableau<PointLoi> table;
+    table.Redimensionne(PointsLoiFichier);
+    Loi loi;
+    loi.NomLoi = NomLoiFichier;
+    for (long i = 1; i <= PointsLoiFichier; ++i) {
+        table[i] = LitPoint(lignes.Suivante());
+        loi.Cv = std::max(loi.Cv, table[i].Vitesse);
+        loi.Ca = std::max(loi.Ca, table[i].Accel);
+    }
+    etude.LoiUnite = std::move(table);
+    etude.ListeLois.Redimensionne(1);
+    etude.ListeLois[1] = loi;
+}
+
+void LitFichierLoi(const std::filesystem::path& chemin) {
+    LitLoi(LitFichierEntier(chemin));
+}

@@ -1,0 +1,63 @@
+#include "planecams/screens/DoProfil.h"
+
+#include "data/Textes.h"
+#include "planecams/CamesPlates.h"
+#include "planecams/SchemasCames.h"
+#include "planecams/screens/PanneauPesanteur.h"
+#include "platform/Dialogues.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Nomme.h"
+#include "widgets/PanneauChamps.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int UniteMm = 18, UniteTours = 21, UniteKg = 24, UniteN = 25;
+
+constexpr ChampSaisie champsGeometrie[] = {
+    {"Text1", 123, UniteMm, &Etude::RayonGalet},
+    {"Text2", 157, UniteTours, &Etude::VitesseCame},
+    {"Text3", 161, UniteMm, &Etude::EpaisseurCame},
+};
+constexpr ChampSaisie champsMasse[] = {
+    {"Text4", 163, UniteKg, &Etude::MasseA},
+};
+constexpr ChampSaisie champsForces[] = {
+    {"Text5", 167, UniteN, &Etude::ForceY},
+};
+
+QWidget* FaitSchema() {
+    auto* cadre = new QGroupBox(QTexte(189));
+    auto* schema = Nomme(new ZoneDessin, "Schema");
+    schema->setMinimumSize(250, 240);
+    schema->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    schema->Peint(DessineSchemaTranslation);
+    (new QVBoxLayout(cadre))->addWidget(schema);
+    return cadre;
+}
+
+constexpr DescriptionSaisie description{"DoProfil",
+                                        {&Zone::RayonDepart, &Zone::RayonFinal, 183, 184, 177, UniteMm, false, false},
+                                        ChercheFauteLineaire,
+                                        CalculeCameLineaire};
+
+} // namespace
+
+DoProfil::DoProfil(QWidget* parent) : SaisieCame(description, parent) {
+    auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
+    auto* masse = new PanneauChamps("Picture3", 162, champsMasse);
+    auto* forces = new PanneauChamps("Picture4", 392, champsForces);
+    auto* pesanteur = new PanneauPesanteur("Text17");
+    Compose({EmpilePanneaux({geometrie, FaitSchema()}, 1), EmpilePanneaux({masse, forces, pesanteur}, 2)},
+            {geometrie, masse, forces}, pesanteur);
+}
+
+bool DoProfil::CalculeZone(Zone& zone) {
+    if (zone.RayonDepart > 0.0 && zone.RayonFinal > 0.0) return true;
+    LesDialogues().Message(Icone::Avertissement, Texte(393));
+    findChild<ChampNombre*>(zone.RayonDepart > 0.0 ? "Text15" : "Text14")->setFocus();
+    return false;
+}

@@ -1,0 +1,45 @@
+#include "planecams/screens/PanneauPesanteur.h"
+
+#include "core/Etude.h"
+#include "planecams/SchemasCames.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Nomme.h"
+#include "widgets/PanneauChamps.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QGridLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+PanneauPesanteur::PanneauPesanteur(const char* champ, QWidget* parent) : QGroupBox(QTexte(168), parent) {
+    auto* disposition = new QGridLayout(this);
+    champ_ = AjouteLigneChamp(*disposition, 0, champ, 169, 19);
+    defilement_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
+    defilement_->setRange(0, 360);
+    defilement_->setPageStep(15);
+    defilement_->setFocusPolicy(Qt::StrongFocus);
+    dessin_ = Nomme(new ZoneDessin, "Picture6");
+    dessin_->setMinimumSize(150, 150);
+    dessin_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    disposition->addWidget(defilement_, 1, 0, 1, 3);
+    disposition->addWidget(dessin_, 2, 0, 1, 3);
+    disposition->setRowStretch(2, 1);
+    connect(defilement_, &QScrollBar::valueChanged, this, [this](int angle) { Change(angle); });
+    connect(champ_, &QLineEdit::editingFinished, this, &PanneauPesanteur::Lit);
+    Change(etude.AnglePesanteur);
+}
+
+void PanneauPesanteur::Lit() {
+    Change(champ_->Valeur());
+}
+
+void PanneauPesanteur::Change(double angle) {
+    etude.AnglePesanteur = std::clamp(angle, 0.0, 360.0);
+    champ_->Montre(etude.AnglePesanteur);
+    const QSignalBlocker muet(defilement_);
+    defilement_->setValue(static_cast<int>(std::lround(etude.AnglePesanteur)));
+    dessin_->Peint([angle = etude.AnglePesanteur](Dessin& dessin) { DessinePesanteur(dessin, angle); });
+}

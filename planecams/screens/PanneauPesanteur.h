@@ -1,0 +1,28 @@
+// The direction of gravity: one value in two forms, a scroll bar and a field, and an arrow that shows it.
+#pragma once
+
+#include <QGroupBox>
+
+class ChampNombre;
+class QScrollBar;
+class ZoneDessin;
+
+class PanneauPesanteur : public QGroupBox {
+    Q_OBJECT
+
+public:
+    /// @param champ name of the field; the scroll bar is `HScroll1`, the drawing `Picture6`.
+    explicit PanneauPesanteur(const char* champ, QWidget* parent = nullptr);
+
+    /// From the field to the record; a value outside 0..360 is cut back to the limit.
+    void Lit();
+
+    ChampNombre* Champ() const { return champ_; }
+
+private:
+    void Change(double angle);
+
+    ChampNombre* champ_;
+    QScrollBar* defilement_;
+    ZoneDessin* dessin_;
+};

@@ -1,0 +1,286 @@
+#include "planecams/screens/PanneauZones.h"
+
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+#include "laws/FichierLoi.h"
+#include "planecams/LimitesSaisie.h"
+#include "planecams/ListeZones.h"
+#include "platform/Dialogues.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Grille.h"
+#include "widgets/Legendes.h"
+#include "widgets/Nomme.h"
+#include "widgets/PanneauChamps.h"
+
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int UniteDegres = 19;
+
+constexpr Legende legendes[] = {
+    {"EtiquetteCombo2", 0, 174},
+    {"EtiquetteCombo1", 0, 105},
+    {"TitreGrille", 0, 179},
+    {"Suivante", 0, 14},
+};
+
+QComboBox* FaitListe(const char* nom) {
+    auto* liste = Nomme(new QComboBox, nom);
+    liste->setEditable(true);
+    liste->setInsertPolicy(QComboBox::NoInsert);
+    return liste;
+}
+
+} // namespace
+
+PanneauZones::PanneauZones(const DescriptionZones& description, std::function<bool(Zone&)> acheve, QWidget* parent)
+    : QGroupBox(QTexte(170), parent), description_(description), acheve_(std::move(acheve)) {
+    setObjectName("Picture5");
+    auto* disposition = new QVBoxLayout(this);
+    auto* tete = new QGridLayout;
+    nombreZones_ = AjouteLigneChamp(*tete, 0, "Text13", 172, 0);
+    pointsParDegre_ = FaitListe("Combo2");
+    for (const auto points : PointsParDegrePermis) pointsParDegre_->addItem(QString::number(points));
+    tete->addWidget(FaitEtiquette("EtiquetteCombo2", pointsParDegre_), 1, 0);
+    tete->addWidget(pointsParDegre_, 1, 1);
+    disposition->addLayout(tete);
+    disposition->addWidget(FaitCadreZone());
+    grille_ = Nomme(new Grille, "Grille");
+    grille_->setMinimumSize(630, 200);
+    disposition->addWidget(FaitEtiquette("TitreGrille", grille_));
+    disposition->addWidget(grille_, 1);
+    somme_ = Nomme(new QLabel, "SommeAngles");
+    disposition->addWidget(somme_);
+    AppliqueLegendes(*this, legendes);
+    RelieChamps();
+
+    zonesEntrees_ = etude.NombreZones;
+    etude.ZoneCourante = 1;
+    nombreZones_->Montre(etude.NombreZones);
+    pointsParDegre_->setCurrentText(etude.PointsParDegre == 0 ? "1" : QString::number(etude.PointsParDegre));
+    ProposeFichier();
+    MontreZone();
+    RemplitGrille();
+}
+
+QWidget* PanneauZones::FaitCadreZone() {
+    cadreZone_ = Nomme(new QGroupBox, "Frame1");
+    auto* champs = new QGridLayout(cadreZone_);
+    valeurDepart_ = AjouteLigneChamp(*champs, 0, "Text14", description_.texteDepart, description_.unite);
+    valeurFinale_ = AjouteLigneChamp(*champs, 1, "Text15", description_.texteFinale, description_.unite);
+    angleCame_ = AjouteLigneChamp(*champs, 2, "Text16", description_.texteCame, UniteDegres);
+    loi_ = FaitListe("Combo1");
+    loi_->setMinimumContentsLength(11);
+    for (const auto& nom : NomsLoisZones()) loi_->addItem(Q(nom));
+    champs->addWidget(FaitEtiquette("EtiquetteCombo1", loi_), 3, 0);
+    champs->addWidget(loi_, 3, 1);
+    symetrie_ = AjouteLigneChamp(*champs, 4, "Text19", 178, 0);
+    suivante_ = Nomme(new QPushButton, "Suivante");
+    suivante_->setAutoDefault(true);
+    champs->addWidget(suivante_, 5, 0, 1, 3, Qt::AlignRight);
+    return cadreZone_;
+}
+
+void PanneauZones::RelieChamps() {
+    const auto prendFocus = [](QWidget* champ) { return [champ] { champ->setFocus(Qt::TabFocusReason); }; };
+    connect(nombreZones_, &ChampNombre::Suivant, this, prendFocus(valeurDepart_));
+    connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, prendFocus(valeurDepart_));
+    connect(valeurDepart_, &ChampNombre::Suivant, this, prendFocus(valeurFinale_));
+    connect(valeurFinale_, &ChampNombre::Suivant, this, prendFocus(angleCame_));
+    connect(angleCame_, &ChampNombre::Suivant, this, prendFocus(loi_));
+    connect(symetrie_, &ChampNombre::Suivant, this, prendFocus(suivante_));
+    nombreZones_->installEventFilter(this);
+    connect(loi_, &QComboBox::activated, this, &PanneauZones::ChoisitLoi);
+    connect(loi_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        if (ChoisitLoi()) symetrie_->setFocus(Qt::TabFocusReason);
+    });
+    connect(grille_, &QTableView::clicked, this, [this](const QModelIndex& index) { VaALaZone(index.row()); });
+    connect(suivante_, &QPushButton::clicked, this, &PanneauZones::Suivante);
+}
+
+void PanneauZones::PrendFocus() {
+    nombreZones_->setFocus(Qt::TabFocusReason);
+}
+
+bool PanneauZones::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::FocusOut) {
+        // Another window, a menu or the way back may be gone to with any number in the field.
+        const auto raison = static_cast<QFocusEvent*>(evenement)->reason();
+        const bool ailleurs = raison == Qt::ActiveWindowFocusReason || raison == Qt::PopupFocusReason ||
+                              raison == Qt::MenuBarFocusReason || (retour_ != nullptr && retour_->hasFocus());
+        if (!ailleurs && isVisible())
+            QMetaObject::invokeMethod(this, &PanneauZones::EntreNombreZones, Qt::QueuedConnection);
+    }
+    return QGroupBox::eventFilter(objet, evenement);
+}
+
+void PanneauZones::EntreNombreZones() {
+    const double nombre = Int(nombreZones_->Valeur());
+    const int texte = nombre <= 0.0 ? 72 : nombre > 32767.0 ? 206 : 0;
+    if (texte != 0) {
+        LesDialogues().Message(Icone::Information, Texte(texte));
+        nombreZones_->setFocus();
+        return;
+    }
+    nombreZones_->Montre(nombre);
+    if (Entier16(nombre) == etude.NombreZones) return;
+    etude.NombreZones = Entier16(nombre);
+    etude.Zones.Redimensionne(etude.NombreZones);
+    etude.ZoneCourante = 1;
+    zonesEntrees_ = 0;
+    ProposeFichier();
+    MontreZone();
+    RemplitGrille();
+}
+
+/// A study of one zone may take its law from a file; any other may not.
+void PanneauZones::ProposeFichier() {
+    const QString nom = QString::fromLatin1(NomLoiFichier);
+    const int place = loi_->findText(nom, Qt::MatchExactly);
+    const bool permis = description_.loiDeFichier && etude.NombreZones == 1;
+    if (permis && place < 0) loi_->addItem(nom);
+    if (!permis && place >= 0) loi_->removeItem(place);
+}
+
+void PanneauZones::MontreZone() {
+    const std::int16_t z = etude.ZoneCourante;
+    cadreZone_->setTitle(QTexte(187) + " " + Q(Format(z, "###")));
+    const bool entree = z <= zonesEntrees_;
+    const Zone zone = entree ? etude.Zones[z] : Zone{};
+    // A zone begins where the one before ends.
+    const bool premiere = entree || z <= 1;
+    valeurDepart_->Montre(premiere ? zone.*description_.valeurDepart : etude.Zones[z - 1].*description_.valeurFinale);
+    valeurFinale_->Montre(zone.*description_.valeurFinale);
+    angleCame_->Montre(zone.AngleCame);
+    if (entree) loi_->setCurrentText(Q(zone.NomLoi));
+    symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
+    suivante_->setEnabled(etude.NombreZones > 0);
+    suivante_->setDefault(!Complet());
+    emit Change();
+}
+
+void PanneauZones::RemplitGrille() {
+    const bool bras = description_.bras;
+    grille_->Remplit(
+        {EntetesZones(bras), etude.NombreZones,
+         [bras, entrees = zonesEntrees_](int ligne, int colonne) { return CelluleZone(bras, ligne, colonne, entrees); },
+         ColonnesTexteZones(bras)});
+    double somme = 0;
+    for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.Zones[z].AngleCame;
+    somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));
+}
+
+void PanneauZones::VaALaZone(int ligne) {
+    // Only zones already entered, or the first that is not, can be gone to.
+    if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.NombreZones)) return;
+    etude.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
+    MontreZone();
+    valeurDepart_->setFocus(Qt::TabFocusReason);
+}
+
+bool PanneauZones::ChoisitLoi() {
+    if (loi_->currentText() == QLatin1String(NomLoiFichier) && description_.loiDeFichier) {
+        ChercheFichier();
+        return true;
+    }
+    JeuEnregistrements lois = LaBase.OuvreTable("Lois");
+    lois.Seek(S(loi_->currentText()));
+    if (!lois.NoMatch()) {
+        symetrie_->Montre(EnNombre(lois.Champ("CoefS")));
+        return true;
+    }
+    LesDialogues().Message(Icone::Avertissement, Texte(521) + " " + Texte(103));
+    loi_->setCurrentIndex(0);
+    symetrie_->Montre(0.5);
+    loi_->setFocus();
+    return false;
+}
+
+void PanneauZones::ChercheFichier() {
+    const auto chemin = LesDialogues().FichierAOuvrir(
+        {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
+    if (!chemin || chemin->empty()) return;
+    LitFichierLoi(*chemin);
+    etude.NombreZones = 1;
+    etude.Zones.Redimensionne(1);
+    Zone& zone = etude.Zones[1];
+    zone.*description_.valeurDepart = valeurDepart_->Valeur();
+    zone.*description_.valeurFinale = valeurFinale_->Valeur();
+    zone.AngleCame = 360;
+    zone.NomLoi = NomLoiFichier;
+    zone.CoefSymetrie = symetrie_->Valeur();
+    // A law file is 720 points over a whole turn.
+    etude.Erreur = Faux;
+    etude.ZoneCourante = 1;
+    zonesEntrees_ = 0;
+    nombreZones_->Montre(1);
+    angleCame_->Montre(360);
+    pointsParDegre_->setCurrentText("2");
+    cadreZone_->setTitle(QTexte(187) + " 1");
+    RemplitGrille();
+    emit Change();
+}
+
+bool PanneauZones::DemandePourcentage(std::string& nomLoi) {
+    const auto reponse = LesDialogues().Saisie(Texte(73), Texte(309), "50");
+    const auto nom = NomLoiPersonnelle(reponse ? ValVirgule(*reponse) : 0.0);
+    if (!nom) {
+        LesDialogues().Message(Icone::Avertissement, Texte(416));
+        loi_->setFocus();
+        return false;
+    }
+    nomLoi = *nom;
+    return true;
+}
+
+void PanneauZones::Suivante() {
+    if (etude.ZoneCourante > etude.NombreZones) return;
+    Zone zone;
+    zone.*description_.valeurDepart = valeurDepart_->Valeur();
+    zone.*description_.valeurFinale = valeurFinale_->Valeur();
+    zone.AngleCame = angleCame_->Valeur();
+    zone.NomLoi = S(loi_->currentText());
+    zone.CoefSymetrie = symetrie_->Valeur();
+    if (const auto faute = ChercheFauteZone(zone)) {
+        LesDialogues().Message(Icone::Avertissement, faute->texte);
+        QWidget* const champs[] = {symetrie_, loi_, angleCame_};
+        champs[static_cast<int>(faute->champ)]->setFocus();
+        return;
+    }
+    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return;
+    if (acheve_(zone)) TermineZone(zone);
+}
+
+void PanneauZones::TermineZone(const Zone& zone) {
+    etude.Zones[etude.ZoneCourante] = zone;
+    zonesEntrees_ = std::max(zonesEntrees_, etude.ZoneCourante);
+    const bool derniere = etude.ZoneCourante == etude.NombreZones;
+    if (!derniere) ++etude.ZoneCourante;
+    MontreZone();
+    RemplitGrille();
+    if (derniere)
+        emit Termine();
+    else
+        valeurFinale_->setFocus(Qt::TabFocusReason);
+}
+
+bool PanneauZones::LitPointsParDegre() {
+    const std::string points = S(pointsParDegre_->currentText());
+    const bool permis = EstPointsParDegre(points);
+    if (permis && !TropDePoints(Entier16(Val(points)))) {
+        etude.PointsParDegre = Entier16(Val(points));
+        return true;
+    }
+    LesDialogues().Message(Icone::Avertissement, permis ? Texte(205) : Texte(519) + "\n" + Texte(520));
+    pointsParDegre_->setFocus();
+    return false;
+}

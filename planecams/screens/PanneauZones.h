@@ -1,0 +1,77 @@
+// The entry of the motion zones, one after the other: number of zones, points per degree, the frame of the present
+// zone, and the summary table. What differs from one kind of cam to another is said by a description.
+#pragma once
+
+#include "core/Etude.h"
+
+#include <QGroupBox>
+
+#include <functional>
+
+class ChampNombre;
+class Grille;
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+struct DescriptionZones {
+    double Zone::*valeurDepart;
+    double Zone::*valeurFinale;
+    int texteDepart, texteFinale, texteCame; ///< text numbers of the captions
+    int unite;                               ///< text number of the unit of both values
+    bool bras;                               ///< the values are angles of an arm, which give radii
+    bool loiDeFichier;                       ///< a one-zone study may take its law from a file
+};
+
+class PanneauZones : public QGroupBox {
+    Q_OBJECT
+
+public:
+    /// @param acheve completes a zone whose law and symmetry are accepted, from the data of the screen; false when it
+    /// cannot,
+    ///        after the box that says so.
+    PanneauZones(const DescriptionZones& description, std::function<bool(Zone&)> acheve, QWidget* parent = nullptr);
+
+    /// Leaving the number of zones for this control is always free.
+    void LaisseAller(const QWidget* retour) { retour_ = retour; }
+
+    void PrendFocus();
+    QPushButton* BoutonSuivante() const { return suivante_; }
+    bool Complet() const { return etude.NombreZones > 0 && zonesEntrees_ == etude.NombreZones; }
+
+    /// From the list to the record, checked, also for the number of points that the zones make.
+    /// @return false when it is refused, after the box that says so, with the focus on the list.
+    bool LitPointsParDegre();
+
+signals:
+    void Change();  ///< zones were accepted or lost: `Complet` may have changed
+    void Termine(); ///< the last zone was accepted
+
+protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+private:
+    QWidget* FaitCadreZone();
+    void RelieChamps();
+    void MontreZone();
+    void RemplitGrille();
+    void ProposeFichier();
+    bool ChoisitLoi();
+    void ChercheFichier();
+    void EntreNombreZones();
+    bool DemandePourcentage(std::string& nomLoi);
+    void Suivante();
+    void TermineZone(const Zone& zone);
+    void VaALaZone(int ligne);
+
+    const DescriptionZones& description_;
+    std::function<bool(Zone&)> acheve_;
+    const QWidget* retour_ = nullptr;
+    ChampNombre *nombreZones_, *valeurDepart_, *valeurFinale_, *angleCame_, *symetrie_;
+    QComboBox *pointsParDegre_, *loi_;
+    QGroupBox* cadreZone_;
+    Grille* grille_;
+    QLabel* somme_;
+    QPushButton* suivante_;
+    std::int16_t zonesEntrees_ = 0; ///< zones accepted so far, from the first
+};

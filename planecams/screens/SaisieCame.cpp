@@ -1,0 +1,123 @@
+#include "planecams/screens/SaisieCame.h"
+
+#include "data/Textes.h"
+#include "planecams/MouvementCame.h"
+#include "planecams/screens/PanneauPesanteur.h"
+#include "platform/Dialogues.h"
+#include "widgets/Application.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Legendes.h"
+#include "widgets/Nomme.h"
+#include "widgets/PanneauChamps.h"
+#include "widgets/ZoneDefilante.h"
+
+#include <QBoxLayout>
+#include <QPushButton>
+
+QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
+    auto* pile = new QWidget;
+    auto* disposition = new QVBoxLayout(pile);
+    disposition->setContentsMargins({});
+    for (std::size_t i = 0; i < panneaux.size(); ++i)
+        disposition->addWidget(panneaux[i], static_cast<int>(i) == etirement ? 1 : 0);
+    return pile;
+}
+
+SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
+    : QWidget(parent), description_(description) {
+    setObjectName(QString::fromLatin1(description.nom));
+}
+
+void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
+                         PanneauPesanteur* pesanteur) {
+    panneaux_ = panneaux;
+    pesanteur_ = pesanteur;
+    zones_ = new PanneauZones(description_.zones, [this](Zone& zone) { return AcheveZone(zone); });
+    auto* contenu = new QWidget;
+    auto* rangee = new QHBoxLayout(contenu);
+    rangee->setContentsMargins({});
+    for (auto* colonne : colonnes) rangee->addWidget(colonne);
+    rangee->addWidget(zones_, 1);
+
+    retour_ = Nomme(new QPushButton, "Retour");
+    retour_->setShortcut(Qt::Key_Escape);
+    calculer_ = Nomme(new QPushButton, "Calculer");
+    calculer_->setAutoDefault(true);
+    auto* boutons = new QHBoxLayout;
+    boutons->addWidget(retour_);
+    boutons->addStretch();
+    boutons->addWidget(calculer_);
+    auto* disposition = new QVBoxLayout(this);
+    disposition->addWidget(new ZoneDefilante(contenu), 1);
+    disposition->addLayout(boutons);
+    const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
+    AppliqueLegendes(*this, legendes);
+    zones_->LaisseAller(retour_);
+
+    for (std::size_t i = 0; i < panneaux_.size(); ++i) {
+        for (auto* champ : panneaux_[i]->Champs())
+            connect(champ, &QLineEdit::editingFinished, panneaux_[i], &PanneauChamps::Lit);
+        if (i + 1 < panneaux_.size()) {
+            auto* suivant = panneaux_[i + 1]->Champs().front();
+            connect(panneaux_[i], &PanneauChamps::Termine, suivant,
+                    [suivant] { suivant->setFocus(Qt::TabFocusReason); });
+        } else {
+            connect(panneaux_[i], &PanneauChamps::Termine, zones_, &PanneauZones::PrendFocus);
+        }
+    }
+    connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);
+    connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
+    connect(zones_, &PanneauZones::Termine, calculer_, [this] { calculer_->setFocus(Qt::TabFocusReason); });
+    connect(calculer_, &QPushButton::clicked, this, &SaisieCame::Calculer);
+    connect(retour_, &QPushButton::clicked, this, &SaisieCame::Retour);
+    MontreBoutons();
+    panneaux_.front()->Champs().front()->setFocus();
+}
+
+void SaisieCame::MontreBoutons() {
+    calculer_->setEnabled(zones_->Complet());
+    calculer_->setDefault(zones_->Complet());
+}
+
+void SaisieCame::LitDonnees() {
+    for (auto* panneau : panneaux_) panneau->Lit();
+    pesanteur_->Lit();
+}
+
+bool SaisieCame::FauteDeDonnee() {
+    const auto faute = description_.chercheFaute();
+    if (!faute) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+    for (auto* panneau : panneaux_)
+        if (auto* champ = panneau->ChampDe(faute->membre)) champ->setFocus();
+    return true;
+}
+
+bool SaisieCame::AcheveZone(Zone& zone) {
+    LitDonnees();
+    if (FauteDeDonnee() || !CalculeZone(zone)) return false;
+    zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
+    return true;
+}
+
+void SaisieCame::Calculer() {
+    if (!zones_->LitPointsParDegre()) return;
+    LitDonnees();
+    if (FauteDeDonnee()) return;
+    const Sablier sablier;
+    // The speed may have changed since a zone was accepted.
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z)
+        etude.Zones[z].Temps = TempsZone(etude.Zones[z].AngleCame, etude.VitesseCame);
+    description_.calcule();
+    if (!SansErreur()) return;
+    etude.EtudeModifiee = Vrai;
+    etude.ResultatsPrets = Vrai;
+    emit EtudeCalculee();
+}
+
+void SaisieCame::Retour() {
+    etude.ZoneCourante = 0;
+    etude.EtudeModifiee = Faux;
+    etude.ResultatsPrets = Faux;
+    emit Quitte();
+}

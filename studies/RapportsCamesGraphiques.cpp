@@ -1,0 +1,122 @@
+// The printed graphs: one box below the other over the same cam angle, each curve to its own vertical scale, zero at
+// mid-height.
+#include "core/Etude.h"
+#include "data/Textes.h"
+#include "reports/CadrePages.h"
+#include "studies/Graphique.h"
+#include "studies/RapportsCames.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+// The box inside its frame, mm.
+constexpr double LargeurBoite = 160, HauteurBoite = 60;
+constexpr double OrigineX = 20, OrigineY = 40; // of the curve: angle 0 and value 0
+constexpr double Graduation = 2.5;             // length of a graduation line
+constexpr double HauteurCadre = 80, PremierCadre = 30;
+constexpr double HauteurTexte = 2.8, HauteurUnite = 2.4;
+constexpr double Haut = OrigineY - HauteurBoite / 2, Bas = OrigineY + HauteurBoite / 2;
+
+constexpr Trait traitGrille{Couleur::Graduation, 0.1}, traitAxe{Couleur::Axe, 0.25};
+constexpr Couleur couleurs[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
+
+constexpr const char* MasqueAngle = "###";
+constexpr const char* MasqueValeur = "###.##";
+
+/// How the labels of a vertical axis are written. The unit "" stands for degrees.
+struct Etiquette {
+    const char* masque;
+    const char* unite;
+};
+
+/// Degrees between graduations: a round number that leaves some twelve of them.
+double PasGraduation(double total) {
+    for (const double pas : {1.0, 2.0, 5.0, 10.0, 15.0, 30.0, 45.0, 60.0, 90.0, 180.0})
+        if (total / pas <= 13.0) return pas;
+    return 360.0;
+}
+
+void DessineAxeAngles(Dessin& dessin) {
+    const double total = etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
+    const double pas = PasGraduation(total);
+    for (double angle = 0; angle <= total + 1e-9; angle += pas) {
+        const double x = OrigineX + LargeurBoite * angle / total;
+        dessin.Ligne({x, Haut}, {x, Bas}, traitGrille);
+        dessin.Ligne({x, Bas}, {x, Bas + Graduation}, traitAxe);
+        dessin.Texte({x, Bas + Graduation + 2}, Format(angle, "##0"), Ancrage::Centre, HauteurTexte);
+    }
+    dessin.Ligne({OrigineX, OrigineY}, {OrigineX + LargeurBoite, OrigineY}, traitAxe);
+}
+
+void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquette) {
+    const std::string unite = etiquette.unite[0] == '\0' ? " " + Texte(19) : etiquette.unite;
+    for (int cran = -2; cran <= 2; ++cran) {
+        const double y = OrigineY - HauteurBoite / 2 * cran / 2;
+        dessin.Ligne({OrigineX, y}, {OrigineX + LargeurBoite, y}, traitGrille);
+        dessin.Ligne({OrigineX - Graduation, y}, {OrigineX, y}, traitAxe);
+        const double x = OrigineX - Graduation - 1;
+        if (cran == 0) {
+            dessin.Texte({x, y}, "0", Ancrage::Droite, HauteurTexte);
+        } else if (maximum > 0) {
+            dessin.Texte({x, y}, Format(maximum * cran / 2, etiquette.masque), Ancrage::Droite, HauteurTexte);
+            dessin.Texte({x, y + HauteurTexte + 0.4}, unite, Ancrage::Droite, HauteurUnite, Couleur::TexteDiscret);
+        }
+    }
+}
+
+void DessineCourbe(Dessin& dessin, const Courbe& courbe, Couleur couleur) {
+    const double echelleX = LargeurBoite / etude.NombrePoints;
+    const double echelleY = HauteurBoite / 2 / (courbe.maximum == 0.0 ? 1.0 : courbe.maximum);
+    std::vector<PointDessin> points;
+    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
+    for (long i = 0; i <= etude.NombrePoints; ++i)
+        points.push_back({OrigineX + echelleX * static_cast<double>(i), OrigineY - echelleY * courbe.valeur(i)});
+    dessin.Polyligne(points, {couleur, 0.4});
+}
+
+void DessineBoite(Dessin& dessin, const Courbe& courbe, const Etiquette& etiquette, Couleur couleur) {
+    dessin.Texte({OrigineX, Haut - 4}, Texte(courbe.legende), Ancrage::Gauche, HauteurTexte + 0.6, couleur);
+    DessineAxeAngles(dessin);
+    DessineAxeValeurs(dessin, courbe.maximum, etiquette);
+    const PointDessin coins[] = {{OrigineX, Haut},
+                                 {OrigineX + LargeurBoite, Haut},
+                                 {OrigineX + LargeurBoite, Bas},
+                                 {OrigineX, Bas},
+                                 {OrigineX, Haut}};
+    dessin.Polyligne(coins, traitAxe);
+    DessineCourbe(dessin, courbe, couleur);
+}
+
+void ImprimeGraphiques(const std::vector<Courbe>& courbes, const std::vector<Etiquette>& etiquettes) {
+    Imprimante& imprimante = ImprimanteEnCours();
+    DebutPageCames(Texte(TitreGraphiques));
+    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
+        const auto cadre = imprimante.Feuille(0, PremierCadre + HauteurCadre * static_cast<double>(rang),
+                                              imprimante.Largeur(), HauteurCadre);
+        DessineBoite(*cadre, courbes[rang], etiquettes[rang], couleurs[rang]);
+    }
+    const double bas = PremierCadre + HauteurCadre * static_cast<double>(courbes.size() - 1) + Bas + 6;
+    const auto legende = imprimante.Feuille(0, bas, imprimante.Largeur(), 6);
+    legende->Texte({OrigineX + LargeurBoite, 3}, Texte(280), Ancrage::Droite, HauteurTexte);
+    imprimante.NouvellePage();
+}
+
+} // namespace
+
+void ImprimeGraphiqueLineaire() {
+    ImprimeGraphiques(CourbesGalet(), {{MasqueValeur, " mm"}, {MasqueValeur, " m/sec"}, {MasqueValeur, " m/sec²"}});
+}
+
+void ImprimeGraphiqueBras() {
+    std::vector<Courbe> courbes = CourbesBras();
+    courbes.front().maximum = etude.LoiCourseMax; // alone in its box, the angle has its own scale
+    ImprimeGraphiques(courbes, {{MasqueAngle, ""}, {MasqueValeur, " rad/sec"}, {MasqueValeur, " rad/sec²"}});
+}
+
+void ImprimeGraphiqueForces() {
+    std::vector<Courbe> courbes = CourbesForce();
+    for (const Courbe& courbe : CourbesCouple()) courbes.push_back(courbe);
+    ImprimeGraphiques(courbes, {{MasqueValeur, " N"}, {MasqueValeur, " Nm"}});
+}

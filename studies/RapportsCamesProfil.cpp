@@ -1,0 +1,122 @@
+// The profile of a plane cam drawn to scale: both profiles, the pitch curve, the roller at the start of the cam.
+// Cam millimetres have their origin in the cam centre and y up; paper millimetres run down.
+#include "core/Etude.h"
+#include "data/Textes.h"
+#include "reports/CadrePages.h"
+#include "studies/RapportsCames.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+/// The scales of technical drawings, in paper millimetres a millimetre of the cam.
+constexpr double echelles[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01};
+
+constexpr double HauteurTexte = 2.8; // mm
+constexpr double Marge = 3;          // around the drawing, mm
+constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primitif, 0.18, true},
+    traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18};
+
+struct Etendue {
+    double gauche = 0, bas = 0, droite = 0, haut = 0; // the cam centre is always in it
+
+    void Contient(PointDessin p) {
+        gauche = std::min(gauche, p.x);
+        droite = std::max(droite, p.x);
+        bas = std::min(bas, p.y);
+        haut = std::max(haut, p.y);
+    }
+};
+
+using Courbes = std::vector<std::vector<PointDessin>>;
+
+/// Inner profile, outer profile and pitch curve, cam millimetres.
+Courbes CourbesCame() {
+    Courbes courbes(3);
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        const PointProfil& p = etude.Profil[i];
+        const double angle = etude.Points[i].Angle / RadDeg, rayon = etude.Points[i].Rayon;
+        courbes[0].push_back({p.XInterieur, p.YInterieur});
+        courbes[1].push_back({p.XExterieur, p.YExterieur});
+        courbes[2].push_back({rayon * std::cos(angle), rayon * std::sin(angle)});
+    }
+    return courbes;
+}
+
+/// The largest scale at which the drawing fits; the smallest there is for a cam that fits at none.
+double ChoisitEchelle(const Etendue& e, double largeur, double hauteur) {
+    for (const double echelle : echelles)
+        if (echelle * (e.droite - e.gauche) <= largeur && echelle * (e.haut - e.bas) <= hauteur) return echelle;
+    return *std::rbegin(echelles);
+}
+
+void DessineLegende(Dessin& dessin) {
+    const struct {
+        Trait trait;
+        int texte;
+    } lignes[] = {{traitProfil, 291}, {traitProfil, 290}, {traitPrimitif, 293}, {traitGalet, 289}};
+    double x = 0;
+    // Both profiles are drawn alike: one entry names them.
+    for (std::size_t i = 1; i < std::size(lignes); ++i) {
+        const std::string nom =
+            i == 1 ? Texte(lignes[0].texte) + ", " + Texte(lignes[1].texte) : Texte(lignes[i].texte);
+        dessin.Ligne({x, HauteurTexte}, {x + 8, HauteurTexte}, lignes[i].trait);
+        dessin.Texte({x + 10, HauteurTexte}, nom, Ancrage::Gauche, HauteurTexte);
+        x += 16 + dessin.LargeurTexte(nom, HauteurTexte);
+    }
+}
+
+/// A bar of known length, to check that the printer has not resized the page.
+void DessineRegle(Dessin& dessin) {
+    constexpr double longueur = 50, cran = 2.5;
+    const double y = dessin.Hauteur() - cran, x = dessin.Largeur() - longueur;
+    dessin.Ligne({x, y}, {x + longueur, y}, traitAxe);
+    for (const double bout : {x, x + longueur}) dessin.Ligne({bout, y - cran / 2}, {bout, y + cran / 2}, traitAxe);
+    dessin.Texte({x - 2, y}, "50 " + Texte(18), Ancrage::Droite, HauteurTexte);
+}
+
+/// Draws the profile into the surface, below the legend and above the bar. Gives the scale.
+double DessineProfil(Dessin& dessin) {
+    constexpr double bande = 2.5 * HauteurTexte;
+    Courbes courbes = CourbesCame();
+    Etendue e;
+    for (const auto& courbe : courbes)
+        for (const PointDessin& p : courbe) e.Contient(p);
+    const double largeur = dessin.Largeur() - 2 * Marge, hauteur = dessin.Hauteur() - 2 * bande - 2 * Marge;
+    const double echelle = ChoisitEchelle(e, largeur, hauteur);
+    const double x0 = dessin.Largeur() / 2 - echelle * (e.gauche + e.droite) / 2;
+    const double y0 = dessin.Hauteur() / 2 + echelle * (e.bas + e.haut) / 2;
+    const auto surPapier = [&](PointDessin p) { return PointDessin{x0 + echelle * p.x, y0 - echelle * p.y}; };
+
+    const PointDessin galet = surPapier(courbes[2].front()), centre = surPapier({0, 0});
+    for (auto& courbe : courbes) std::transform(courbe.begin(), courbe.end(), courbe.begin(), surPapier);
+    const double croix = echelle * etude.RayonMin / 6;
+    dessin.Ligne({centre.x - croix, centre.y}, {centre.x + croix, centre.y}, traitAxe);
+    dessin.Ligne({centre.x, centre.y - croix}, {centre.x, centre.y + croix}, traitAxe);
+    dessin.Ligne(centre, galet, {Couleur::Repere, 0.18});
+    dessin.Polyligne(courbes[2], traitPrimitif);
+    dessin.Cercle(galet, echelle * etude.RayonGalet, traitGalet);
+    dessin.Polyligne(courbes[0], traitProfil);
+    dessin.Polyligne(courbes[1], traitProfil);
+    return echelle;
+}
+
+} // namespace
+
+void ImprimeProfilPlat() {
+    Imprimante& imprimante = ImprimanteEnCours();
+    DebutPageCames(Texte(TitreProfil));
+    const double haut = imprimante.Tete(), derniereLigne = imprimante.Hauteur() - 8;
+    double echelle = 1;
+    {
+        const auto dessin = imprimante.Feuille(0, haut, imprimante.Largeur(), derniereLigne - haut);
+        DessineLegende(*dessin);
+        echelle = DessineProfil(*dessin);
+        DessineRegle(*dessin);
+    }
+    imprimante.PlaceTete(derniereLigne);
+    ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));
+    imprimante.NouvellePage();
+}

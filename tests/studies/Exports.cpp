@@ -1,0 +1,96 @@
+#include "studies/Exports.h"
+
+#include "core/Lignes.h"
+#include "outils/Catalogue.h"
+#include "outils/DialoguesScript.h"
+#include "studies/FichierEtude.h"
+
+#include <cmath>
+#include <sstream>
+
+namespace {
+
+std::vector<std::string> LesLignes(const std::string& contenu) {
+    std::vector<std::string> lignes;
+    for (Lignes reste(contenu); !reste.Fin();) lignes.emplace_back(reste.Suivante());
+    return lignes;
+}
+
+std::pair<double, double> LeCouple(const std::string& texte) {
+    return {Val(texte), Val(std::string_view(texte).substr(texte.find(',') + 1))};
+}
+
+class Exports : public AvecCatalogue {
+protected:
+    DialoguesScript dialogues;
+    Exports() {
+        LitFichierEtude(CheminAppli / "Profils" / "Exemple.Ang");
+        CalculeEtude();
+    }
+};
+
+} // namespace
+
+TEST_F(Exports, PointFileReadsBackToTheRadii) {
+    const auto lignes = LesLignes(ComposeFichierPoints());
+    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 2);
+    EXPECT_EQ(lignes[0], "Rayon du galet ," + StrTrim(etude.RayonGalet));
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        const auto [angle, rayon] = LeCouple(lignes[static_cast<std::size_t>(i) + 1]);
+        ASSERT_EQ(angle, etude.Points[i].Angle);
+        ASSERT_NEAR(rayon, etude.Points[i].Rayon, 5.1e-7);
+    }
+}
+
+TEST_F(Exports, OuterScriptDrawsTheProfileTurned) {
+    etude.AngleRotation = 0;
+    auto lignes = LesLignes(ComposeScriptExterieur());
+    const std::vector<std::string> tete(lignes.begin(), lignes.begin() + 4);
+    EXPECT_EQ(tete, (std::vector<std::string>{"LIGNE -5,0 5,0", "", "LIGNE 0,-5 0,5", ""}));
+    EXPECT_EQ(lignes[4],
+              "LIGNE 0,0 " + StrTrim(etude.Profil[0].XExterieur) + "," + StrTrim(etude.Profil[0].YExterieur));
+    EXPECT_EQ(lignes[5], "");
+    EXPECT_EQ(lignes[6], "_pline");
+    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 7);
+    for (long i = 1; i <= etude.NombrePoints; ++i) {
+        const auto [x, y] = LeCouple(lignes[static_cast<std::size_t>(i) + 6]);
+        ASSERT_EQ(x, etude.Profil[i].XExterieur) << "full precision";
+        ASSERT_EQ(y, etude.Profil[i].YExterieur);
+    }
+    etude.AngleRotation = Pi / 2;
+    lignes = LesLignes(ComposeScriptExterieur());
+    const auto [x, y] = LeCouple(lignes[7]);
+    EXPECT_NEAR(x, etude.Profil[1].YExterieur, 1e-9) << "clockwise";
+    EXPECT_NEAR(y, -etude.Profil[1].XExterieur, 1e-9);
+}
+
+TEST_F(Exports, InnerScriptBearsTheArmOfAnArmCamOnly) {
+    auto lignes = LesLignes(ComposeScriptInterieur());
+    const auto [x0, y0] = LeCouple(lignes[10].substr(6));
+    EXPECT_EQ(x0, -etude.CoteA);
+    EXPECT_EQ(y0, -etude.CoteB);
+    const auto [px, py] = LeCouple(lignes[11]);
+    EXPECT_NEAR(std::hypot(px - x0, py - y0), etude.RayonO1P, 1e-9);
+    EXPECT_NEAR(std::hypot(px, py), etude.Points[0].Rayon, 1e-9) << "the roller stands on the pitch curve";
+    EXPECT_EQ(lignes[12], "");
+    EXPECT_EQ(lignes[13], "CERCLE " + lignes[11] + " d " + StrTrim(2 * etude.RayonGalet));
+    EXPECT_EQ(lignes[14], "_pline");
+    EXPECT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 15);
+    etude.TypeCame = "Lineaire";
+    lignes = LesLignes(ComposeScriptInterieur());
+    EXPECT_EQ(lignes[4], "_pline");
+}
+
+TEST_F(Exports, FilesAreAskedForOneByOneAndACancelledOneIsSkipped) {
+    const auto dossier = std::filesystem::path(testing::TempDir());
+    dialogues.fichiers = {dossier / "e.Pnt", std::nullopt, dossier / "e_Int.Scr"};
+    FichiersPoints();
+    FichiersScripts();
+    EXPECT_TRUE(std::filesystem::exists(dossier / "e.Pnt"));
+    EXPECT_FALSE(std::filesystem::exists(dossier / "e_Ext.Scr"));
+    EXPECT_TRUE(std::filesystem::exists(dossier / "e_Int.Scr"));
+    EXPECT_EQ(dialogues.demandes, (std::vector<std::string>{Texte(124), Texte(315), Texte(316)}));
+    for (const char* nom : {"e.Pnt", "e_Int.Scr"}) std::filesystem::remove(dossier / nom);
+    EXPECT_EQ(NomSansExtension("came.v2.Ang"), "came.v2");
+    EXPECT_EQ(NomSansExtension("came.v2"), "came.v2");
+}

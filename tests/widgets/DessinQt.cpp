@@ -1,0 +1,163 @@
+#include "widgets/DessinQt.h"
+
+#include "outils/DialoguesScript.h"
+#include "outils/Ecrans.h"
+#include "widgets/Application.h"
+#include "widgets/Chaines.h"
+#include "widgets/Icones.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+
+namespace {
+
+QPalette Feuille(const QColor& base) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    return palette;
+}
+
+/// Relative luminance of a colour, as the accessibility guidelines for web content define it.
+double Luminance(const QColor& couleur) {
+    const auto lineaire = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) + 0.0722 * lineaire(couleur.blueF());
+}
+
+double Contraste(const QColor& a, const QColor& b) {
+    const double clair = std::max(Luminance(a), Luminance(b)), sombre = std::min(Luminance(a), Luminance(b));
+    return (clair + 0.05) / (sombre + 0.05);
+}
+
+constexpr Couleur Traits[] = {Couleur::Axe,     Couleur::Texte,   Couleur::TexteDiscret, Couleur::Courbe1,
+                              Couleur::Courbe2, Couleur::Courbe3, Couleur::Came,         Couleur::Primitif,
+                              Couleur::Galet,   Couleur::Bras,    Couleur::Repere};
+
+template <class Procedure> QImage Dessine(const Procedure& procedure) {
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter peintre(&image);
+    DessinQt dessin(peintre, QRectF(0, 0, 200, 200), Feuille(Qt::white));
+    procedure(dessin);
+    return image;
+}
+
+int EcartMax(const QImage& a, const QImage& b) {
+    int ecart = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            ecart = std::max(ecart, std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))));
+    return ecart;
+}
+
+} // namespace
+
+TEST(DessinQt, ContrasteSurFeuilleClaireEtSombre) {
+    for (const QColor& base : {QColor(Qt::white), QColor(0x1E, 0x1F, 0x22)}) {
+        const QPalette palette = Feuille(base);
+        for (const Couleur couleur : Traits)
+            EXPECT_GE(Contraste(CouleurTrait(couleur, palette), base), 4.5) << static_cast<int>(couleur);
+        // The grid stays in the background, and is seen.
+        const double grille = Contraste(CouleurTrait(Couleur::Graduation, palette), base);
+        EXPECT_GT(grille, 1.2);
+        EXPECT_LT(grille, 3.0);
+    }
+}
+
+TEST(DessinQt, UneCourbeAllegeeEstLaMeme) {
+    const auto courbe = [](int points) {
+        return Dessine([points](DessinQt& dessin) {
+            std::vector<PointDessin> trace;
+            for (int i = 0; i <= points; ++i) {
+                const double x = 180.0 * i / points;
+                trace.push_back({10 + x, 100 - 80 * std::sin(x / 20)});
+            }
+            dessin.Polyligne(trace, {Couleur::Courbe1, 2.0});
+        });
+    };
+    EXPECT_LT(EcartMax(courbe(36000), courbe(1800)), 64);
+    EXPECT_GT(EcartMax(courbe(36000), courbe(4)), 128) << "the comparison sees nothing";
+}
+
+TEST(DessinQt, LeDernierPointEstGarde) {
+    // The last step is shorter than what is dropped, and the whole of a tiny curve is still a mark.
+    const QImage image = Dessine([](DessinQt& dessin) {
+        const PointDessin minuscule[] = {{50, 50}, {50.1, 50}, {50.2, 50}};
+        dessin.Polyligne(minuscule, {Couleur::Axe, 4.0});
+    });
+    EXPECT_LT(qGray(image.pixel(50, 50)), 128);
+}
+
+TEST(DessinQt, SurfaceRemplieDUneTeinteEtTexteAncre) {
+    const QImage image = Dessine([](DessinQt& dessin) {
+        dessin.Disque({60, 60}, 40, {Couleur::Came, 2.0});
+        dessin.Texte({199, 150}, "WWWW", Ancrage::Droite, 14);
+        EXPECT_GT(dessin.LargeurTexte("WWWW", 14), dessin.LargeurTexte("W", 14));
+    });
+    const QColor centre = image.pixelColor(60, 60);
+    EXPECT_NE(centre, QColor(Qt::white));
+    EXPECT_GT(centre.lightness(), 200) << "a light shade";
+    bool encre = false;
+    for (int x = 150; x < 200; ++x) encre = encre || qGray(image.pixel(x, 150)) < 128;
+    EXPECT_TRUE(encre) << "the text stands left of its point";
+}
+
+TEST(ZoneDessin, UneFauteDuDessinEstDiteUneFois) {
+    DialoguesScript dialogues;
+    ZoneDessin zone;
+    int appels = 0;
+    zone.Peint([&appels](Dessin&) {
+        ++appels;
+        throw ErreurExecution(NumeroErreur::DivisionParZero);
+    });
+    zone.grab();
+    zone.grab();
+    LaisseFaire();
+    EXPECT_EQ(appels, 1);
+    ASSERT_EQ(dialogues.boites.size(), 1U);
+    EXPECT_EQ(dialogues.boites[0].icone, Icone::Critique);
+    zone.Peint([](Dessin& dessin) { dessin.Disque({5, 5}, 3, {}); });
+    zone.grab();
+    EXPECT_EQ(dialogues.boites.size(), 1U);
+}
+
+TEST(Application, UneFauteDansUnEvenementEstDiteEtLeProgrammeContinue) {
+    DialoguesScript dialogues;
+    QTimer::singleShot(0, [] {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        throw ErreurExecution(NumeroErreur::Depassement, "NombrePoints");
+    });
+    QTimer::singleShot(0, [] { throw std::logic_error("no such control"); });
+    LaisseFaire();
+    ASSERT_EQ(dialogues.boites.size(), 2U);
+    EXPECT_EQ(dialogues.boites[0].texte, TexteErreur(ErreurExecution(NumeroErreur::Depassement, "NombrePoints")));
+    EXPECT_EQ(dialogues.boites[1].texte, "no such control");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the hourglass is gone";
+}
+
+TEST(Icones, ToutesDifferentesEtDeLaCouleurDuTexte) {
+    std::set<QByteArray> vues;
+    for (const QString& cle : ClesIcones()) {
+        const QImage image = IconeBarre(cle).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
+        vues.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+        int encre = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) encre += qAlpha(image.pixel(x, y)) > 128;
+        EXPECT_GT(encre, 24) << S(cle);
+    }
+    EXPECT_EQ(static_cast<qsizetype>(vues.size()), ClesIcones().size());
+
+    const QPalette avant = QApplication::palette();
+    QPalette sombre = avant;
+    sombre.setColor(QPalette::ButtonText, Qt::red);
+    QApplication::setPalette(sombre);
+    EXPECT_EQ(IconeBarre("Arret").pixmap(24, 24).toImage().pixelColor(12, 12), QColor(Qt::red));
+    QApplication::setPalette(avant);
+    EXPECT_THROW(IconeBarre("Inconnue"), std::logic_error);
+}

@@ -1,0 +1,165 @@
+#include "widgets/ApercuImpression.h"
+
+#include "data/Demarrage.h"
+#include "platform/Dialogues.h"
+#include "widgets/Application.h"
+#include "widgets/Chaines.h"
+#include "widgets/Icones.h"
+#include "widgets/ImprimantePoste.h"
+#include "widgets/Legendes.h"
+#include "widgets/Nomme.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr Legende legendes[] = {
+    {"ApercuImpression", 0, 697}, {"Precedent", 0, 16}, {"Suivant", 0, 17}, {"Reduire", 0, 699}, {"Agrandir", 0, 698},
+    {"PageEntiere", 0, 700},      {"Fermer", 0, 5},     {"Pdf", 0, 791},    {"Imprimer", 0, 56},
+};
+
+/// Room that suits an upright page, inside the display.
+QSize TailleInitiale(const QWidget& fenetre) {
+    const QSize place = fenetre.screen()->availableSize();
+    return {std::min(860, place.width() * 9 / 10), std::min(1040, place.height() * 9 / 10)};
+}
+
+} // namespace
+
+ApercuImpression::ApercuImpression(Pages pages, QString nom, QWidget* parent)
+    : QDialog(parent), pages_(std::move(pages)), nom_(std::move(nom)) {
+    setObjectName(QStringLiteral("ApercuImpression"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    apercu_ = Nomme(new QPrintPreviewWidget(&ImprimanteDuPoste()), "Apercu");
+    // An exception must not go through the toolkit: it is kept until the toolkit is done.
+    connect(apercu_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* imprimante) {
+        try {
+            ImprimanteQt surEcran(*imprimante);
+            pages_(surEcran);
+            surEcran.FinDocument();
+        } catch (...) {
+            echec_ = std::current_exception();
+        }
+    });
+    connect(apercu_, &QPrintPreviewWidget::previewChanged, this, &ApercuImpression::MontrePage);
+    FaitBoutons();
+    AppliqueLegendes(*this, legendes);
+    resize(TailleInitiale(*this));
+    apercu_->updatePreview();
+    if (echec_) std::rethrow_exception(echec_);
+    apercu_->setZoomMode(QPrintPreviewWidget::FitInView);
+    MontrePage();
+}
+
+void ApercuImpression::FaitBoutons() {
+    auto* navigation = new QHBoxLayout;
+    auto* actions = new QHBoxLayout;
+    const auto ajoute = [this](QHBoxLayout* rangee, const char* nom, auto procedure) {
+        auto* bouton = Nomme(new QPushButton, nom);
+        bouton->setAutoDefault(false);
+        rangee->addWidget(bouton);
+        connect(bouton, &QPushButton::clicked, this, procedure);
+        return bouton;
+    };
+    precedent_ = ajoute(navigation, "Precedent", [this] { VaALaPage(apercu_->currentPage() - 1); });
+    suivant_ = ajoute(navigation, "Suivant", [this] { VaALaPage(apercu_->currentPage() + 1); });
+    page_ = Nomme(new QLabel, "Page");
+    navigation->addSpacing(8);
+    navigation->addWidget(page_);
+    navigation->addStretch();
+    ajoute(navigation, "Reduire", [this] { apercu_->zoomOut(); });
+    ajoute(navigation, "Agrandir", [this] { apercu_->zoomIn(); });
+    ajoute(navigation, "PageEntiere", [this] { apercu_->setZoomMode(QPrintPreviewWidget::FitInView); });
+
+    ajoute(actions, "Fermer", [this] { reject(); });
+    actions->addStretch();
+    ajoute(actions, "Pdf", [this] { EcritPdf(); });
+    auto* imprimer = ajoute(actions, "Imprimer", [this] { Imprime(); });
+    imprimer->setIcon(IconeBarre(QStringLiteral("Imprime")));
+    imprimer->setEnabled(ImprimanteInstallee());
+    if (!imprimer->isEnabled()) imprimer->setToolTip(QTexte(702));
+    auto* defaut = imprimer->isEnabled() ? imprimer : actions->parentWidget()->findChild<QPushButton*>("Pdf");
+    defaut->setDefault(true);
+
+    const auto touche = [this](const QKeySequence& touches, auto procedure) {
+        connect(new QShortcut(touches, this), &QShortcut::activated, this, procedure);
+    };
+    touche(Qt::Key_PageUp, [this] { VaALaPage(apercu_->currentPage() - 1); });
+    touche(Qt::Key_PageDown, [this] { VaALaPage(apercu_->currentPage() + 1); });
+    touche(Qt::CTRL | Qt::Key_Home, [this] { VaALaPage(1); });
+    touche(Qt::CTRL | Qt::Key_End, [this] { VaALaPage(NombrePages()); });
+    touche(QKeySequence::ZoomIn, [this] { apercu_->zoomIn(); });
+    touche(QKeySequence::ZoomOut, [this] { apercu_->zoomOut(); });
+
+    auto* disposition = new QVBoxLayout(this);
+    disposition->addLayout(navigation);
+    disposition->addWidget(apercu_, 1);
+    disposition->addLayout(actions);
+}
+
+int ApercuImpression::NombrePages() const {
+    return apercu_->pageCount();
+}
+
+void ApercuImpression::VaALaPage(int page) {
+    apercu_->setCurrentPage(std::clamp(page, 1, std::max(1, NombrePages())));
+    MontrePage();
+}
+
+void ApercuImpression::MontrePage() {
+    page_->setText(QTexte(413) + QString::number(apercu_->currentPage()) + " / " + QString::number(NombrePages()));
+    precedent_->setEnabled(apercu_->currentPage() > 1);
+    suivant_->setEnabled(apercu_->currentPage() < NombrePages());
+}
+
+void ApercuImpression::Imprime() {
+    QPrinter& imprimante = ImprimanteDuPoste();
+    QPrintDialog dialogue(&imprimante, this);
+    dialogue.setWindowTitle(QTexte(765));
+    dialogue.setOption(QAbstractPrintDialog::PrintToFile, false); // a PDF has its own way, whole or not at all
+    dialogue.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialogue.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialogue.setMinMax(1, NombrePages());
+    if (dialogue.exec() != QDialog::Accepted) return;
+    QPageRanges choix;
+    if (imprimante.printRange() == QPrinter::CurrentPage) choix.addPage(apercu_->currentPage());
+    if (imprimante.printRange() == QPrinter::PageRange) choix = imprimante.pageRanges();
+    {
+        const Sablier sablier;
+        ImprimanteQt surPapier(imprimante, choix);
+        pages_(surPapier);
+        surPapier.FinDocument();
+    }
+    accept();
+}
+
+void ApercuImpression::EcritPdf() {
+    const auto chemin =
+        LesDialogues().FichierASauver({Texte(703), CheminAppli, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
+    if (!chemin || chemin->empty()) return;
+    const Sablier sablier;
+    ImprimePdf(*chemin, pages_, ImprimanteDuPoste().pageLayout());
+}
+
+void ApercuEtImprime(QWidget* parent, const QString& nom, const Pages& pages) {
+    std::unique_ptr<ApercuImpression> apercu;
+    {
+        const Sablier sablier;
+        apercu = std::make_unique<ApercuImpression>(pages, nom, parent);
+    }
+    if (apercu->NombrePages() == 0) {
+        LesDialogues().Message(Icone::Information, Texte(675));
+        return;
+    }
+    apercu->exec();
+}

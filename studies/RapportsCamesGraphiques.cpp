@@ -6,6 +6,7 @@
 #include "studies/Graphique.h"
 #include "studies/RapportsCames.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -31,16 +32,16 @@ struct Etiquette {
     const char* unite;
 };
 
-/// Degrees between graduations: a round number that leaves some twelve of them.
-double PasGraduation(double total) {
+/// Degrees between graduations: a round number that leaves at most `nombre` of them.
+double PasGraduation(double etendue, double nombre) {
     for (const double pas : {1.0, 2.0, 5.0, 10.0, 15.0, 30.0, 45.0, 60.0, 90.0, 180.0})
-        if (total / pas <= 13.0) return pas;
+        if (etendue / pas <= nombre) return pas;
     return 360.0;
 }
 
 void DessineAxeAngles(Dessin& dessin) {
     const double total = etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
-    const double pas = PasGraduation(total);
+    const double pas = PasGraduation(total, 13);
     for (double angle = 0; angle <= total + 1e-9; angle += pas) {
         const double x = OrigineX + LargeurBoite * angle / total;
         dessin.Ligne({x, Haut}, {x, Bas}, traitGrille);
@@ -50,19 +51,27 @@ void DessineAxeAngles(Dessin& dessin) {
     dessin.Ligne({OrigineX, OrigineY}, {OrigineX + LargeurBoite, OrigineY}, traitAxe);
 }
 
+void DessineEtiquette(Dessin& dessin, double y, const std::string& valeur, const std::string& unite) {
+    const double x = OrigineX - Graduation - 1;
+    dessin.Ligne({OrigineX, y}, {OrigineX + LargeurBoite, y}, traitGrille);
+    dessin.Ligne({OrigineX - Graduation, y}, {OrigineX, y}, traitAxe);
+    // A long number is written smaller, so that it stays on the page.
+    const double reduction = std::min(1.0, x / dessin.LargeurTexte(valeur, HauteurTexte));
+    dessin.Texte({x, y}, valeur, Ancrage::Droite, HauteurTexte * reduction);
+    dessin.Texte({x, y + HauteurTexte + 0.4}, unite, Ancrage::Droite, HauteurUnite, Couleur::TexteDiscret);
+}
+
+/// Values are labelled at their maximum and at the half; angles, of which whole degrees are written, at round ones.
 void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquette) {
-    const std::string unite = etiquette.unite[0] == '\0' ? " " + Texte(19) : etiquette.unite;
-    for (int cran = -2; cran <= 2; ++cran) {
-        const double y = OrigineY - HauteurBoite / 2 * cran / 2;
-        dessin.Ligne({OrigineX, y}, {OrigineX + LargeurBoite, y}, traitGrille);
-        dessin.Ligne({OrigineX - Graduation, y}, {OrigineX, y}, traitAxe);
-        const double x = OrigineX - Graduation - 1;
-        if (cran == 0) {
-            dessin.Texte({x, y}, "0", Ancrage::Droite, HauteurTexte);
-        } else if (maximum > 0) {
-            dessin.Texte({x, y}, Format(maximum * cran / 2, etiquette.masque), Ancrage::Droite, HauteurTexte);
-            dessin.Texte({x, y + HauteurTexte + 0.4}, unite, Ancrage::Droite, HauteurUnite, Couleur::TexteDiscret);
-        }
+    const bool degres = etiquette.unite[0] == '\0';
+    const std::string unite = degres ? " " + Texte(19) : etiquette.unite;
+    DessineEtiquette(dessin, OrigineY, "0", {});
+    if (maximum <= 0) return;
+    const double pas = degres ? PasGraduation(maximum, 3) : maximum / 2;
+    for (double valeur = pas; valeur <= maximum * (1 + 1e-9); valeur += pas) {
+        const double ecart = HauteurBoite / 2 * valeur / maximum;
+        DessineEtiquette(dessin, OrigineY - ecart, Format(valeur, etiquette.masque), unite);
+        DessineEtiquette(dessin, OrigineY + ecart, Format(-valeur, etiquette.masque), unite);
     }
 }
 

@@ -91,6 +91,11 @@ const TableRapport& TableMouvement() {
     return *table;
 }
 
+/// Blanks that keep a column apart from the one before it.
+int Blancs(std::size_t colonne) {
+    return colonne == 0 ? 0 : 1;
+}
+
 /// A column's own width, or that of its longest value behind so many blanks; only its extremes can be the longest.
 int LargeurColonne(const ColonneRapport& colonne, int blancs) {
     if (colonne.valeur == nullptr) return colonne.largeur;
@@ -106,11 +111,13 @@ int LargeurColonne(const ColonneRapport& colonne, int blancs) {
 void ImprimeEnTete(const TableRapport& table) {
     std::string titres, unites;
     for (std::size_t c = 0; c < table.colonnes.size(); ++c) {
-        titres += CadreADroite(DebutTexte(Texte(table.colonnes[c].titre), largeurs[c] - 1), largeurs[c]);
+        const int place = largeurs[c] - Blancs(c);
+        titres += CadreADroite(DebutTexte(Texte(table.colonnes[c].titre), place), largeurs[c]);
         unites += CadreADroite(table.colonnes[c].unite, largeurs[c]);
     }
     ImprimeLigneCames(titres, true);
     ImprimeLigneCames(unites, true);
+    ImprimeLigneCames({});
 }
 
 void ImprimeLigneTable(const TableRapport& table, long point) {
@@ -134,7 +141,7 @@ void ImprimeTable(const TableRapport& table, EnTete enTete, int titre) {
     impression.NombrePages = Entier16(Int((etude.NombrePoints + 8) / 61.0));
     largeurs.clear();
     for (const ColonneRapport& colonne : table.colonnes)
-        largeurs.push_back(LargeurColonne(colonne, largeurs.empty() ? 0 : 1)); // nothing stands before the first
+        largeurs.push_back(LargeurColonne(colonne, Blancs(largeurs.size())));
     ImprimeEnTete(table);
     for (long i = 0; i <= etude.NombrePoints; ++i) ImprimeLigneTable(table, i);
     impression.TypeEnTete = SansEnTete;

@@ -83,13 +83,12 @@ void ApercuImpression::FaitBoutons() {
 
     ajoute(actions, "Fermer", [this] { reject(); });
     actions->addStretch();
-    ajoute(actions, "Pdf", [this] { EcritPdf(); });
+    auto* pdf = ajoute(actions, "Pdf", [this] { EcritPdf(); });
     auto* imprimer = ajoute(actions, "Imprimer", [this] { Imprime(); });
     imprimer->setIcon(IconeBarre(QStringLiteral("Imprime")));
     imprimer->setEnabled(ImprimanteInstallee());
     if (!imprimer->isEnabled()) imprimer->setToolTip(QTexte(702));
-    auto* defaut = imprimer->isEnabled() ? imprimer : actions->parentWidget()->findChild<QPushButton*>("Pdf");
-    defaut->setDefault(true);
+    (imprimer->isEnabled() ? imprimer : pdf)->setDefault(true);
 
     const auto touche = [this](const QKeySequence& touches, auto procedure) {
         connect(new QShortcut(touches, this), &QShortcut::activated, this, procedure);

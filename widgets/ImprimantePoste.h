@@ -4,7 +4,7 @@
 class QPrinter;
 class QWidget;
 
-/// @throws std::logic_error never; a workstation without a printer gives one that can only lay out pages.
+/// On a workstation without a printer it can lay out pages all the same.
 QPrinter& ImprimanteDuPoste();
 
 /// True when a printer is installed.

@@ -199,7 +199,7 @@ std::unique_ptr<Dessin> ImprimanteQt::Feuille(double x, double y, double largeur
 void ImprimanteQt::NouvellePage() {
     PlaceTete(0);
     if (!pageOuverte_) return;
-    rebut_.end();
+    if (rebut_.isActive()) rebut_.end();
     pageOuverte_ = false;
     ++page_;
     const auto* imprimante = dynamic_cast<QPrinter*>(&support_);

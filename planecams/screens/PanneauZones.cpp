@@ -21,6 +21,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -99,10 +100,8 @@ void PanneauZones::RelieChamps() {
     connect(angleCame_, &ChampNombre::Suivant, this, prendFocus(loi_));
     connect(symetrie_, &ChampNombre::Suivant, this, prendFocus(suivante_));
     nombreZones_->installEventFilter(this);
-    connect(loi_, &QComboBox::activated, this, &PanneauZones::ChoisitLoi);
-    connect(loi_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        if (ChoisitLoi()) symetrie_->setFocus(Qt::TabFocusReason);
-    });
+    connect(loi_, &QComboBox::activated, this, [this] { DemandeChoix(false); });
+    connect(loi_->lineEdit(), &QLineEdit::returnPressed, this, [this] { DemandeChoix(true); });
     connect(grille_, &QTableView::clicked, this, [this](const QModelIndex& index) { VaALaZone(index.row()); });
     connect(suivante_, &QPushButton::clicked, this, &PanneauZones::Suivante);
 }
@@ -185,6 +184,20 @@ void PanneauZones::VaALaZone(int ligne) {
     etude.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
     valeurDepart_->setFocus(Qt::TabFocusReason);
+}
+
+/// One Return may announce itself twice, as a key and as a choice: the law is chosen once.
+void PanneauZones::DemandeChoix(bool continuer) {
+    continuer_ = continuer_ || continuer;
+    if (std::exchange(choixDemande_, true)) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            choixDemande_ = false;
+            const bool suite = std::exchange(continuer_, false);
+            if (ChoisitLoi() && suite) symetrie_->setFocus(Qt::TabFocusReason);
+        },
+        Qt::QueuedConnection);
 }
 
 bool PanneauZones::ChoisitLoi() {

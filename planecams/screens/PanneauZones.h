@@ -56,6 +56,7 @@ private:
     void MontreZone();
     void RemplitGrille();
     void ProposeFichier();
+    void DemandeChoix(bool continuer);
     bool ChoisitLoi();
     void ChercheFichier();
     void EntreNombreZones();
@@ -73,5 +74,6 @@ private:
     Grille* grille_;
     QLabel* somme_;
     QPushButton* suivante_;
+    bool choixDemande_ = false, continuer_ = false;
     std::int16_t zonesEntrees_ = 0; ///< zones accepted so far, from the first
 };

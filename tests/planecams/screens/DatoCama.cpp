@@ -1,5 +1,7 @@
 #include "planecams/screens/DatoCama.h"
+#include "planecams/screens/DoProfil.h"
 
+#include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
 #include "outils/DialoguesScript.h"
@@ -13,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <fstream>
 #include <memory>
 
 namespace {
@@ -242,4 +245,80 @@ TEST_F(SaisieBras, NoCaptionIsCutInAnyLanguage) {
         LaisseFaire();
         for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
     }
+}
+
+TEST_F(SaisieBras, ALawFileIsOfferedToOneZoneOnly) {
+    auto* lois = Controle<QComboBox>(*ecran, "Combo1");
+    Tape("Text13", "1");
+    EXPECT_GE(lois->findText("Fichier"), 0);
+    Tape("Text13", "2");
+    EXPECT_LT(lois->findText("Fichier"), 0);
+    Tape("Text13", "1");
+
+    const auto chemin = std::filesystem::path(testing::TempDir()) / "loi.Lmi";
+    std::ofstream fichier(chemin);
+    for (int i = 0; i <= 721; ++i) fichier << std::min(i / 720.0, 1.0) << ";-1;.5\n";
+    fichier.close();
+    TapeDonnees();
+    Tape("Text14", "25");
+    Tape("Text15", "40");
+    dialogues.fichiers = {std::nullopt, chemin};
+    for (int fois = 0; fois < 2; ++fois) {
+        lois->setCurrentText("Fichier");
+        QTest::keyClick(lois->lineEdit(), Qt::Key_Return);
+        LaisseFaire();
+        if (fois == 0) {
+            EXPECT_GT(etude.ListeLois.BorneHaute(), 1) << "cancelled: as it was";
+        }
+    }
+    EXPECT_EQ(etude.ListeLois[1].NomLoi, "Fichier");
+    EXPECT_EQ(Texte_("Text16"), "360");
+    EXPECT_EQ(Controle<QComboBox>(*ecran, "Combo2")->currentText(), "2");
+    Clique("Suivante");
+    Clique("Calculer");
+    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+    EXPECT_EQ(etude.NombrePoints, 720);
+    EXPECT_NEAR(etude.Mouvement[361].Course, 32.5, 1e-9);
+    std::filesystem::remove(chemin);
+}
+
+TEST_F(SaisieBras, TheTranslatingFollowerIsEnteredAlike) {
+    DoProfil profil;
+    profil.show();
+    LaisseFaire();
+    const auto tape = [&](const char* champ, const char* texte) {
+        auto* saisie = Controle<QLineEdit>(profil, champ);
+        saisie->setFocus();
+        saisie->selectAll();
+        QTest::keyClicks(saisie, texte);
+        QTest::keyClick(saisie, Qt::Key_Return);
+        LaisseFaire();
+    };
+    const auto clique = [&](const char* bouton) {
+        QTest::mouseClick(Controle<QPushButton>(profil, bouton), Qt::LeftButton);
+        LaisseFaire();
+    };
+    etude.TypeCame = "Lineaire";
+    tape("Text1", "12");
+    tape("Text2", "240");
+    tape("Text3", "16");
+    tape("Text4", "1,8");
+    tape("Text13", "2");
+    EXPECT_LT(Controle<QComboBox>(profil, "Combo1")->findText("Fichier"), 0);
+    tape("Text14", "0");
+    tape("Text15", "70");
+    tape("Text16", "180");
+    clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(393));
+    tape("Text14", "50");
+    clique("Suivante");
+    tape("Text15", "50");
+    tape("Text16", "180");
+    clique("Suivante");
+    QSignalSpy calculee(&profil, &SaisieCame::EtudeCalculee);
+    clique("Calculer");
+    EXPECT_EQ(calculee.count(), 1);
+    EXPECT_EQ(etude.MasseA, 1.8);
+    EXPECT_EQ(etude.RayonMax, 70);
+    EXPECT_EQ(Controle<Grille>(profil, "Grille")->Cellule(0, 2), "50.") << "no columns of arm angles";
 }

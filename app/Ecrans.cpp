@@ -1,6 +1,7 @@
 #include "app/Ecrans.h"
 
 #include "planecams/screens/DatoCama.h"
+#include "planecams/screens/DoProfil.h"
 #include "studies/screens/Resultat.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ QWidget* CreeResultat(const DemandesEcran& demandes) {
 
 constexpr EcranEnfant LesEcrans[] = {
     {"DatoCama", "Retour", CreeSaisie<DatoCama>},
+    {"DoProfil", "Retour", CreeSaisie<DoProfil>},
     {"Resultat", "Quitter", CreeResultat},
 };
 

@@ -5,11 +5,15 @@
 #include "app/Ecrans.h"
 #include "app/Propos.h"
 #include "data/Demarrage.h"
-#include "laws/CalculLois.h"
+#include "studies/Exports.h"
 #include "studies/FichierEtude.h"
+#include "studies/RapportsCames.h"
 #include "studies/screens/Resultat.h"
+#include "studies/screens/SeleSauv.h"
+#include "widgets/ApercuImpression.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/ImprimantePoste.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -20,11 +24,10 @@
 #include <QScreen>
 #include <QStatusBar>
 
-#include <utility>
-
 namespace {
 
 enum NumerosTexte {
+    TexteTitre = 7,
     TexteRienASauver = 23,
     TexteNouvelleEtude = 80,
     TexteTitreResultats = 118,
@@ -34,8 +37,9 @@ enum NumerosTexte {
     TexteTitreOuvrir = 125,
     TexteFichierEnregistre = 127,
     TexteLectureImpossible = 128,
-    TexteEcritureImpossible = 129,
     TexteConfigurationSauvee = 130,
+    TexteEntrezTitre = 133,
+    TexteRienAImprimer = 135,
     TexteRotation = 435,
 };
 
@@ -64,17 +68,6 @@ constexpr const char* OrdreFermeture[] = {
 
 /// Size that the window opens at, where the display has room for it.
 constexpr QSize TailleFenetre(1320, 900);
-
-/// An empty study record. The catalogue of laws lives as long as the program, but a law file leaves a single row of it,
-/// which ends with its study.
-void VideEtude() {
-    Etude vide;
-    vide.TypeCame = etude.TypeCame;
-    std::swap(vide.ListeLois, etude.ListeLois);
-    vide.NombreLois = etude.NombreLois;
-    etude = std::move(vide);
-    if (etude.ListeLois.BorneHaute() < 1 || etude.ListeLois[1].NomLoi == NomLoiFichier) ChargeLois();
-}
 
 /// The data screen of the present study's kind.
 std::string EcranDeSaisie() {
@@ -120,8 +113,9 @@ void MdiCamA::Nouveau() {
 void MdiCamA::CommenceEtude(const ChoixEtude& choix) {
     const Sablier sablier;
     FermeEcrans();
+    const std::string ancienType = etude.TypeCame;
     VideEtude();
-    if (choix.typeCame) etude.TypeCame = choix.typeCame;
+    etude.TypeCame = choix.typeCame ? choix.typeCame : ancienType;
     OuvreEcran(choix.ecran);
     etude.Erreur = Faux;
     Annonce(Texte(TexteNouvelleEtude));
@@ -165,15 +159,32 @@ void MdiCamA::Sauvegarder() {
         LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
         return;
     }
-    try {
-        if (!DonneesDepart()) return;
+    SeleSauv sauvegarde(this);
+    connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.NomFichier);
         if (QWidget* resultat = EcranOuvert("Resultat"))
             resultat->setWindowTitle(Q(etude.NomFichier + " " + Texte(TexteTitreResultats)));
-    } catch (const ErreurExecution& erreur) {
-        Annonce(Texte(TexteEcritureImpossible) + " " + erreur.detail);
-        throw;
+    });
+    sauvegarde.exec();
+}
+
+void MdiCamA::Imprimer() {
+    if (!etude.ResultatsPrets) {
+        LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
+        return;
     }
+    // The title stands at the head of every report: a study without one is asked for it again.
+    while (etude.NomFichier.empty())
+        etude.NomFichier = Trim(LesDialogues().Saisie(Texte(TexteTitre), Texte(TexteEntrezTitre), {}).value_or(""));
+    ::MarquesImpression marques{};
+    const std::vector<QAction*> entrees = MarquesImpression();
+    for (std::size_t i = 0; i < entrees.size(); ++i) marques.at(i) = entrees[i]->isChecked();
+    ApercuEtImprime(this, Q(NomSansExtension(etude.NomFichier)),
+                    [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
+}
+
+void MdiCamA::ConfigureImpression() {
+    ConfigureImprimante(this);
 }
 
 void MdiCamA::MontrePropos() {
@@ -275,9 +286,10 @@ void MdiCamA::PlaceSousFenetre(QMdiSubWindow& sousFenetre) {
 void MdiCamA::MontreResultats() {
     const auto saisie = ecrans_.find(EcranDeSaisie());
     if (saisie != ecrans_.end() && saisie->second) saisie->second->hide();
-    auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat"));
-    if (!resultat) resultat = qobject_cast<Resultat*>(OuvreEcran("Resultat"));
-    resultat->Montre();
+    if (auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat")))
+        resultat->Montre();
+    else
+        OuvreEcran("Resultat");
     Annonce(Texte(TexteEtudeCalculee));
 }
 

@@ -1,7 +1,7 @@
 // The main window: menus, tool bar, child screens, and the commands that begin, open and save a study.
 #pragma once
 
-#include "app/Configuration.h"
+#include "data/Configuration.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -99,6 +99,8 @@ private:
     void Ouvrir();
     void OuvreParType(const TypeEtude* type);
     void Sauvegarder();
+    void Imprimer();
+    void ConfigureImpression();
     void MontrePropos();
     void SauveConfiguration();
     void Quitter();

@@ -2,6 +2,7 @@
 #include "app/Aide.h"
 #include "app/MdiCamA.h"
 #include "data/Demarrage.h"
+#include "data/Textes.h"
 #include "laws/CalculLois.h"
 #include "widgets/Application.h"
 #include "widgets/DialoguesQt.h"

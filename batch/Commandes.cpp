@@ -3,6 +3,7 @@
 #include "batch/CommandeEtude.h"
 #include "batch/CommandeLoi.h"
 #include "core/FichierEntier.h"
+#include "data/Configuration.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 
@@ -40,22 +41,12 @@ void EcritAide(std::ostream& sortie) {
               "  cannot be opened. Of several files all are calculated, and the worst status is returned.\n";
 }
 
-/// The working language of the desktop program: the eighth line of its configuration.
-std::string LangueConfiguree(const std::filesystem::path& configuration) {
-    std::istringstream lignes(LitFichierEntier(configuration));
-    std::string langue;
-    for (int i = 0; i < 8; ++i)
-        if (!std::getline(lignes, langue)) throw ErreurExecution(NumeroErreur::FinDeFichier, configuration.string());
-    if (!langue.empty() && langue.back() == '\r') langue.pop_back();
-    return langue;
-}
-
 /// Opens the catalogue beside other readers, and loads the texts.
 void OuvreCatalogue(const LigneCommande& ligne) {
     CheminAppli = DossierExecutable();
     LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? CheminAppli / NomBase : std::filesystem::path(ligne.base),
                                 MotDePasseBase, BaseDonnees::Usage::Lecture);
-    LangueTravail = ligne.langue.empty() ? LangueConfiguree(CheminAppli / "CameAng.cfg") : ligne.langue;
+    LangueTravail = ligne.langue.empty() ? LitConfiguration(CheminAppli / NomConfiguration).langue : ligne.langue;
     ChargeTextes(LaBase);
     if (!ligne.langue.empty() && LangueTravail != ligne.langue)
         throw UsageIncorrect("the catalogue has no language '" + ligne.langue + "'");

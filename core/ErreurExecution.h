@@ -17,8 +17,10 @@ enum class NumeroErreur {
     DisquePlein = 61,        ///< no room left on the device
     FinDeFichier = 62,       ///< input past the end of the file
     AccesFichier = 75,       ///< the path or the file cannot be opened
+    DossierIntrouvable = 76, ///< no such folder
     ContenuInvalide = 321,   ///< a file holds what it cannot hold
     ExtensionInconnue = 322, ///< no study has files of this extension
+    TypeNonCalcule = 324,    ///< a kind of study that this version does not calculate
     FichierTropGrand = 323,  ///< larger than any file of the program
     BaseIllisible = 3031,    ///< wrong password, or a damaged database
     BaseOccupee = 3045,      ///< another program holds the database

@@ -153,3 +153,7 @@ extern Etude etude;
 inline bool SansErreur() {
     return static_cast<std::uint16_t>(etude.Erreur) < 65535;
 }
+
+/// Empties the study record for another study. What lives as long as the program stays: the catalogue of laws as it is
+/// by now, the last unit law, and the maxima that go on growing from one calculation to the next.
+void VideEtude();

@@ -116,11 +116,12 @@ void EcritFichierEntier(const fs::path& chemin, std::string_view contenu) {
     const auto abandonne = [&](int code) {
         std::error_code ignore;
         fs::remove(temporaire, ignore);
+        if (code == ENOENT) throw ErreurExecution(NumeroErreur::DossierIntrouvable, chemin.string());
         SignaleErreur(code, chemin);
     };
     {
         const Fichier f(std::fopen(temporaire.string().c_str(), "wb"));
-        if (!f) SignaleErreur(errno, chemin);
+        if (!f) abandonne(errno);
         ReprendDroits(f.get(), cible);
         if (std::fwrite(contenu.data(), 1, contenu.size(), f.get()) != contenu.size()) abandonne(errno);
         if (!VideSurDisque(f.get())) abandonne(errno);

@@ -11,7 +11,7 @@
 namespace {
 
 /// The password is a fixed text of the program, so that stretching it guards nothing: few rounds keep the start short.
-constexpr const char* Chiffrement = "PRAGMA kdf_iter = 4000";
+constexpr const char* Chiffrement = "PRAGMA kdf_iter = 256";
 
 std::string Entoure(const std::string& nom) {
     std::string sortie = "\"";

@@ -5,6 +5,7 @@
 #include "core/Nombres.h"
 #include "data/BaseDonnees.h"
 #include "data/Demarrage.h"
+#include "data/Textes.h"
 
 #include <algorithm>
 #include <string_view>
@@ -26,8 +27,6 @@ const Table tables[] = {
     {"Table Mecanismes Cylindriques", "Modele", {"Modele"}},
     {"Table Mécanismes Globique", "Modele", {"Modele"}},
 };
-
-constexpr std::size_t PremierChampLangue = 2;
 
 std::vector<std::string_view> Coupe(std::string_view texte, char separateur) {
     std::vector<std::string_view> morceaux;
@@ -63,7 +62,7 @@ void RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::
     std::vector<DefinitionChamp> champs;
     for (const auto nom : Coupe(lignes[0], '\t')) {
         const bool texte = std::count(table.champsTexte.begin(), table.champsTexte.end(), nom) > 0 ||
-                           (table.texteApresLangue && champs.size() >= PremierChampLangue);
+                           (table.texteApresLangue && champs.size() >= static_cast<std::size_t>(PremiereLangue));
         champs.push_back({std::string(nom), !texte});
     }
     base.CreeTable(table.nom, champs, table.cle);

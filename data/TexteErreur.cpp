@@ -11,13 +11,14 @@ struct Sens {
 };
 
 constexpr Sens sens[] = {
-    {NumeroErreur::AppelIncorrect, 709},    {NumeroErreur::Depassement, 710},
-    {NumeroErreur::IndiceHorsLimites, 712}, {NumeroErreur::DivisionParZero, 713},
-    {NumeroErreur::TypeIncompatible, 714},  {NumeroErreur::FichierIntrouvable, 716},
-    {NumeroErreur::EntreeSortie, 717},      {NumeroErreur::DisquePlein, 718},
-    {NumeroErreur::FinDeFichier, 719},      {NumeroErreur::AccesFichier, 721},
-    {NumeroErreur::ContenuInvalide, 725},   {NumeroErreur::ExtensionInconnue, 728},
-    {NumeroErreur::FichierTropGrand, 726},  {NumeroErreur::BaseIllisible, 730},
+    {NumeroErreur::AppelIncorrect, 709},     {NumeroErreur::Depassement, 710},
+    {NumeroErreur::IndiceHorsLimites, 712},  {NumeroErreur::DivisionParZero, 713},
+    {NumeroErreur::TypeIncompatible, 714},   {NumeroErreur::FichierIntrouvable, 716},
+    {NumeroErreur::EntreeSortie, 717},       {NumeroErreur::DisquePlein, 718},
+    {NumeroErreur::FinDeFichier, 719},       {NumeroErreur::AccesFichier, 721},
+    {NumeroErreur::ContenuInvalide, 725},    {NumeroErreur::ExtensionInconnue, 728},
+    {NumeroErreur::DossierIntrouvable, 722}, {NumeroErreur::TypeNonCalcule, 795},
+    {NumeroErreur::FichierTropGrand, 726},   {NumeroErreur::BaseIllisible, 730},
     {NumeroErreur::BaseOccupee, 731},
 };
 

@@ -28,18 +28,8 @@ constexpr Difference secondes[] = {
 
 /// Difference of two neighbours against the cam angle. The division by `PointsParDegre` is required as it stands, so
 /// that this is the true derivative with one point per degree only.
-double Derive(double ecart, double pointsParDegre) {
-    return ecart * 180.0 / pointsParDegre / Pi;
-}
-
-/// The differences of several columns at one point. They are gathered first, so that their divisions run side by side.
-template <std::size_t N>
-void DeriveColonnes(const Difference (&colonnes)[N], double pointsParDegre, PointProfil& ici,
-                    const PointProfil& suivant) {
-    double ecarts[N];
-    for (std::size_t c = 0; c < N; ++c) ecarts[c] = ici.*colonnes[c].de - suivant.*colonnes[c].de;
-    for (double& ecart : ecarts) ecart = Derive(ecart, pointsParDegre);
-    for (std::size_t c = 0; c < N; ++c) ici.*colonnes[c].vers = ecarts[c];
+double Derive(double ici, double suivant) {
+    return (ici - suivant) * 180.0 / etude.PointsParDegre / Pi;
 }
 
 void CalculeAnglesTangents() {
@@ -71,15 +61,14 @@ void CalculeCourbesDecalees() {
 
 void CalculeDifferences() {
     const long N = etude.NombrePoints;
-    const double p = etude.PointsParDegre;
     // Index of the last degree, not of the last point: with more than one point per degree the closing value lands in
     // mid-table and the last point keeps 0, as required.
-    const long M = Entier16(static_cast<double>(N) / p);
+    const long M = Entier16(static_cast<double>(N) / etude.PointsParDegre);
     for (long i = 0; i < N; ++i) {
         PointProfil& ici = etude.Profil[i];
         const PointProfil& suivant = etude.Profil[i + 1];
-        ici.DeriveeRayon = Derive(etude.Points[i].Rayon - etude.Points[i + 1].Rayon, p);
-        DeriveColonnes(premieres, p, ici, suivant);
+        ici.DeriveeRayon = Derive(etude.Points[i].Rayon, etude.Points[i + 1].Rayon);
+        for (const auto& d : premieres) ici.*d.vers = Derive(ici.*d.de, suivant.*d.de);
     }
     PointProfil& fin = etude.Profil[M];
     const PointProfil& debut = etude.Profil[0];
@@ -89,7 +78,7 @@ void CalculeDifferences() {
     for (long i = 0; i < N; ++i) {
         PointProfil& ici = etude.Profil[i];
         const PointProfil& suivant = etude.Profil[i + 1];
-        DeriveColonnes(secondes, p, ici, suivant);
+        for (const auto& d : secondes) ici.*d.vers = Derive(ici.*d.de, suivant.*d.de);
     }
     fin.Derivee2Rayon = debut.Derivee2Rayon;
     fin.YExterieur2 = debut.YExterieur2;

@@ -7,30 +7,44 @@
 
 namespace {
 
-std::optional<FauteDonnee> ChercheNul(std::span<const FauteDonnee> nonNuls) {
-    for (const auto& faute : nonNuls)
-        if (etude.*faute.membre == 0.0) return faute;
+/// What a scalar must not be.
+struct Limite {
+    FauteDonnee faute;
+    bool (*interdit)(double valeur);
+};
+
+bool Nul(double valeur) {
+    return valeur == 0.0;
+}
+bool NulOuNegatif(double valeur) {
+    return !(valeur > 0.0);
+}
+
+std::optional<FauteDonnee> ChercheFaute(std::span<const Limite> limites) {
+    for (const auto& limite : limites)
+        if (limite.interdit(etude.*limite.faute.membre)) return limite.faute;
     return {};
 }
 
 } // namespace
 
 std::optional<FauteDonnee> ChercheFauteAngulaire() {
-    constexpr FauteDonnee nonNuls[] = {
-        {&Etude::CoteA, 197}, {&Etude::RayonO1P, 202}, {&Etude::RayonGalet, 201}, {&Etude::VitesseCame, 200}};
-    return ChercheNul(nonNuls);
+    constexpr Limite limites[] = {{{&Etude::CoteA, 197}, Nul},
+                                  {{&Etude::RayonO1P, 202}, Nul},
+                                  {{&Etude::RayonGalet, 201}, NulOuNegatif},
+                                  {{&Etude::VitesseCame, 200}, Nul}};
+    return ChercheFaute(limites);
 }
 
 std::optional<FauteDonnee> ChercheFauteLineaire() {
-    constexpr FauteDonnee nonNuls[] = {{&Etude::RayonGalet, 201}, {&Etude::VitesseCame, 200}};
-    return ChercheNul(nonNuls);
+    constexpr Limite limites[] = {{{&Etude::RayonGalet, 201}, NulOuNegatif}, {{&Etude::VitesseCame, 200}, Nul}};
+    return ChercheFaute(limites);
 }
 
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {
     if (zone.CoefSymetrie < 0.0 || zone.CoefSymetrie > 1.0)
         return FauteZone{ChampZone::Symetrie, Texte(522) + " 0 <= C <=1"};
-    if (zone.NomLoi != NomLoiFichier && !EstLoiSpe(zone.NomLoi) && ChercheLoi(zone.NomLoi) == 0)
-        return FauteZone{ChampZone::NomLoi, Texte(511)};
+    if (!EstLoiSpe(zone.NomLoi) && ChercheLoi(zone.NomLoi) == 0) return FauteZone{ChampZone::NomLoi, Texte(511)};
     if (!(zone.AngleCame > 0.0)) return FauteZone{ChampZone::AngleCame, Texte(204)};
     return {};
 }
@@ -45,8 +59,14 @@ bool EstPointsParDegre(const std::string& texte) {
                        [&](std::int16_t p) { return texte == std::to_string(p); });
 }
 
-bool TropDePoints(std::int16_t pointsParDegre) {
-    double points = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) points += Arrondi(etude.Zones[z].AngleCame * pointsParDegre);
-    return points > 32767.0;
+int FautePoints(std::int16_t pointsParDegre) {
+    double points = 0, decalage = 0, dernier = 0;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        const double n = etude.Zones[z].AngleCame * pointsParDegre;
+        points += Arrondi(n);
+        dernier = decalage + Int(n);
+        decalage = Arrondi(decalage + n);
+    }
+    if (points > 32767.0) return 205;
+    return dernier == points ? 0 : 794;
 }

@@ -44,5 +44,6 @@ inline constexpr std::int16_t PointsParDegrePermis[] = {1, 2, 4, 5, 8, 10};
 /// True for exactly the text of one of `PointsParDegrePermis`.
 bool EstPointsParDegre(const std::string& texte);
 
-/// True when the zones make more points than a 16-bit subscript reaches.
-bool TropDePoints(std::int16_t pointsParDegre);
+/// Text number of what is wrong with the points that the zones make: more than a 16-bit subscript reaches, or a last
+/// zone that does not end on a point. 0 when nothing is.
+int FautePoints(std::int16_t pointsParDegre);

@@ -25,9 +25,14 @@ inline double TempsZone(double angleCame, double vitesseCame) {
     return Divise(angleCame, vitesseCame) / 6.0;
 }
 
-/// Radii of the roller centre at both ends of a zone of the arm cam, into its `RayonDepart` and `RayonFinal`. `Erreur`
-/// is set when either end cannot be reached.
-void CalculeRayonsZone(Zone& zone);
+/// Completes zone `z` (1..`NombreZones`) from what was entered: its duration and, on an arm, the radii of the roller
+/// centre. The first zone starts at its own angle, a later one at the end of the zone before. `Erreur` is set when an
+/// end of the arm's travel cannot be reached.
+/// @throws ErreurExecution division by zero for a cam at rest or an arm of length 0.
+void CompleteZone(std::int16_t z, bool bras);
+
+/// Completes all zones; `Erreur` is set when one of them cannot be.
+void CompleteZones(bool bras);
 
 /// Zones to `Mouvement` and `Points` of the arm cam, with the extreme values.
 void CalculeMouvementBras();

@@ -41,8 +41,9 @@ public:
     virtual double Largeur() const = 0;
     virtual double Hauteur() const = 0;
 
-    /// A surface in millimetres whose upper left corner is at (x, y) mm, for the life of the object and of the page.
-    virtual std::unique_ptr<Dessin> Feuille(double x, double y, double largeur, double hauteur) = 0;
+    /// A surface whose upper left corner is at `coin` (mm) and that is so many mm wide and high, for the life of the
+    /// object and of the page. @param unite its unit of length, mm
+    virtual std::unique_ptr<Dessin> Feuille(PointDessin coin, double largeur, double hauteur, double unite = 1) = 0;
 
     /// Number of the present page, from 1.
     virtual int Page() const = 0;

@@ -150,7 +150,8 @@ void DessineBras(Dessin& dessin, const Vue& vue, long i) {
 
 void DessineCamePlate(Dessin& dessin, double angle) {
     if (etude.Points.Vide() || etude.NombrePoints == 0) return;
-    const long i = std::clamp(std::lround(angle * etude.PointsParDegre), 0L, static_cast<long>(etude.NombrePoints));
+    const long i =
+        std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
     const Vue vue(dessin, CalculeEtendue());
     const PointDessin P = CentreGalet(i);
     const double radians = std::atan2(P.y, P.x) - etude.Points[i].Angle / RadDeg;

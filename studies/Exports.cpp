@@ -120,11 +120,6 @@ std::string ComposeScriptInterieur() {
     return script.texte_;
 }
 
-std::string NomSansExtension(const std::string& nomFichier) {
-    const std::filesystem::path nom(nomFichier);
-    return TrouveTypeFichier(nom) == nullptr ? nomFichier : nom.stem().string();
-}
-
 void FichiersPoints() {
     EcritDemande(124, NomSansExtension(etude.NomFichier), "Pnt", ComposeFichierPoints);
 }

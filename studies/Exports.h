@@ -13,9 +13,6 @@ std::string ComposeFichierPoints();
 std::string ComposeScriptExterieur();
 std::string ComposeScriptInterieur();
 
-/// Name of a study without its extension, on which the names of its exports are built.
-std::string NomSansExtension(const std::string& nomFichier);
-
 /// Ask for a path and write there, whole or not at all; a cancelled dialogue writes nothing.
 /// @throws ErreurExecution disk full, access refused, input/output; the old file is as it was.
 void FichiersPoints();

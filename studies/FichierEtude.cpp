@@ -31,12 +31,6 @@ void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
     zone.CoefSymetrie = LitNombre(lignes);
 }
 
-/// Radii of the roller centre at the ends of a zone of an arm cam, each zone starting where the one before ends.
-void CalculeRayonsZoneLue(Zone& zone, const Zone& precedente, bool premiere) {
-    CalculeRayonsZone(zone);
-    if (!premiere) zone.RayonDepart = precedente.RayonFinal;
-}
-
 /// Today's date as "dd mm yyyy".
 std::string DateDuJour() {
     const std::time_t maintenant = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
@@ -72,18 +66,17 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
                                    Texte(521) + " ' " + zone.NomLoi + " ' " + Texte(103) + "\n" + Texte(509));
             return false;
         }
-        zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
-        if (type.bras) CalculeRayonsZoneLue(zone, etude.Zones[z - 1], z == 1);
+        CompleteZone(z, type.bras);
     }
-    etude.ZonesConjuguees = etude.Zones;
+    if (type.conjuguees) etude.ZonesConjuguees = etude.Zones;
     etude.PointsParDegre = Entier16(LitNombre(lignes));
     return true;
 }
 
 bool LitFichierEtude(const std::filesystem::path& chemin) {
     const TypeEtude* type = TrouveTypeFichier(chemin);
-    if (type == nullptr || !type->Disponible())
-        throw ErreurExecution(NumeroErreur::ExtensionInconnue, chemin.extension().string());
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::ExtensionInconnue, chemin.extension().string());
+    if (!type->Disponible()) throw ErreurExecution(NumeroErreur::TypeNonCalcule, Texte(type->titre));
     const std::string contenu = LitFichierEntier(chemin);
     etude.NomFichier = chemin.filename().string();
     return LitEtude(contenu, *type);
@@ -107,8 +100,9 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
         nombre(Format(zone.*type.valeurDepart, type.masqueValeur));
         nombre(Format(zone.*type.valeurFinale, type.masqueValeur));
         nombre(Format(zone.AngleCame, type.masqueAngleCame));
-        ligne(zone.NomLoi);
-        nombre(StrTrim(zone.CoefSymetrie));
+        const Zone& loi = type.conjuguees ? etude.ZonesConjuguees[z] : zone;
+        ligne(loi.NomLoi);
+        nombre(StrTrim(loi.CoefSymetrie));
     }
     ligne(std::to_string(etude.PointsParDegre));
     return contenu;
@@ -117,9 +111,9 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
 bool DonneesDepart() {
     const TypeEtude* type = TrouveType(etude.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
-    const auto chemin = LesDialogues().FichierASauver({Texte(120) + " " + Texte(type->titre),
+    const auto chemin = LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
                                                        CheminAppli / NomDossierEtudes,
-                                                       etude.NomFichier,
+                                                       NomSansExtension(etude.NomFichier) + "." + type->extension,
                                                        {FiltreEtude(*type)}});
     if (!chemin || chemin->empty()) return false;
     EcritFichierEntier(*chemin, ComposeFichierEtude(*type, SeparateurRegional()));

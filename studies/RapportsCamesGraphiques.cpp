@@ -12,11 +12,12 @@
 
 namespace {
 
-// The box inside its frame, mm.
+// The box inside its frame, and the frames on the page, mm on A4.
 constexpr double LargeurBoite = 160, HauteurBoite = 60;
 constexpr double OrigineX = 20, OrigineY = 40; // of the curve: angle 0 and value 0
 constexpr double Graduation = 2.5;             // length of a graduation line
-constexpr double HauteurCadre = 80, PremierCadre = 30;
+constexpr double LargeurCadre = OrigineX + LargeurBoite + 4, HauteurCadre = 80, PremierCadre = 30;
+constexpr int CadresPage = 3;
 constexpr double HauteurTexte = 2.8, HauteurUnite = 2.4;
 constexpr double Haut = OrigineY - HauteurBoite / 2, Bas = OrigineY + HauteurBoite / 2;
 
@@ -101,14 +102,16 @@ void DessineBoite(Dessin& dessin, const Courbe& courbe, const Etiquette& etiquet
 void ImprimeGraphiques(const std::vector<Courbe>& courbes, const std::vector<Etiquette>& etiquettes) {
     Imprimante& imprimante = ImprimanteEnCours();
     DebutPageCames(Texte(TitreGraphiques));
+    // On a page smaller than that of A4 the millimetre of the boxes is smaller too.
+    const double unite = std::min(
+        {1.0, imprimante.Largeur() / LargeurCadre, imprimante.Hauteur() / (PremierCadre + CadresPage * HauteurCadre)});
     for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
-        const auto cadre = imprimante.Feuille(0, PremierCadre + HauteurCadre * static_cast<double>(rang),
-                                              imprimante.Largeur(), HauteurCadre);
+        const double y = PremierCadre + HauteurCadre * static_cast<double>(rang);
+        const auto cadre = imprimante.Feuille({0, y * unite}, imprimante.Largeur(), HauteurCadre * unite, unite);
         DessineBoite(*cadre, courbes[rang], etiquettes[rang], couleurs[rang]);
+        if (rang + 1 == courbes.size())
+            cadre->Texte({OrigineX + LargeurBoite, Bas + 9}, Texte(280), Ancrage::Droite, HauteurTexte);
     }
-    const double bas = PremierCadre + HauteurCadre * static_cast<double>(courbes.size() - 1) + Bas + 6;
-    const auto legende = imprimante.Feuille(0, bas, imprimante.Largeur(), 6);
-    legende->Texte({OrigineX + LargeurBoite, 3}, Texte(280), Ancrage::Droite, HauteurTexte);
     imprimante.NouvellePage();
 }
 

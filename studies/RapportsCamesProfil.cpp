@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -52,19 +54,21 @@ double ChoisitEchelle(const Etendue& e, double largeur, double hauteur) {
     return *std::rbegin(echelles);
 }
 
+/// What each stroke is, in one row that takes the width of the page at most.
 void DessineLegende(Dessin& dessin) {
-    const struct {
-        Trait trait;
-        int texte;
-    } lignes[] = {{traitProfil, 291}, {traitProfil, 290}, {traitPrimitif, 293}, {traitGalet, 289}};
-    double x = 0;
     // Both profiles are drawn alike: one entry names them.
-    for (std::size_t i = 1; i < std::size(lignes); ++i) {
-        const std::string nom =
-            i == 1 ? Texte(lignes[0].texte) + ", " + Texte(lignes[1].texte) : Texte(lignes[i].texte);
-        dessin.Ligne({x, HauteurTexte}, {x + 8, HauteurTexte}, lignes[i].trait);
-        dessin.Texte({x + 10, HauteurTexte}, nom, Ancrage::Gauche, HauteurTexte);
-        x += 16 + dessin.LargeurTexte(nom, HauteurTexte);
+    const std::pair<Trait, std::string> entrees[] = {
+        {traitProfil, Texte(291) + ", " + Texte(290)}, {traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}};
+    constexpr double trait = 8, blanc = 2, ecart = 6;
+    double longueur = -ecart;
+    for (const auto& [plume, nom] : entrees) longueur += trait + blanc + dessin.LargeurTexte(nom, HauteurTexte) + ecart;
+    const double reduction = std::min(1.0, dessin.Largeur() / longueur);
+    double x = 0;
+    for (const auto& [plume, nom] : entrees) {
+        dessin.Ligne({x, HauteurTexte}, {x + trait * reduction, HauteurTexte}, plume);
+        x += (trait + blanc) * reduction;
+        dessin.Texte({x, HauteurTexte}, nom, Ancrage::Gauche, HauteurTexte * reduction);
+        x += dessin.LargeurTexte(nom, HauteurTexte * reduction) + ecart * reduction;
     }
 }
 
@@ -111,7 +115,7 @@ void ImprimeProfilPlat() {
     const double haut = imprimante.Tete(), derniereLigne = imprimante.Hauteur() - 8;
     double echelle = 1;
     {
-        const auto dessin = imprimante.Feuille(0, haut, imprimante.Largeur(), derniereLigne - haut);
+        const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
         DessineLegende(*dessin);
         echelle = DessineProfil(*dessin);
         DessineRegle(*dessin);

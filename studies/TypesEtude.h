@@ -32,6 +32,7 @@ struct TypeEtude {
     const char* masqueValeur;
     const char* masqueAngleCame;
     bool bras;                   ///< the roller sits on an arm, whose ends give the radii of a zone
+    bool conjuguees = false;     ///< a pair of cams, whose laws stand with the second
     void (*calcule)() = nullptr; ///< the pipeline; none while this kind cannot be calculated
     std::optional<FauteDonnee> (*chercheFaute)() = nullptr; ///< the first scalar that cannot be calculated with
 
@@ -46,6 +47,9 @@ const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier);
 
 /// The filter of a file dialogue for the study files of one kind: its name " (*.ang)" and "*.Ang".
 FiltreFichier FiltreEtude(const TypeEtude& type);
+
+/// Name of a study without its extension, on which the names of its exports are built.
+std::string NomSansExtension(const std::string& nomFichier);
 
 /// Runs the pipeline of the present study's kind.
 /// @throws ErreurExecution whatever stops the pipeline; the zones are back in degrees.

@@ -11,6 +11,7 @@
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -41,16 +42,7 @@ ApercuImpression::ApercuImpression(Pages pages, QString nom, QWidget* parent)
     setObjectName(QStringLiteral("ApercuImpression"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     apercu_ = Nomme(new QPrintPreviewWidget(&ImprimanteDuPoste()), "Apercu");
-    // An exception must not go through the toolkit: it is kept until the toolkit is done.
-    connect(apercu_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* imprimante) {
-        try {
-            ImprimanteQt surEcran(*imprimante);
-            pages_(surEcran);
-            surEcran.FinDocument();
-        } catch (...) {
-            echec_ = std::current_exception();
-        }
-    });
+    connect(apercu_, &QPrintPreviewWidget::paintRequested, this, &ApercuImpression::DessinePages);
     connect(apercu_, &QPrintPreviewWidget::previewChanged, this, &ApercuImpression::MontrePage);
     FaitBoutons();
     AppliqueLegendes(*this, legendes);
@@ -59,6 +51,20 @@ ApercuImpression::ApercuImpression(Pages pages, QString nom, QWidget* parent)
     if (echec_) std::rethrow_exception(echec_);
     apercu_->setZoomMode(QPrintPreviewWidget::FitInView);
     MontrePage();
+}
+
+void ApercuImpression::DessinePages(QPrinter* imprimante) {
+    ImprimanteQt surEcran(*imprimante);
+    // An exception must not go through the toolkit: it is kept until the toolkit is done.
+    try {
+        pages_(surEcran);
+    } catch (...) {
+        echec_ = std::current_exception();
+    }
+    surEcran.FinDocument();
+    nombrePages_ = surEcran.PagesSorties();
+    // The toolkit would take the pages of the last preview for those of a document that never began.
+    if (nombrePages_ == 0) QPainter(imprimante).end();
 }
 
 void ApercuImpression::FaitBoutons() {
@@ -104,10 +110,6 @@ void ApercuImpression::FaitBoutons() {
     disposition->addLayout(navigation);
     disposition->addWidget(apercu_, 1);
     disposition->addLayout(actions);
-}
-
-int ApercuImpression::NombrePages() const {
-    return apercu_->pageCount();
 }
 
 void ApercuImpression::VaALaPage(int page) {

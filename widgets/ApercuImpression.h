@@ -21,9 +21,10 @@ public:
     /// @throws ErreurExecution whatever `pages` throws.
     ApercuImpression(Pages pages, QString nom, QWidget* parent = nullptr);
 
-    int NombrePages() const;
+    int NombrePages() const { return nombrePages_; }
 
 private:
+    void DessinePages(QPrinter* imprimante);
     void FaitBoutons();
     void Imprime();
     void EcritPdf();
@@ -32,6 +33,7 @@ private:
 
     Pages pages_;
     QString nom_;
+    int nombrePages_ = 0;
     std::exception_ptr echec_; ///< what stopped the drawing of the pages
     QPrintPreviewWidget* apercu_;
     QLabel* page_;

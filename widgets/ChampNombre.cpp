@@ -41,6 +41,15 @@ class ValidateurNombre : public QValidator {
 public:
     using QValidator::QValidator;
 
+    static bool TientDansUnDouble(const QString& texte) {
+        try {
+            Val(S(texte));
+            return true;
+        } catch (const ErreurExecution&) {
+            return false;
+        }
+    }
+
     State validate(QString& texte, int& curseur) const override {
         static const QRegularExpression etranger(QStringLiteral("[^0-9+\\-.eE]"));
         static const QRegularExpression debutNombre(
@@ -49,7 +58,7 @@ public:
         const QString avant = nettoie(texte.left(curseur));
         texte = avant + nettoie(texte.mid(curseur));
         curseur = static_cast<int>(avant.size());
-        return debutNombre.match(texte).hasMatch() ? Acceptable : Invalid;
+        return debutNombre.match(texte).hasMatch() && TientDansUnDouble(texte) ? Acceptable : Invalid;
     }
 };
 

@@ -4,9 +4,13 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +29,28 @@ enum NumerosTexte {
 /// Text of the working language, or `reserve` before the texts are loaded (a failure at start-up).
 QString TexteOuReserve(int numero, const char* reserve) {
     return numero <= NombreTextes() ? QTexte(numero) : QString::fromUtf8(reserve);
+}
+
+/// Runs a dialogue; the hourglass of a long action gives way to the arrow meanwhile.
+int Execute(QDialog& dialogue) {
+    const bool sablier = QGuiApplication::overrideCursor() != nullptr;
+    if (sablier) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int resultat = dialogue.exec();
+    if (sablier) QGuiApplication::restoreOverrideCursor();
+    return resultat;
+}
+
+/// What a plain box holds without growing past the display.
+constexpr std::size_t LongueurBoiteMax = 900;
+constexpr long LignesBoiteMax = 14;
+
+/// A long text scrolls inside its box.
+void AjouteTexteDefilant(QMessageBox& boite, const QString& texte) {
+    auto* zone = new QPlainTextEdit(texte);
+    zone->setObjectName(QStringLiteral("Texte"));
+    zone->setReadOnly(true);
+    zone->setMinimumSize(40 * zone->fontMetrics().averageCharWidth() * 2, 16 * zone->fontMetrics().lineSpacing());
+    qobject_cast<QGridLayout*>(boite.layout())->addWidget(zone, 0, 2);
 }
 
 QMessageBox::Icon IconeQt(Icone icone) {
@@ -80,19 +106,23 @@ std::string MotifChoisi(const QFileDialog& dialogue, const DemandeFichier& deman
 
 std::filesystem::path AvecExtension(const std::filesystem::path& chemin, const std::string& motif) {
     const std::filesystem::path extension = std::filesystem::path(motif).extension();
-    const bool sans = !chemin.has_extension() || chemin.extension() == "."; // "came." gets no second point
-    if (!sans || extension == ".*") return chemin;
-    std::filesystem::path complet = chemin;
-    complet.replace_extension(extension);
+    const auto minuscules = [](const std::filesystem::path& p) { return QChemin(p).toLower(); };
+    if (extension == ".*" || minuscules(chemin.extension()) == minuscules(extension)) return chemin;
+    // A point inside a name is no extension: "arbre 2.5" becomes "arbre 2.5.Ang", and "came." gets no second point.
+    std::filesystem::path complet = chemin.extension() == "." ? chemin.parent_path() / chemin.stem() : chemin;
+    complet += extension;
     return complet;
 }
 
 void DialoguesQt::Message(Icone icone, const std::string& texte) {
-    QMessageBox boite(IconeQt(icone), QCoreApplication::applicationName(), Q(texte), QMessageBox::NoButton,
-                      QApplication::activeWindow());
+    const bool longue =
+        texte.size() > LongueurBoiteMax || std::count(texte.begin(), texte.end(), '\n') > LignesBoiteMax;
+    QMessageBox boite(IconeQt(icone), QCoreApplication::applicationName(), longue ? QString() : Q(texte),
+                      QMessageBox::NoButton, QApplication::activeWindow());
     boite.setTextFormat(Qt::PlainText);
+    if (longue) AjouteTexteDefilant(boite, Q(texte));
     boite.addButton(TexteOuReserve(TexteOk, "OK"), QMessageBox::AcceptRole);
-    boite.exec();
+    Execute(boite);
 }
 
 bool DialoguesQt::Question(const std::string& texte) {
@@ -103,7 +133,7 @@ bool DialoguesQt::Question(const std::string& texte) {
     QPushButton* non = boite.addButton(QTexte(TexteNon), QMessageBox::NoRole);
     boite.setDefaultButton(oui);
     boite.setEscapeButton(non);
-    boite.exec();
+    Execute(boite);
     return boite.clickedButton() == oui;
 }
 
@@ -115,7 +145,7 @@ std::optional<std::string> DialoguesQt::Saisie(const std::string& titre, const s
     boite.setTextValue(Q(defaut));
     boite.setOkButtonText(QTexte(TexteOk));
     boite.setCancelButtonText(QTexte(TexteAnnuler));
-    if (boite.exec() != QDialog::Accepted) return {};
+    if (Execute(boite) != QDialog::Accepted) return {};
     return S(boite.textValue());
 }
 
@@ -124,7 +154,7 @@ std::optional<std::filesystem::path> DialoguesQt::FichierAOuvrir(const DemandeFi
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(QFileDialog::ExistingFile);
     Prepare(dialogue, demande, TexteOuvrir);
-    if (dialogue.exec() != QDialog::Accepted) return {};
+    if (Execute(dialogue) != QDialog::Accepted) return {};
     return FichierChoisi(dialogue);
 }
 
@@ -134,7 +164,7 @@ std::optional<std::filesystem::path> DialoguesQt::FichierASauver(const DemandeFi
     dialogue.setFileMode(QFileDialog::AnyFile);
     dialogue.setOption(QFileDialog::DontConfirmOverwrite); // asked below, for the name with its extension
     Prepare(dialogue, demande, TexteEnregistrer);
-    while (dialogue.exec() == QDialog::Accepted) {
+    while (Execute(dialogue) == QDialog::Accepted) {
         const std::filesystem::path chemin = AvecExtension(FichierChoisi(dialogue), MotifChoisi(dialogue, demande));
         std::error_code sansImportance;
         if (!std::filesystem::exists(chemin, sansImportance)) return chemin;

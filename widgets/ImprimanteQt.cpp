@@ -34,35 +34,35 @@ QPalette PalettePapier() {
     return palette;
 }
 
-/// A surface in millimetres on one that is finer.
-class DessinMillimetres final : public Dessin {
+/// A surface in a unit of its own on one in the unit of the painter.
+class DessinPapier final : public Dessin {
 public:
-    DessinMillimetres(QPainter& peintre, const QRectF& mm)
-        : fin_(peintre, QRectF(mm.topLeft() * Fin, mm.size() * Fin), PalettePapier()) {}
+    DessinPapier(QPainter& peintre, const QRectF& mm, double unite)
+        : fin_(peintre, QRectF(mm.topLeft() * Fin, mm.size() * Fin), PalettePapier()), unite_(unite * Fin) {}
 
-    double Largeur() const override { return fin_.Largeur() / Fin; }
-    double Hauteur() const override { return fin_.Hauteur() / Fin; }
+    double Largeur() const override { return fin_.Largeur() / unite_; }
+    double Hauteur() const override { return fin_.Hauteur() / unite_; }
     void Ligne(PointDessin de, PointDessin a, const Trait& t) override { fin_.Ligne(Fine(de), Fine(a), Fine(t)); }
     void Polyligne(std::span<const PointDessin> points, const Trait& t) override {
         fin_.Polyligne(Fine(points), Fine(t));
     }
     void Surface(std::span<const PointDessin> points, const Trait& t) override { fin_.Surface(Fine(points), Fine(t)); }
     void Cercle(PointDessin centre, double rayon, const Trait& t) override {
-        fin_.Cercle(Fine(centre), rayon * Fin, Fine(t));
+        fin_.Cercle(Fine(centre), rayon * unite_, Fine(t));
     }
     void Disque(PointDessin centre, double rayon, const Trait& t) override {
-        fin_.Disque(Fine(centre), rayon * Fin, Fine(t));
+        fin_.Disque(Fine(centre), rayon * unite_, Fine(t));
     }
     void Texte(PointDessin p, const std::string& texte, Ancrage ancrage, double hauteur, Couleur couleur) override {
-        fin_.Texte(Fine(p), texte, ancrage, hauteur * Fin, couleur);
+        fin_.Texte(Fine(p), texte, ancrage, hauteur * unite_, couleur);
     }
     double LargeurTexte(const std::string& texte, double hauteur) const override {
-        return fin_.LargeurTexte(texte, hauteur * Fin) / Fin;
+        return fin_.LargeurTexte(texte, hauteur * unite_) / unite_;
     }
 
 private:
-    static PointDessin Fine(PointDessin p) { return {p.x * Fin, p.y * Fin}; }
-    static Trait Fine(Trait t) { return {t.couleur, t.epaisseur * Fin, t.pointille}; }
+    PointDessin Fine(PointDessin p) const { return {p.x * unite_, p.y * unite_}; }
+    Trait Fine(Trait t) const { return {t.couleur, t.epaisseur * unite_, t.pointille}; }
     std::span<const PointDessin> Fine(std::span<const PointDessin> points) {
         points_.clear();
         for (const PointDessin& p : points) points_.push_back(Fine(p));
@@ -70,11 +70,12 @@ private:
     }
 
     DessinQt fin_;
+    double unite_; ///< units of the painter
     std::vector<PointDessin> points_;
 };
 
 int TaillePixels(double points) {
-    return static_cast<int>(std::lround(points * MmPoint * Fin));
+    return static_cast<int>(points * MmPoint * Fin);
 }
 
 } // namespace
@@ -157,6 +158,7 @@ void ImprimanteQt::OuvrePage() {
     }
     const bool prete = peintre_.isActive() ? support_.newPage() : peintre_.begin(&support_);
     if (!prete) Echoue();
+    ++pagesSorties_;
     peintre_.resetTransform();
     peintre_.scale(support_.logicalDpiX() / MmPouce / Fin, support_.logicalDpiY() / MmPouce / Fin);
 }
@@ -187,13 +189,13 @@ void ImprimanteQt::PlaceTete(double y) {
     y_ = y;
 }
 
-std::unique_ptr<Dessin> ImprimanteQt::Feuille(double x, double y, double largeur, double hauteur) {
+std::unique_ptr<Dessin> ImprimanteQt::Feuille(PointDessin coin, double largeur, double hauteur, double unite) {
     OuvrePage();
     QFont police = police_;
     police.setBold(false);
     police.setUnderline(false);
     Peintre().setFont(police);
-    return std::make_unique<DessinMillimetres>(Peintre(), QRectF(x, y, largeur, hauteur));
+    return std::make_unique<DessinPapier>(Peintre(), QRectF(coin.x, coin.y, largeur, hauteur), unite);
 }
 
 void ImprimanteQt::NouvellePage() {

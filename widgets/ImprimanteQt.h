@@ -43,12 +43,15 @@ public:
     double Largeur() const override;
     double Hauteur() const override;
 
-    std::unique_ptr<Dessin> Feuille(double x, double y, double largeur, double hauteur) override;
+    std::unique_ptr<Dessin> Feuille(PointDessin coin, double largeur, double hauteur, double unite = 1) override;
 
     int Page() const override { return page_; }
     void NouvellePage() override;
     /// @throws ErreurExecution input/output when the device failed.
     void FinDocument() override;
+
+    /// Pages put out so far.
+    int PagesSorties() const { return pagesSorties_; }
 
 private:
     QFont PoliceMesuree() const;
@@ -69,7 +72,7 @@ private:
     double reduction_ = 1;  ///< of the text, on a page too small for it
 
     double x_ = 0, y_ = 0; ///< the head, mm
-    int page_ = 1;
+    int page_ = 1, pagesSorties_ = 0;
     bool pageOuverte_ = false;
 };
 

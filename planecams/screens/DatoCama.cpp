@@ -1,11 +1,10 @@
 #include "planecams/screens/DatoCama.h"
 
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "planecams/CamesPlates.h"
-#include "planecams/MouvementCame.h"
 #include "planecams/SchemasCames.h"
 #include "planecams/screens/PanneauPesanteur.h"
-#include "platform/Dialogues.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Nomme.h"
@@ -16,8 +15,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int UniteMm = 18, UniteDegres = 19, UniteTours = 21, UniteKg = 24, UniteN = 25;
 
 constexpr ChampSaisie champsGeometrie[] = {
     {"Text1", 152, UniteMm, &Etude::CoteA},           {"Text2", 153, UniteMm, &Etude::CoteB},
@@ -80,12 +77,4 @@ bool DatoCama::eventFilter(QObject* objet, QEvent* evenement) {
             if (objet == geometrie_->Champ(cote.champ))
                 schema_->Peint([nom = cote.cote](Dessin& dessin) { DessineSchemaBras(dessin, nom); });
     return QWidget::eventFilter(objet, evenement);
-}
-
-bool DatoCama::CalculeZone(Zone& zone) {
-    CalculeRayonsZone(zone);
-    if (SansErreur()) return true;
-    LesDialogues().Message(Icone::Avertissement, Texte(75));
-    geometrie_->Champ("Text4")->setFocus();
-    return false;
 }

@@ -15,7 +15,6 @@ public:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
-    bool CalculeZone(Zone& zone) override;
 
 private:
     QWidget* FaitSchema();

@@ -1,6 +1,7 @@
 #include "planecams/screens/DoProfil.h"
 
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "planecams/CamesPlates.h"
 #include "planecams/SchemasCames.h"
 #include "planecams/screens/PanneauPesanteur.h"
@@ -14,8 +15,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int UniteMm = 18, UniteTours = 21, UniteKg = 24, UniteN = 25;
 
 constexpr ChampSaisie champsGeometrie[] = {
     {"Text1", 123, UniteMm, &Etude::RayonGalet},
@@ -55,7 +54,7 @@ DoProfil::DoProfil(QWidget* parent) : SaisieCame(description, parent) {
             {geometrie, masse, forces}, pesanteur);
 }
 
-bool DoProfil::CalculeZone(Zone& zone) {
+bool DoProfil::ControleZone(const Zone& zone) {
     if (zone.RayonDepart > 0.0 && zone.RayonFinal > 0.0) return true;
     LesDialogues().Message(Icone::Avertissement, Texte(393));
     findChild<ChampNombre*>(zone.RayonDepart > 0.0 ? "Text15" : "Text14")->setFocus();

@@ -11,5 +11,5 @@ public:
     explicit DoProfil(QWidget* parent = nullptr);
 
 protected:
-    bool CalculeZone(Zone& zone) override;
+    bool ControleZone(const Zone& zone) override;
 };

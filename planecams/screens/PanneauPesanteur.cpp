@@ -12,7 +12,6 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <cmath>
 
 PanneauPesanteur::PanneauPesanteur(const char* champ, QWidget* parent) : QGroupBox(QTexte(168), parent) {
     auto* disposition = new QGridLayout(this);
@@ -29,17 +28,21 @@ PanneauPesanteur::PanneauPesanteur(const char* champ, QWidget* parent) : QGroupB
     disposition->setRowStretch(2, 1);
     connect(defilement_, &QScrollBar::valueChanged, this, [this](int angle) { Change(angle); });
     connect(champ_, &QLineEdit::editingFinished, this, &PanneauPesanteur::Lit);
-    Change(etude.AnglePesanteur);
+    Montre();
 }
 
 void PanneauPesanteur::Lit() {
-    Change(champ_->Valeur());
+    if (champ_->isModified()) Change(champ_->Valeur());
 }
 
 void PanneauPesanteur::Change(double angle) {
     etude.AnglePesanteur = std::clamp(angle, 0.0, 360.0);
+    Montre();
+}
+
+void PanneauPesanteur::Montre() {
     champ_->Montre(etude.AnglePesanteur);
     const QSignalBlocker muet(defilement_);
-    defilement_->setValue(static_cast<int>(std::lround(etude.AnglePesanteur)));
+    defilement_->setValue(static_cast<int>(Arrondi(std::clamp(etude.AnglePesanteur, 0.0, 360.0))));
     dessin_->Peint([angle = etude.AnglePesanteur](Dessin& dessin) { DessinePesanteur(dessin, angle); });
 }

@@ -14,8 +14,11 @@ public:
     /// @param champ name of the field; the scroll bar is `HScroll1`, the drawing `Picture6`.
     explicit PanneauPesanteur(const char* champ, QWidget* parent = nullptr);
 
-    /// From the field to the record; a value outside 0..360 is cut back to the limit.
+    /// From the field to the record; a typed value outside 0..360 is cut back to the limit.
     void Lit();
+
+    /// From the record to the field, whatever the value.
+    void Montre();
 
     ChampNombre* Champ() const { return champ_; }
 

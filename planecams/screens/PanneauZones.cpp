@@ -2,6 +2,7 @@
 
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "laws/CalculLois.h"
 #include "laws/FichierLoi.h"
 #include "planecams/LimitesSaisie.h"
@@ -24,8 +25,6 @@
 #include <utility>
 
 namespace {
-
-constexpr int UniteDegres = 19;
 
 constexpr Legende legendes[] = {
     {"EtiquetteCombo2", 0, 174},
@@ -142,12 +141,15 @@ void PanneauZones::EntreNombreZones() {
 }
 
 /// A study of one zone may take its law from a file; any other may not.
+bool PanneauZones::FichierPermis() const {
+    return description_.loiDeFichier && etude.NombreZones == 1;
+}
+
 void PanneauZones::ProposeFichier() {
     const QString nom = QString::fromLatin1(NomLoiFichier);
     const int place = loi_->findText(nom, Qt::MatchExactly);
-    const bool permis = description_.loiDeFichier && etude.NombreZones == 1;
-    if (permis && place < 0) loi_->addItem(nom);
-    if (!permis && place >= 0) loi_->removeItem(place);
+    if (FichierPermis() && place < 0) loi_->addItem(nom);
+    if (!FichierPermis() && place >= 0) loi_->removeItem(place);
 }
 
 void PanneauZones::MontreZone() {
@@ -161,7 +163,12 @@ void PanneauZones::MontreZone() {
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
     if (entree) loi_->setCurrentText(Q(zone.NomLoi));
+    loiChoisie_ = loi_->currentText();
     symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
+    MontreBoutons();
+}
+
+void PanneauZones::MontreBoutons() {
     suivante_->setEnabled(etude.NombreZones > 0);
     suivante_->setDefault(!Complet());
     emit Change();
@@ -201,14 +208,12 @@ void PanneauZones::DemandeChoix(bool continuer) {
 }
 
 bool PanneauZones::ChoisitLoi() {
-    if (loi_->currentText() == QLatin1String(NomLoiFichier) && description_.loiDeFichier) {
-        ChercheFichier();
-        return true;
-    }
+    if (loi_->currentText() == QLatin1String(NomLoiFichier) && FichierPermis()) return ChercheFichier();
     JeuEnregistrements lois = LaBase.OuvreTable("Lois");
     lois.Seek(S(loi_->currentText()));
     if (!lois.NoMatch()) {
         symetrie_->Montre(EnNombre(lois.Champ("CoefS")));
+        loiChoisie_ = loi_->currentText();
         return true;
     }
     LesDialogues().Message(Icone::Avertissement, Texte(521) + " " + Texte(103));
@@ -218,29 +223,32 @@ bool PanneauZones::ChoisitLoi() {
     return false;
 }
 
-void PanneauZones::ChercheFichier() {
+bool PanneauZones::ChercheFichier() {
+    // A cancelled dialogue or a file that cannot be read leaves the law as it was.
+    loi_->setCurrentText(loiChoisie_);
     const auto chemin = LesDialogues().FichierAOuvrir(
         {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
-    if (!chemin || chemin->empty()) return;
+    if (!chemin || chemin->empty()) return false;
     LitFichierLoi(*chemin);
-    etude.NombreZones = 1;
+    etude.Erreur = Faux;
     etude.Zones.Redimensionne(1);
     Zone& zone = etude.Zones[1];
     zone.*description_.valeurDepart = valeurDepart_->Valeur();
     zone.*description_.valeurFinale = valeurFinale_->Valeur();
-    zone.AngleCame = 360;
     zone.NomLoi = NomLoiFichier;
     zone.CoefSymetrie = symetrie_->Valeur();
     // A law file is 720 points over a whole turn.
-    etude.Erreur = Faux;
+    zone.AngleCame = 360;
+    etude.NombreZones = 1;
     etude.ZoneCourante = 1;
-    zonesEntrees_ = 0;
+    zonesEntrees_ = 1;
     nombreZones_->Montre(1);
-    angleCame_->Montre(360);
     pointsParDegre_->setCurrentText("2");
-    cadreZone_->setTitle(QTexte(187) + " 1");
+    MontreZone();
+    zonesEntrees_ = 0; // the zone is filled, and waits to be accepted
+    MontreBoutons();
     RemplitGrille();
-    emit Change();
+    return true;
 }
 
 bool PanneauZones::DemandePourcentage(std::string& nomLoi) {
@@ -263,7 +271,9 @@ void PanneauZones::Suivante() {
     zone.AngleCame = angleCame_->Valeur();
     zone.NomLoi = S(loi_->currentText());
     zone.CoefSymetrie = symetrie_->Valeur();
-    if (const auto faute = ChercheFauteZone(zone)) {
+    auto faute = ChercheFauteZone(zone);
+    if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis()) faute = {ChampZone::NomLoi, Texte(511)};
+    if (faute) {
         LesDialogues().Message(Icone::Avertissement, faute->texte);
         QWidget* const champs[] = {symetrie_, loi_, angleCame_};
         champs[static_cast<int>(faute->champ)]->setFocus();
@@ -288,12 +298,16 @@ void PanneauZones::TermineZone(const Zone& zone) {
 
 bool PanneauZones::LitPointsParDegre() {
     const std::string points = S(pointsParDegre_->currentText());
-    const bool permis = EstPointsParDegre(points);
-    if (permis && !TropDePoints(Entier16(Val(points)))) {
+    std::string faute;
+    if (!EstPointsParDegre(points))
+        faute = Texte(519) + "\n" + Texte(520);
+    else if (const int texte = FautePoints(Entier16(Val(points))))
+        faute = Texte(texte);
+    if (faute.empty()) {
         etude.PointsParDegre = Entier16(Val(points));
         return true;
     }
-    LesDialogues().Message(Icone::Avertissement, permis ? Texte(205) : Texte(519) + "\n" + Texte(520));
+    LesDialogues().Message(Icone::Avertissement, faute);
     pointsParDegre_->setFocus();
     return false;
 }

@@ -54,11 +54,13 @@ private:
     QWidget* FaitCadreZone();
     void RelieChamps();
     void MontreZone();
+    void MontreBoutons();
     void RemplitGrille();
     void ProposeFichier();
     void DemandeChoix(bool continuer);
     bool ChoisitLoi();
-    void ChercheFichier();
+    bool ChercheFichier();
+    bool FichierPermis() const;
     void EntreNombreZones();
     bool DemandePourcentage(std::string& nomLoi);
     void Suivante();
@@ -74,6 +76,7 @@ private:
     Grille* grille_;
     QLabel* somme_;
     QPushButton* suivante_;
+    QString loiChoisie_; ///< the last law that was accepted in the list
     bool choixDemande_ = false, continuer_ = false;
     std::int16_t zonesEntrees_ = 0; ///< zones accepted so far, from the first
 };

@@ -13,6 +13,10 @@
 
 #include <QBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
+#include <QShowEvent>
+
+#include <utility>
 
 QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
     auto* pile = new QWidget;
@@ -40,7 +44,6 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     rangee->addWidget(zones_, 1);
 
     retour_ = Nomme(new QPushButton, "Retour");
-    retour_->setShortcut(Qt::Key_Escape);
     calculer_ = Nomme(new QPushButton, "Calculer");
     calculer_->setAutoDefault(true);
     auto* boutons = new QHBoxLayout;
@@ -53,6 +56,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
     zones_->LaisseAller(retour_);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
 
     for (std::size_t i = 0; i < panneaux_.size(); ++i) {
         for (auto* champ : panneaux_[i]->Champs())
@@ -88,26 +92,49 @@ bool SaisieCame::FauteDeDonnee() {
     const auto faute = description_.chercheFaute();
     if (!faute) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+    MontreFaute(faute->membre);
+    return true;
+}
+
+void SaisieCame::MontreFaute(double Etude::*membre) {
     for (auto* panneau : panneaux_)
-        if (auto* champ = panneau->ChampDe(faute->membre)) champ->setFocus();
+        if (auto* champ = panneau->ChampDe(membre)) champ->setFocus();
+}
+
+void SaisieCame::showEvent(QShowEvent* evenement) {
+    // Some data may have been changed among the results meanwhile.
+    if (!evenement->spontaneous()) {
+        for (auto* panneau : panneaux_) panneau->Charge();
+        pesanteur_->Montre();
+    }
+    QWidget::showEvent(evenement);
+}
+
+bool SaisieCame::HorsDePortee() {
+    if (SansErreur()) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(75));
+    MontreFaute(&Etude::RayonO1P);
     return true;
 }
 
 bool SaisieCame::AcheveZone(Zone& zone) {
     LitDonnees();
-    if (FauteDeDonnee() || !CalculeZone(zone)) return false;
-    zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
-    return true;
+    if (FauteDeDonnee() || !ControleZone(zone)) return false;
+    std::swap(etude.Zones[etude.ZoneCourante], zone);
+    CompleteZone(etude.ZoneCourante, description_.zones.bras);
+    std::swap(etude.Zones[etude.ZoneCourante], zone);
+    return !HorsDePortee();
 }
 
 void SaisieCame::Calculer() {
     if (!zones_->LitPointsParDegre()) return;
     LitDonnees();
     if (FauteDeDonnee()) return;
+    // Geometry and speed may have changed since a zone was accepted.
+    CompleteZones(description_.zones.bras);
+    if (HorsDePortee()) return;
     const Sablier sablier;
-    // The speed may have changed since a zone was accepted.
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z)
-        etude.Zones[z].Temps = TempsZone(etude.Zones[z].AngleCame, etude.VitesseCame);
+    etude.ResultatsPrets = Faux;
     description_.calcule();
     if (!SansErreur()) return;
     etude.EtudeModifiee = Vrai;

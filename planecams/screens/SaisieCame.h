@@ -37,13 +37,17 @@ protected:
     void Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
                  PanneauPesanteur* pesanteur);
 
-    /// What this kind of cam adds to an accepted zone, with the data read and checked; false after a box.
-    virtual bool CalculeZone(Zone& zone) = 0;
+    /// What this kind of cam asks of a zone besides its law; false after a box.
+    virtual bool ControleZone(const Zone&) { return true; }
+
+    void showEvent(QShowEvent* evenement) override;
 
 private:
     bool AcheveZone(Zone& zone);
     void LitDonnees();
     bool FauteDeDonnee();
+    void MontreFaute(double Etude::*membre);
+    bool HorsDePortee();
     void MontreBoutons();
     void Calculer();
     void Retour();

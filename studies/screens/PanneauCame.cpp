@@ -6,6 +6,7 @@
 #include "widgets/ChampNombre.h"
 #include "widgets/Icones.h"
 #include "widgets/Legendes.h"
+#include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
 #include "widgets/ZoneDessin.h"
 
@@ -32,11 +33,6 @@ constexpr Legende legendes[] = {
     {"TitreVitesse", 0, 298},      {"Lent", 0, 299},        {"Rapide", 0, 300},
     {"SensTrigo", 0, 301},         {"SensHorloge", 0, 302},
 };
-
-template <class T> T* Nomme(T* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
 
 } // namespace
 
@@ -131,7 +127,7 @@ void PanneauCame::EntreAngle() {
     const double angle = texteAngle_->Valeur();
     // Only an angle of the cam's turn can be shown.
     if (angle < 0.0 || angle > 360.0) texteAngle_->Montre(0);
-    angle_->setValue(static_cast<int>(std::lround(texteAngle_->Valeur())));
+    angle_->setValue(static_cast<int>(Arrondi(texteAngle_->Valeur())));
     texteAngle_->Montre(angle_->value());
 }
 

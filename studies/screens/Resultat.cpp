@@ -2,6 +2,7 @@
 
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "planecams/ListeZones.h"
 #include "planecams/MouvementCame.h"
 #include "platform/Dialogues.h"
@@ -14,6 +15,7 @@
 #include "widgets/ChampNombre.h"
 #include "widgets/Grille.h"
 #include "widgets/Legendes.h"
+#include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
 #include "widgets/ZoneDefilante.h"
 #include "widgets/ZoneDessin.h"
@@ -22,6 +24,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -29,9 +32,6 @@
 namespace {
 
 constexpr int OngletRotation = 4;
-constexpr int UniteMm = 18, UniteDegres = 19, UniteTours = 21, UniteKg = 24, UniteN = 25, UniteNm = 26, UniteMS = 27,
-              UniteMS2 = 28, UniteRadS = 29, UniteRadS2 = 30, UniteKgM2 = 31;
-
 /// A remarkable value: the group it stands in, its caption, value, mask and unit, and the cam angle at which it occurs.
 struct LigneValeur {
     const char* groupe;
@@ -87,11 +87,6 @@ constexpr Legende legendes[] = {
     {"Quitter", 0, 12},
 };
 
-template <class T> T* Nomme(T* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
-
 QLabel* FaitUnite(const QString& texte) {
     auto* unite = new QLabel(texte);
     unite->setForegroundRole(QPalette::PlaceholderText);
@@ -141,7 +136,6 @@ Resultat::Resultat(QWidget* parent) : QWidget(parent) {
     onglets_->addTab(came_, {});
 
     quitter_ = Nomme(new QPushButton, "Quitter");
-    quitter_->setShortcut(Qt::Key_Escape);
     auto* boutons = new QHBoxLayout;
     boutons->addWidget(quitter_);
     boutons->addStretch();
@@ -151,6 +145,7 @@ Resultat::Resultat(QWidget* parent) : QWidget(parent) {
     AppliqueLegendes(*this, legendes);
 
     connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, quitter_, &QPushButton::click);
     connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
     Montre();
 }
@@ -317,11 +312,9 @@ void Resultat::MontreSelonType(const TypeEtude& type) {
 }
 
 bool Resultat::RefuseSiRotation() {
-    etude.Erreur = Faux;
     if (!came_->RotationEnCours()) return false;
     LesDialogues().Message(Icone::Information, Texte(435));
     MontreRotation();
-    etude.Erreur = Vrai;
     return true;
 }
 
@@ -345,9 +338,7 @@ void Resultat::Recalcul() {
             etude = gardee;
             return;
         }
-        for (std::int16_t z = 1; z <= etude.NombreZones; ++z)
-            etude.Zones[z].Temps = TempsZone(etude.Zones[z].AngleCame, etude.VitesseCame);
-        etude.Erreur = Faux;
+        CompleteZones(false); // the speed gives new durations; no radius changes
         const Sablier sablier;
         CalculeEtude();
     } catch (...) {

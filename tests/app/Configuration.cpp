@@ -1,4 +1,4 @@
-#include "app/Configuration.h"
+#include "data/Configuration.h"
 
 #include "core/ErreurExecution.h"
 #include "core/FichierEntier.h"

@@ -94,7 +94,7 @@ TEST_F(Fenetre, LesMenusDansLOrdre) {
         "FichierLanguesDisponibles",
         "FichierLanguesDisponibles",
         "-FichierLanguesModification",
-        "-FichierConfigImpresora",
+        "FichierConfigImpresora",
         "FichierPropos",
         "FichierQuitte",
         "FicImprimer",
@@ -105,7 +105,7 @@ TEST_F(Fenetre, LesMenusDansLOrdre) {
         "FicImprimerPointForces",
         "FicImprimerPointLoi",
         "FicImprimerPointsRemarq",
-        "-FicImprimerImprimer",
+        "FicImprimerImprimer",
         "FicImprimerSauveImpre",
         "FichierClasiques",
         "-FichierClasiquesLoisStad",
@@ -131,7 +131,7 @@ TEST_F(Fenetre, LaBarreEtSesListes) {
         cles.push_back((action->isEnabled() ? "" : "-") + S(action->objectName()));
         EXPECT_FALSE(action->icon().isNull());
     }
-    EXPECT_EQ(cles, (std::vector<std::string>{"Nouveau", "Ouvre", "Sauve", "-Inerties", "Propos", "-Imprime",
+    EXPECT_EQ(cles, (std::vector<std::string>{"Nouveau", "Ouvre", "Sauve", "-Inerties", "Propos", "Imprime",
                                               "-LoisMouvement", "-LoisMouvementSpe", "Quitter"}));
     const auto liste = [this](const char* cle) {
         std::vector<std::string> noms;
@@ -259,6 +259,7 @@ TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
     EXPECT_EQ(etude.RayonMax, rayon);
     const QTemporaryDir dossier;
     dialogues_.fichiers.push_back(Chemin(dossier.path()) / "Copie.Ang");
+    QTimer::singleShot(0, &mdi_, [this] { Clique(*Controle<QWidget>(mdi_, "SeleSauv"), "Sauvegarde"); });
     Action("FichierSauvegarde")->trigger();
     EXPECT_EQ(Etat(), Texte(127) + " Copie.Ang");
     EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "Copie.Ang " + Texte(118));
@@ -279,7 +280,7 @@ TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
     EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
     EXPECT_TRUE(mdi_.findChildren<QMdiSubWindow*>().isEmpty());
     EXPECT_TRUE(mdi_.isVisible());
-    EXPECT_EQ(mdi_.OuvreEcran("DoProfil"), nullptr) << "a screen that is not built";
+    EXPECT_EQ(mdi_.OuvreEcran("DoCyl"), nullptr) << "a screen that is not built";
 }
 
 TEST_F(Fenetre, LaCroixDUnEnfantEstSonRetour) {

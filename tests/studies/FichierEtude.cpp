@@ -65,6 +65,7 @@ TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
         for (const auto& champ : type.champs) etude.*champ.membre = valeur += 1.5;
         PoseZones({{5.25, 7.5, 200, "MS"}, {7.5, 5.25, 160, "CYC", 0.4}});
         etude.PointsParDegre = 4;
+        etude.ZonesConjuguees = etude.Zones;
         const Etude ecrite = etude;
         const std::string contenu = ComposeFichierEtude(type, '.');
         etude = Etude{};

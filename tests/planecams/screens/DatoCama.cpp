@@ -156,6 +156,12 @@ TEST_F(SaisieBras, AZoneAtFaultIsRefusedWithTheFocusOnIt) {
         EXPECT_EQ(etude.ZoneCourante, 1);
         Tape("Text18", "300");
     }
+    Tape("Text4", "70");
+    Tape("Text6", "-5");
+    Clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(201));
+    EXPECT_TRUE(AFocus("Text6"));
+    Tape("Text6", "10");
     Tape("Text4", "-70");
     Loi("MS");
     Clique("Suivante");
@@ -218,6 +224,40 @@ TEST_F(SaisieBras, PointsPerDegreeAndTooManyPoints) {
     EXPECT_EQ(etude.Zones[1].AngleCame, 5000);
 }
 
+TEST_F(SaisieBras, AZoneMustEndOnAPoint) {
+    TapeDonnees();
+    Tape("Text13", "1");
+    Tape("Text15", "10");
+    Tape("Text16", "89.7");
+    Loi("MS");
+    Clique("Suivante");
+    Clique("Calculer");
+    EXPECT_FALSE(dialogues.boites.empty());
+    EXPECT_TRUE(AFocus("Combo2"));
+    dialogues.boites.clear();
+    Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("10");
+    Clique("Calculer");
+    EXPECT_EQ(etude.NombrePoints, 897);
+    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+}
+
+TEST_F(SaisieBras, EscapeIsTheWayBack) {
+    QSignalSpy quitte(ecran.get(), &DatoCama::Quitte);
+    QTest::keyClick(ecran.get(), Qt::Key_Escape);
+    EXPECT_EQ(quitte.count(), 1);
+}
+
+TEST_F(SaisieBras, ComesBackWithWhatWasChangedMeanwhile) {
+    TapeDonnees();
+    ecran->hide();
+    etude.MasseA = 7.5;
+    etude.AnglePesanteur = -90; // as a file may have it
+    ecran->show();
+    EXPECT_EQ(Texte_("Text10"), "7.5");
+    EXPECT_EQ(Texte_("Text17"), "-90");
+    EXPECT_EQ(etude.AnglePesanteur, -90) << "only a typed value is cut back";
+}
+
 TEST_F(SaisieBras, ReturnWalksTheFieldsInOrder) {
     const char* const ordre[] = {"Text1", "Text2", "Text3", "Text4",  "Text5",  "Text6",  "Text18",
                                  "Text7", "Text8", "Text9", "Text10", "Text11", "Text12", "Text13"};
@@ -269,6 +309,7 @@ TEST_F(SaisieBras, ALawFileIsOfferedToOneZoneOnly) {
         LaisseFaire();
         if (fois == 0) {
             EXPECT_GT(etude.ListeLois.BorneHaute(), 1) << "cancelled: as it was";
+            EXPECT_EQ(lois->currentText(), "CYC");
         }
     }
     EXPECT_EQ(etude.ListeLois[1].NomLoi, "Fichier");

@@ -112,6 +112,9 @@ TEST_F(FenetreResultat, TurnsBothWaysAndStops) {
     const int arret = angle->value();
     QTest::qWait(50);
     EXPECT_EQ(angle->value(), arret);
+    QSignalSpy quitte(ecran.get(), &Resultat::Quitte);
+    QTest::keyClick(ecran.get(), Qt::Key_Escape);
+    EXPECT_EQ(quitte.count(), 1);
 }
 
 TEST_F(FenetreResultat, RecalculationShowsTheNewResults) {

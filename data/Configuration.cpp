@@ -1,4 +1,4 @@
-#include "app/Configuration.h"
+#include "data/Configuration.h"
 
 #include "core/ErreurExecution.h"
 #include "core/FichierEntier.h"
@@ -32,7 +32,8 @@ Configuration LitConfiguration(const std::filesystem::path& chemin) {
     }
     configuration.langue = ligne();
     exige(!configuration.langue.empty());
-    exige(contenu.peek() == std::istringstream::traits_type::eof());
+    // An editor may have left empty lines at the end.
+    exige((contenu >> std::ws).eof());
     return configuration;
 }
 

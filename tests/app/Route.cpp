@@ -1,0 +1,107 @@
+// The road of a study, from the chooser to paper.
+#include "app/CameType.h"
+#include "app/MdiCamA.h"
+#include "core/Etude.h"
+#include "core/FichierEntier.h"
+#include "data/Textes.h"
+#include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/Ecrans.h"
+#include "studies/RapportsCames.h"
+#include "widgets/Chaines.h"
+#include "widgets/ImprimanteQt.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+class Route : public testing::Test {
+protected:
+    DialoguesScript dialogues_;
+    DossierTemporaire dossier_;
+    MdiCamA mdi_{Configuration{{true, true, true, true, true, true, true}, "Français"}};
+
+    Route() {
+        mdi_.show();
+        LaisseFaire();
+    }
+
+    void Tape(QWidget& ecran, const char* champ, const char* texte) {
+        auto* saisie = Controle<QLineEdit>(ecran, champ);
+        saisie->setFocus();
+        saisie->selectAll();
+        QTest::keyClicks(saisie, texte);
+        QTest::keyClick(saisie, Qt::Key_Return);
+        LaisseFaire();
+    }
+    void Clique(QWidget& ecran, const char* bouton) {
+        QTest::mouseClick(Controle<QPushButton>(ecran, bouton), Qt::LeftButton);
+        LaisseFaire();
+    }
+    void EntreEtude(QWidget& saisie) {
+        Controle<QLineEdit>(saisie, "Text13")->setText("4");
+        const std::pair<const char*, const char*> donnees[] = {
+            {"Text1", "80"},   {"Text2", "30"},   {"Text3", "100"}, {"Text4", "70"}, {"Text5", "40"},
+            {"Text6", "10"},   {"Text18", "300"}, {"Text7", "0,8"}, {"Text8", ".6"}, {"Text9", "12"},
+            {"Text10", "1.5"}, {"Text13", "4"},   {"Text14", "25"}};
+        for (const auto& [champ, texte] : donnees) Tape(saisie, champ, texte);
+        const std::pair<const char*, const char*> zones[] = {{"40", "90"}, {"40", "90"}, {"25", "120"}, {"25", "60"}};
+        for (const auto& [final, came] : zones) {
+            Tape(saisie, "Text15", final);
+            Tape(saisie, "Text16", came);
+            Controle<QComboBox>(saisie, "Combo1")->setCurrentText("MS");
+            Clique(saisie, "Suivante");
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(Route, FromTheChooserToPaper) {
+    QTimer::singleShot(0, &mdi_, [this] {
+        QTest::keyClick(Controle<QAbstractButton>(*Controle<CameType>(mdi_, "CameType"), "Image1"), Qt::Key_Return);
+    });
+    Controle<QAction>(mdi_, "FichierNouveau")->trigger();
+    QWidget* saisie = mdi_.EcranOuvert("DatoCama");
+    ASSERT_NE(saisie, nullptr);
+    mdi_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mdi_));
+    EntreEtude(*saisie);
+    Clique(*saisie, "Calculer");
+    ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.back().texte;
+    ASSERT_NE(mdi_.EcranOuvert("Resultat"), nullptr);
+    const double rayon = etude.RayonMax;
+
+    const auto nom = [this](const char* fichier) { return dossier_.Chemin() / fichier; };
+    dialogues_.fichiers = {nom("route.Ang"), nom("route.Pnt"), nom("route_Ext.Scr"), nom("route_Int.Scr")};
+    QTimer::singleShot(0, &mdi_, [this] {
+        auto* sauvegarde = Controle<QWidget>(mdi_, "SeleSauv");
+        Controle<QLineEdit>(*sauvegarde, "Text1")->setText("route");
+        Controle<QCheckBox>(*sauvegarde, "Check2")->setChecked(true);
+        Controle<QCheckBox>(*sauvegarde, "Check3")->setChecked(true);
+        Clique(*sauvegarde, "Sauvegarde");
+    });
+    Controle<QAction>(mdi_, "FichierSauvegarde")->trigger();
+    for (const char* fichier : {"route.Ang", "route.Pnt", "route_Ext.Scr", "route_Int.Scr"})
+        EXPECT_TRUE(std::filesystem::exists(nom(fichier))) << fichier;
+
+    dialogues_.fichiers = {nom("route.Ang")};
+    Controle<QAction>(mdi_, "FichierOuvrir")->trigger();
+    EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "route.Ang " + Texte(118));
+    EXPECT_EQ(etude.RayonMax, rayon);
+    EXPECT_EQ(etude.MasseBrasO1A, 0.8);
+
+    MarquesImpression toutes;
+    toutes.fill(true);
+    EXPECT_TRUE(ImprimePdf(nom("route.pdf"), [&](Imprimante& i) { ImprimeRapportsCames(i, toutes); }));
+    const std::string pdf = LitFichierEntier(nom("route.pdf"));
+    EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
+    EXPECT_NE(pdf.find("%%EOF"), std::string::npos);
+    EXPECT_TRUE(dialogues_.boites.empty());
+}

@@ -1,0 +1,152 @@
+#include "core/FichierEntier.h"
+
+#include "core/ErreurExecution.h"
+#include "outils/DossierTemporaire.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <random>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class FichierEntier : public testing::Test {
+protected:
+    /// The number of the run-time failure of a save; none when it succeeded.
+    static std::optional<NumeroErreur> EchecEcriture(const fs::path& chemin, const std::string& contenu = "nouveau") {
+        try {
+            EcritFichierEntier(chemin, contenu);
+        } catch (const ErreurExecution& erreur) {
+            return erreur.numero;
+        }
+        return {};
+    }
+
+    DossierTemporaire dossier;
+};
+
+/// Forbids files larger than `octets` for the life of this object: a write beyond fails as on a full disk.
+class TailleLimitee {
+public:
+    explicit TailleLimitee(rlim_t octets) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &ancienne_);
+        const rlimit limite{octets, ancienne_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    ~TailleLimitee() {
+        ::setrlimit(RLIMIT_FSIZE, &ancienne_);
+        std::signal(SIGXFSZ, signal_);
+    }
+
+private:
+    rlimit ancienne_{};
+    void (*signal_)(int);
+};
+
+} // namespace
+
+TEST_F(FichierEntier, ReadsBackTheBytesItWrote) {
+    std::string octets(300000, '\0');
+    for (std::size_t i = 0; i < octets.size(); ++i) octets[i] = static_cast<char>(i * 31 % 256);
+    for (const std::string& contenu : {octets, std::string("court\r\n"), std::string()}) {
+        EcritFichierEntier(dossier / "Étude n° 1.Ang", contenu);
+        EXPECT_EQ(LitFichierEntier(dossier / "Étude n° 1.Ang"), contenu);
+        EXPECT_EQ(dossier.NombreFichiers(), 1);
+    }
+}
+
+TEST_F(FichierEntier, WhatCannotBeReadIsToldApart) {
+    const auto echec = [](const fs::path& chemin) {
+        try {
+            LitFichierEntier(chemin);
+        } catch (const ErreurExecution& erreur) {
+            EXPECT_NE(erreur.detail.find(chemin.string()), std::string::npos);
+            return erreur.numero;
+        }
+        return NumeroErreur{};
+    };
+    EXPECT_EQ(echec(dossier / "absent"), NumeroErreur::FichierIntrouvable);
+    EXPECT_EQ(echec(dossier.Chemin()), NumeroErreur::AccesFichier);
+    EXPECT_EQ(echec(dossier.Ecrit("enorme", std::string(TailleFichierMax + 1, 'x'))), NumeroErreur::FichierTropGrand);
+    EXPECT_EQ(LitFichierEntier(dossier.Ecrit("juste", std::string(TailleFichierMax, 'x'))).size(), TailleFichierMax);
+}
+
+TEST_F(FichierEntier, KilledAtAnyMomentLeavesAWholeFile) {
+    const std::string contenus[] = {std::string(1 << 20, 'a'), std::string(900000, 'b')};
+    const fs::path chemin = dossier / "etude.Ang";
+    EcritFichierEntier(chemin, contenus[0]);
+    std::mt19937 hasard(7);
+    int interrompues = 0;
+    for (int fois = 0; fois < 40; ++fois) {
+        const pid_t enfant = ::fork();
+        ASSERT_GE(enfant, 0);
+        if (enfant == 0)
+            for (int i = 1;; ++i) EcritFichierEntier(chemin, contenus[i % 2]);
+        std::this_thread::sleep_for(std::chrono::microseconds(2000 + hasard() % 20000));
+        ::kill(enfant, SIGKILL);
+        int etat = 0;
+        ::waitpid(enfant, &etat, 0);
+        ASSERT_TRUE(WIFSIGNALED(etat)) << "the saving process ended by itself";
+
+        const std::string contenu = LitBrut(chemin);
+        ASSERT_TRUE(contenu == contenus[0] || contenu == contenus[1]) << "round " << fois << ", " << contenu.size();
+        for (const auto& fichier : fs::directory_iterator(dossier.Chemin()))
+            if (fichier.path() != chemin) {
+                ++interrompues;
+                fs::remove(fichier.path());
+            }
+    }
+    // Most kills fell into a save, not between two.
+    EXPECT_GT(interrompues, 5);
+}
+
+TEST_F(FichierEntier, FailedSaveLeavesTheOldFileAndNothingElse) {
+    const fs::path chemin = dossier.Ecrit("etude.Ang", "ancien");
+    {
+        const TailleLimitee limite(4096);
+        EXPECT_TRUE(EchecEcriture(chemin, std::string(100000, 'x')));
+        EXPECT_FALSE(EchecEcriture(dossier / "petite.Ang", "petite"));
+    }
+    EXPECT_EQ(LitBrut(chemin), "ancien");
+    EXPECT_EQ(dossier.NombreFichiers(), 2);
+
+    EXPECT_TRUE(EchecEcriture(chemin / "sous.Ang")) << "the folder is a file";
+    EXPECT_TRUE(EchecEcriture(dossier / "absent" / "etude.Ang")) << "the folder has gone";
+    fs::create_directory(dossier / "dossier.Ang");
+    EXPECT_TRUE(EchecEcriture(dossier / "dossier.Ang")) << "a folder stands there";
+    EXPECT_EQ(LitBrut(chemin), "ancien");
+    EXPECT_EQ(dossier.NombreFichiers(), 3);
+}
+
+TEST_F(FichierEntier, ProtectedFileIsNotReplaced) {
+    if (::geteuid() == 0) GTEST_SKIP() << "nothing is protected from root";
+    const fs::path chemin = dossier.Ecrit("etude.Ang", "ancien");
+    fs::permissions(chemin, fs::perms::owner_read);
+    EXPECT_EQ(EchecEcriture(chemin), NumeroErreur::AccesFichier);
+    fs::permissions(dossier.Chemin(), fs::perms::owner_read | fs::perms::owner_exec);
+    EXPECT_EQ(EchecEcriture(dossier / "neuve.Ang"), NumeroErreur::AccesFichier);
+    fs::permissions(dossier.Chemin(), fs::perms::owner_all);
+    EXPECT_EQ(LitBrut(chemin), "ancien");
+    EXPECT_EQ(dossier.NombreFichiers(), 1);
+}
+
+TEST_F(FichierEntier, LinkIsFollowedAndPermissionsStay) {
+    const fs::path chemin = dossier.Ecrit("etude.Ang", "ancien");
+    const auto droits = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(chemin, droits);
+    fs::create_symlink("etude.Ang", dossier / "lien.Ang");
+    EXPECT_FALSE(EchecEcriture(dossier / "lien.Ang"));
+    EXPECT_TRUE(fs::is_symlink(dossier / "lien.Ang"));
+    EXPECT_EQ(LitBrut(chemin), "nouveau");
+    EXPECT_EQ(fs::status(chemin).permissions(), droits);
+    EXPECT_EQ(dossier.NombreFichiers(), 2);
+}

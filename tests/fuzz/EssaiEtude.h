@@ -1,0 +1,61 @@
+// One content of a study file, whatever it holds, through reader and calculation.
+#pragma once
+
+#include "core/Etude.h"
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "laws/CalculLois.h"
+#include "studies/FichierEtude.h"
+
+#include <optional>
+
+struct EssaiEtude {
+    bool lue = false;                    ///< false too for an unknown law
+    std::optional<NumeroErreur> erreur;  ///< the run-time failure that ended it
+    std::optional<std::string> anomalie; ///< what no content may bring about; any other exception goes through
+
+    bool Calculee() const { return lue && !erreur && SansErreur(); }
+};
+
+inline void OuvreCatalogue(const std::filesystem::path& dossier) {
+    CheminAppli = dossier;
+    LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture);
+    LangueTravail = "Français";
+    ChargeTextes(LaBase);
+    ChargeLois();
+}
+
+/// The study record as at the start of the program, with the catalogue read once.
+inline const Etude& EtudeNeuve() {
+    static const Etude neuve = [] {
+        etude = Etude{};
+        ChargeLois();
+        return etude;
+    }();
+    return neuve;
+}
+
+inline std::optional<std::string> Anomalie(const EssaiEtude& essai, const std::vector<double>& degres) {
+    std::size_t z = 0;
+    for (const Zone& zone : etude.Zones)
+        if (z < degres.size() && zone.AngleCame != degres[z++]) return "a zone is not back in degrees";
+    const long derniers[] = {etude.Points.BorneHaute(), etude.Profil.BorneHaute()};
+    for (const long dernier : derniers)
+        if (dernier != (essai.lue && !essai.erreur ? etude.NombrePoints : -1)) return "a table of another size is left";
+    return {};
+}
+
+inline EssaiEtude EssaieEtude(std::string_view contenu, const TypeEtude& type) {
+    EssaiEtude essai;
+    std::vector<double> degres;
+    etude = EtudeNeuve();
+    try {
+        essai.lue = LitEtude(contenu, type);
+        for (const Zone& zone : etude.Zones) degres.push_back(zone.AngleCame);
+        if (essai.lue) CalculeEtude();
+    } catch (const ErreurExecution& erreur) {
+        essai.erreur = erreur.numero;
+    }
+    essai.anomalie = Anomalie(essai, degres);
+    return essai;
+}

@@ -1,0 +1,149 @@
+// Thousands of damaged study files: each must end in a calculation, a box or a run-time failure, with the zones in
+// degrees.
+#include "fuzz/EssaiEtude.h"
+
+#include "outils/DialoguesScript.h"
+
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <set>
+
+namespace {
+
+constexpr unsigned Graine = 20261122; ///< another one makes other files; the same makes the same
+constexpr int NombreEssais = 20000;
+
+const char* const remplacements[] = {
+    "",       ".",        "-",        "0",         "-1",
+    "nan",    "inf",      "1e999",    "-1e308",    "1e308",
+    "1e-320", "32767",    "32768",    "-32769",    "99999999999999999999",
+    "12,5",   "0.5",      "1",        "MS_Spe_ 5", "MS_Spe_99",
+    "Spe",    "aSpe_",    "MS_Spe",   "MS_Spe_-3", "Fichier",
+    "MSH",    "INCONNUE", "\xff\xfe", "0x10",      "+-3",
+};
+
+/// Small studies, so that thousands are soon calculated.
+std::vector<std::string> Corpus() {
+    const std::string tete =
+        "Came plate : Ang\r\nDate 01 02 2026\r\n80.\r\n30.5\r\n100.\r\n70.\r\n40.\r\n10.\r\n300.\r\n.\r\n"
+        ".8\r\n.6\r\n12.\r\n1.5\r\n-3.\r\n40.25\r\n";
+    std::vector<std::string> corpus{
+        tete + "2.\r\nZone n° 1\r\n25.\r\n40.\r\n18.\r\nMS\r\n.5\r\nZone n° "
+               "2\r\n40.\r\n25.\r\n18.\r\nMTC50\r\n.35\r\n1\r\n",
+        tete + "2.\r\nZone n° 1\r\n25.\r\n40.\r\n10.3\r\nMS_Spe_ 40\r\n.5\r\nZone n° "
+               "2\r\n40.\r\n25.\r\n9.2\r\nSHM\r\n.5\r\n2\r\n",
+        tete + "1.\r\nZone n° 1\r\n30.\r\n30.\r\n36.\r\nCYC\r\n.5\r\n4\r\n",
+        "Came : Lin \r\nDate\r\n10.\r\n300.\r\n90.\r\n12.\r\n1.5\r\n-20.\r\n2.\r\nZone n° "
+        "1\r\n40.\r\n60.\r\n18.\r\nMS\r\n.5\r\n"
+        "Zone n° 2\r\n60.\r\n40.\r\n18.\r\nCYC\r\n.5\r\n1\r\n",
+    };
+    for (const auto& fichier :
+         std::filesystem::directory_iterator(std::filesystem::path(VELORIN_SOURCES) / "Profils")) {
+        std::ifstream flux(fichier.path(), std::ios::binary);
+        corpus.emplace_back(std::istreambuf_iterator<char>(flux), std::istreambuf_iterator<char>());
+    }
+    return corpus;
+}
+
+class Mutations {
+    std::vector<std::string> corpus_;
+    std::mt19937 hasard_{Graine};
+
+    int Hasard(std::size_t nombre) {
+        return static_cast<int>(std::uniform_int_distribution<std::size_t>(0, nombre - 1)(hasard_));
+    }
+    template <class T> const auto& Choisit(const T& choix) {
+        return *(std::begin(choix) + Hasard(static_cast<std::size_t>(std::size(choix))));
+    }
+
+    std::string Change(std::string texte) {
+        if (texte.empty()) return Choisit(corpus_);
+        switch (Hasard(4)) {
+        case 0:
+            return texte.substr(0, static_cast<std::size_t>(Hasard(texte.size())));
+        case 1:
+            texte[static_cast<std::size_t>(Hasard(texte.size()))] ^= static_cast<char>(1 << Hasard(8));
+            return texte;
+        case 2: {
+            const std::string autre = Choisit(corpus_);
+            return texte.substr(0, static_cast<std::size_t>(Hasard(texte.size()))) +
+                   autre.substr(static_cast<std::size_t>(Hasard(autre.size())));
+        }
+        default:
+            return ChangeLignes(texte);
+        }
+    }
+
+    std::string ChangeLignes(const std::string& texte) {
+        std::vector<std::string> lignes(1);
+        for (const char c : texte) {
+            lignes.back() += c;
+            if (c == '\n') lignes.emplace_back();
+        }
+        std::string& une = lignes[static_cast<std::size_t>(Hasard(lignes.size()))];
+        std::string& autre = lignes[static_cast<std::size_t>(Hasard(lignes.size()))];
+        switch (Hasard(6)) {
+        case 0:
+            std::swap(une, autre);
+            break;
+        case 1:
+            une += une;
+            break;
+        case 2:
+            une.clear();
+            break;
+        default:
+            une = std::string(Choisit(remplacements)) + "\r\n";
+        }
+        std::string change;
+        for (const auto& ligne : lignes) change += ligne;
+        return change;
+    }
+
+public:
+    explicit Mutations(std::vector<std::string> corpus) : corpus_(std::move(corpus)) {}
+
+    std::string Suivante() {
+        std::string texte = Choisit(corpus_);
+        for (int fois = 1 + Hasard(4); fois > 0; --fois) texte = Change(std::move(texte));
+        return texte;
+    }
+};
+
+} // namespace
+
+TEST(FuzzEtude, NoDamagedFileBringsTheProgramDown) {
+    OuvreCatalogue(VELORIN_DOSSIER);
+    std::printf("seed %u, %d files\n", Graine, NombreEssais);
+    Mutations mutations(Corpus());
+    std::set<NumeroErreur> echecs;
+    int calculees = 0, refusees = 0;
+    for (int i = 0; i < NombreEssais; ++i) {
+        const std::string contenu = mutations.Suivante();
+        for (const TypeEtude& type : LesTypesEtude()) {
+            if (!type.Disponible()) continue;
+            DialoguesScript dialogues;
+            SCOPED_TRACE(std::string(type.nom) + ", file " + std::to_string(i) + ":\n" + contenu);
+            EssaiEtude essai;
+            ASSERT_NO_THROW(essai = EssaieEtude(contenu, type));
+            ASSERT_FALSE(essai.anomalie.has_value()) << *essai.anomalie;
+            // What ends without results and without a run-time failure was told in a box.
+            if (essai.erreur) {
+                echecs.insert(*essai.erreur);
+            } else if (essai.Calculee()) {
+                ++calculees;
+            } else {
+                ++refusees;
+                ASSERT_FALSE(dialogues.boites.empty());
+            }
+        }
+    }
+    std::printf("%d calculated, %d told in a box, %zu kinds of run-time failure\n", calculees, refusees, echecs.size());
+    // The files were neither all ruined nor all sound.
+    EXPECT_GT(calculees, NombreEssais / 20);
+    EXPECT_GT(refusees, 10);
+    for (const auto numero : {NumeroErreur::FinDeFichier, NumeroErreur::Depassement, NumeroErreur::IndiceHorsLimites,
+                              NumeroErreur::DivisionParZero, NumeroErreur::AppelIncorrect})
+        EXPECT_TRUE(echecs.count(numero)) << static_cast<int>(numero);
+}

@@ -1,0 +1,222 @@
+#include "widgets/ApercuImpression.h"
+#include "widgets/ImprimantePoste.h"
+#include "widgets/ImprimanteQt.h"
+
+#include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/Ecrans.h"
+#include "outils/ImprimanteNotee.h"
+#include "studies/FichierEtude.h"
+#include "studies/RapportsCames.h"
+#include "widgets/Chaines.h"
+
+#include <QBuffer>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QLabel>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+void CalculeExemple(std::int16_t pointsParDegre) {
+    ASSERT_TRUE(LitFichierEtude(std::string(VELORIN_DOSSIER) + "/Profils/Exemple.Ang"));
+    etude.PointsParDegre = pointsParDegre;
+    CalculeEtude();
+    ASSERT_TRUE(SansErreur());
+}
+
+void ImprimeTout(Imprimante& imprimante) {
+    MarquesImpression marques;
+    marques.fill(true);
+    ImprimeRapportsCames(imprimante, marques);
+}
+
+void TroisPages(Imprimante& imprimante) {
+    for (const char* texte : {"un", "deux", "trois"}) {
+        imprimante.Ecrit(texte);
+        imprimante.NouvellePage();
+    }
+    imprimante.FinDocument();
+}
+
+/// Page objects of a PDF document; the tree that holds them is another kind.
+int PagesPdf(const std::string& pdf) {
+    int pages = 0;
+    for (auto place = pdf.find("/Type /Page\n"); place != std::string::npos;
+         place = pdf.find("/Type /Page\n", place + 1))
+        ++pages;
+    return pages;
+}
+
+bool PdfEntier(const std::string& pdf) {
+    return pdf.starts_with("%PDF-") && pdf.find("%%EOF", pdf.size() - 8) != std::string::npos;
+}
+
+} // namespace
+
+TEST(ImprimePdf, SevenReportsOfThreeThousandSixHundredPoints) {
+    CalculeExemple(10);
+    ASSERT_EQ(etude.NombrePoints, 3600);
+    ImprimanteNotee notee;
+    ImprimeTout(notee);
+    const DossierTemporaire dossier;
+    QElapsedTimer duree;
+    duree.start();
+    ASSERT_TRUE(ImprimePdf(dossier / "rapport.pdf", ImprimeTout));
+    EXPECT_LT(duree.elapsed(), 20000) << "2 s is the aim, on a machine with nothing else to do";
+    const std::string pdf = LitBrut(dossier / "rapport.pdf");
+    EXPECT_TRUE(PdfEntier(pdf));
+    EXPECT_EQ(PagesPdf(pdf), static_cast<int>(notee.pages.size()));
+    EXPECT_EQ(dossier.NombreFichiers(), 1);
+}
+
+TEST(ImprimePdf, WholeOrNotAtAll) {
+    const DossierTemporaire dossier;
+    const std::string ancien = dossier.Ecrit("r.pdf", "ancien");
+    EXPECT_THROW(ImprimePdf(ancien,
+                            [](Imprimante& imprimante) {
+                                imprimante.Ecrit("une page");
+                                throw ErreurExecution(NumeroErreur::Depassement);
+                            }),
+                 ErreurExecution);
+    EXPECT_EQ(LitBrut(ancien), "ancien");
+    EXPECT_FALSE(ImprimePdf(ancien, [](Imprimante& imprimante) { imprimante.FinDocument(); }));
+    EXPECT_EQ(LitBrut(ancien), "ancien") << "a document without a page is not written";
+    EXPECT_THROW(ImprimePdf(dossier / "absent/r.pdf", TroisPages), ErreurExecution);
+    EXPECT_TRUE(ImprimePdf(ancien, TroisPages));
+    EXPECT_TRUE(PdfEntier(LitBrut(ancien)));
+    EXPECT_EQ(dossier.NombreFichiers(), 1);
+}
+
+TEST(ImprimanteQt, ColumnsAlignAndAPageTakesItsLines) {
+    for (const QPageSize::PageSizeId papier : {QPageSize::A4, QPageSize::Letter, QPageSize::A5, QPageSize::A3}) {
+        QBuffer tampon;
+        tampon.open(QIODevice::WriteOnly);
+        QPdfWriter support(&tampon);
+        support.setPageLayout(PageParDefaut());
+        support.setPageSize(QPageSize(papier));
+        ImprimanteQt imprimante(support);
+        imprimante.Police("Courier New", 11);
+        imprimante.CadreTexte(67, 72);
+        for (const char* texte : {"iiiiiiiiii", "WWWWWWWWWW", "é²°Áñ1.,- "})
+            EXPECT_NEAR(imprimante.LargeurTexte(texte), 10 * imprimante.LargeurTexte("0"), 1e-6) << texte;
+        imprimante.Gras(true);
+        EXPECT_NEAR(imprimante.LargeurTexte("0123"), 4 * imprimante.LargeurTexte("m"), 1e-6);
+        EXPECT_LE(imprimante.LargeurTexte(std::string(72, '0')), imprimante.Largeur());
+        for (int ligne = 0; ligne < 67; ++ligne) imprimante.TermineLigne();
+        EXPECT_LE(imprimante.Tete(), imprimante.Hauteur() + 1e-6) << static_cast<int>(papier);
+        imprimante.FinDocument();
+    }
+}
+
+TEST(ImprimanteQt, OnlyTheChosenPagesArePutOut) {
+    QByteArray octets;
+    {
+        QBuffer tampon(&octets);
+        tampon.open(QIODevice::WriteOnly);
+        QPdfWriter support(&tampon);
+        QPageRanges choix;
+        choix.addRange(2, 3);
+        ImprimanteQt imprimante(support, choix);
+        TroisPages(imprimante);
+        EXPECT_EQ(imprimante.Page(), 4) << "the page behind the last one";
+    }
+    EXPECT_EQ(PagesPdf(octets.toStdString()), 2);
+}
+
+TEST(ImprimanteQt, AnAbandonedRunLeavesThePrinterUsable) {
+    const DossierTemporaire dossier;
+    QPrinter imprimante(QPrinter::HighResolution);
+    imprimante.setOutputFormat(QPrinter::PdfFormat);
+    imprimante.setOutputFileName(QChemin(dossier / "papier.pdf"));
+    {
+        ImprimanteQt interrompue(imprimante);
+        interrompue.Ecrit("une page");
+    }
+    ImprimanteQt entiere(imprimante);
+    TroisPages(entiere);
+    EXPECT_EQ(PagesPdf(LitBrut(dossier / "papier.pdf")), 3);
+
+    imprimante.setOutputFileName(QChemin(dossier / "absent/papier.pdf"));
+    ImprimanteQt enPanne(imprimante);
+    EXPECT_THROW(TroisPages(enPanne), ErreurExecution);
+}
+
+TEST(ApercuImpression, ShowsThePagesThatThePrinterGets) {
+    CalculeExemple(1);
+    ImprimanteNotee notee;
+    ImprimeTout(notee);
+    for (const char* langue : {"Français", "Español", "English"}) {
+        ChoisitLangue(langue);
+        ApercuImpression apercu(ImprimeTout, "Exemple");
+        apercu.show();
+        LaisseFaire();
+        EXPECT_EQ(apercu.NombrePages(), static_cast<int>(notee.pages.size()));
+        EXPECT_TRUE(LegendesCoupees(apercu).empty()) << LegendesCoupees(apercu).front();
+        auto* page = Controle<QLabel>(apercu, "Page");
+        EXPECT_FALSE(Controle<QPushButton>(apercu, "Precedent")->isEnabled());
+        QTest::mouseClick(Controle<QPushButton>(apercu, "Suivant"), Qt::LeftButton);
+        EXPECT_EQ(page->text(), QTexte(413) + "2 / " + QString::number(apercu.NombrePages()));
+        EXPECT_TRUE(Controle<QPushButton>(apercu, "Precedent")->isEnabled());
+        QTest::keyClick(&apercu, Qt::Key_Escape);
+        EXPECT_FALSE(apercu.isVisible());
+    }
+}
+
+TEST(ApercuImpression, WritesAPdfFileFromTheScreen) {
+    const DossierTemporaire dossier;
+    DialoguesScript dialogues;
+    dialogues.fichiers = {std::nullopt, dossier / "trois.pdf"};
+    ApercuImpression apercu(TroisPages, "trois");
+    apercu.show();
+    auto* bouton = Controle<QPushButton>(apercu, "Pdf");
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    EXPECT_EQ(dossier.NombreFichiers(), 0) << "cancelled";
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    EXPECT_EQ(PagesPdf(LitBrut(dossier / "trois.pdf")), 3);
+    EXPECT_TRUE(apercu.isVisible()) << "the pages can still be printed";
+}
+
+TEST(ApercuImpression, AFailureAndAnEmptyDocumentOpenNothing) {
+    DialoguesScript dialogues;
+    EXPECT_THROW(ApercuEtImprime(nullptr, "x",
+                                 [](Imprimante& imprimante) {
+                                     imprimante.Ecrit("une page");
+                                     throw ErreurExecution(NumeroErreur::DivisionParZero);
+                                 }),
+                 ErreurExecution);
+    EXPECT_TRUE(dialogues.boites.empty());
+    ApercuEtImprime(nullptr, "x", [](Imprimante& imprimante) { imprimante.FinDocument(); });
+    ASSERT_EQ(dialogues.boites.size(), 1U);
+    EXPECT_EQ(dialogues.boites[0].texte, Texte(675));
+}
+
+TEST(ConfigureImprimante, ThePaperIsKeptAndCancelKeepsNothing) {
+    const auto choisit = [](const char* papier, const char* bouton) {
+        QTimer::singleShot(0, [papier, bouton] {
+            QWidget* dialogue = QApplication::activeModalWidget();
+            ASSERT_NE(dialogue, nullptr);
+            EXPECT_TRUE(LegendesCoupees(*dialogue).empty());
+            auto* papiers = Controle<QComboBox>(*dialogue, "Papiers");
+            ASSERT_GE(papiers->findText(papier), 0);
+            papiers->setCurrentText(papier);
+            QTest::mouseClick(Controle<QPushButton>(*dialogue, bouton), Qt::LeftButton);
+        });
+        ConfigureImprimante(nullptr);
+    };
+    const QPageSize::PageSizeId debut = ImprimanteDuPoste().pageLayout().pageSize().id();
+    EXPECT_EQ(debut, QPageSize::A4);
+    choisit("A3", "Annuler");
+    EXPECT_EQ(ImprimanteDuPoste().pageLayout().pageSize().id(), debut);
+    choisit("A3", "Ok");
+    EXPECT_EQ(ImprimanteDuPoste().pageLayout().pageSize().id(), QPageSize::A3);
+    EXPECT_EQ(ImprimanteDuPoste().pageLayout().orientation(), QPageLayout::Portrait);
+    choisit("A4", "Ok");
+    EXPECT_EQ(ImprimanteDuPoste().pageLayout().pageSize().id(), debut);
+}

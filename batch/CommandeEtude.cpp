@@ -1,6 +1,7 @@
 #include "batch/CommandeEtude.h"
 
 #include "batch/JsonEtude.h"
+#include "batch/Sorties.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
 #include "studies/FichierEtude.h"
@@ -22,7 +23,8 @@ struct Issue {
     std::string echec;    ///< why there are no results; empty when there are
 };
 
-Issue CalculeFichier(const std::filesystem::path& fichier, const DialoguesCollecte& dialogues) {
+Issue CalculeFichier(const std::filesystem::path& fichier, const LigneCommande& ligne,
+                     const DialoguesCollecte& dialogues) {
     Issue issue;
     try {
         if (LitFichierEtude(fichier)) {
@@ -32,6 +34,8 @@ Issue CalculeFichier(const std::filesystem::path& fichier, const DialoguesCollec
         if (!issue.calcule || !SansErreur()) {
             issue.echec = dialogues.DernierMotif();
             if (issue.echec.empty()) issue.echec = Texte(75);
+        } else {
+            EcritSorties(ligne);
         }
     } catch (const ErreurExecution& erreur) {
         issue.echec = SensErreur(erreur);
@@ -61,6 +65,9 @@ Json JsonFichier(const std::string& fichier, const Issue& issue, const Dialogues
 
 int CommandeEtude(const LigneCommande& ligne, std::ostream& sortie, std::ostream& erreurs) {
     if (ligne.arguments.empty()) throw UsageIncorrect("etude: which study file?");
+    const bool sorties = !ligne.points.empty() || !ligne.scripts.empty() || !ligne.rapport.empty();
+    if (sorties && ligne.arguments.size() > 1)
+        throw UsageIncorrect("etude: --points, --scripts and --rapport take one study file");
     int statut = 0;
     for (const std::string& fichier : ligne.arguments) {
         if (!PeutOuvrir(fichier)) {
@@ -73,7 +80,7 @@ int CommandeEtude(const LigneCommande& ligne, std::ostream& sortie, std::ostream
         etude = Etude{};
         ChargeLois();
         DialoguesCollecte dialogues(ligne.oui);
-        const Issue issue = CalculeFichier(fichier, dialogues);
+        const Issue issue = CalculeFichier(fichier, ligne, dialogues);
         EcritJson(sortie, JsonFichier(fichier, issue, dialogues, !ligne.resume));
         sortie << "\n";
         if (!issue.echec.empty()) statut = std::max(statut, 1);

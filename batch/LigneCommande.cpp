@@ -6,6 +6,9 @@ namespace {
 
 const OptionCommande options[] = {
     {"--resume", "etude", nullptr, "leaves the point tables out", &LigneCommande::resume},
+    {"--points", "etude", "OUT.Pnt", "also writes the point file", &LigneCommande::points},
+    {"--scripts", "etude", "BASE", "also writes the scripts BASE_Ext.Scr and BASE_Int.Scr", &LigneCommande::scripts},
+    {"--rapport", "etude", "OUT.pdf", "also writes the seven reports", &LigneCommande::rapport},
     {"--points", "loi", "N", "number of steps, 1 to 32767", &LigneCommande::points},
     {"--symetrie", "loi", "S", "symmetry coefficient, 0 to 1; 0.5 when left out", &LigneCommande::symetrie},
     {"--base", nullptr, "FILE", "another catalogue database", &LigneCommande::base},
@@ -14,9 +17,12 @@ const OptionCommande options[] = {
     {"--aide", nullptr, nullptr, "prints this help", &LigneCommande::aide},
 };
 
-void VerifieCommande(const OptionCommande& option, const std::string& commande) {
-    if (option.commande != nullptr && commande != option.commande)
-        throw UsageIncorrect(std::string(option.nom) + " does not belong to " +
+void VerifieCommande(const char* option, const std::string& commande) {
+    const bool permise = std::any_of(std::begin(options), std::end(options), [&](const OptionCommande& o) {
+        return std::string_view(o.nom) == option && (o.commande == nullptr || commande == o.commande);
+    });
+    if (!permise)
+        throw UsageIncorrect(std::string(option) + " does not belong to " +
                              (commande.empty() ? "no command" : "'" + commande + "'"));
 }
 
@@ -56,6 +62,6 @@ LigneCommande AnalyseLigne(const std::vector<std::string>& mots) {
         }
     }
     if (!ligne.aide)
-        for (const auto* option : donnees) VerifieCommande(*option, ligne.commande);
+        for (const auto* option : donnees) VerifieCommande(option->nom, ligne.commande);
     return ligne;
 }

@@ -8,15 +8,15 @@
 #include <vector>
 
 struct LigneCommande {
-    std::string commande;                       ///< the first word that is no option
-    std::vector<std::string> arguments;         ///< the other words
-    std::string base, langue, points, symetrie; ///< values of the options; empty when not given
+    std::string commande;                                         ///< the first word that is no option
+    std::vector<std::string> arguments;                           ///< the other words
+    std::string base, langue, points, symetrie, scripts, rapport; ///< values of the options; empty when not given
     bool oui = false, resume = false, aide = false;
 };
 
 struct OptionCommande {
     const char* nom;
-    const char* commande; ///< the one command that takes it; none when all do
+    const char* commande; ///< the command that takes it; none when all do. A name may stand for two commands
     const char* valeur;   ///< what the value is called; none for a mark
     const char* sens;     ///< one line for the help
     std::variant<bool LigneCommande::*, std::string LigneCommande::*> membre;

@@ -2,12 +2,16 @@
 // the mathematical library, on arguments of the same range.
 #include "Limites.h"
 
+#include "core/FichierEntier.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
+#include "studies/Exports.h"
 #include "studies/FichierEtude.h"
 
 #include <benchmark/benchmark.h>
+
+#include <charconv>
 
 namespace {
 
@@ -86,6 +90,52 @@ void PlancherCameAngulaire(benchmark::State& etat) {
         }
 }
 
+void PrepareResultats() {
+    PrepareEtude(3600);
+    CalculeEtude();
+}
+
+void MesureFichierPoints(benchmark::State& etat) {
+    PrepareResultats();
+    for (auto _ : etat) benchmark::DoNotOptimize(ComposeFichierPoints());
+}
+
+void MesureScript(benchmark::State& etat) {
+    PrepareResultats();
+    for (auto _ : etat) benchmark::DoNotOptimize(ComposeScriptExterieur());
+}
+
+/// The shortest digits of numbers, one after the other, into one text.
+void PlancherTextes(benchmark::State& etat, double (*premier)(long), double (*second)(long)) {
+    PrepareResultats();
+    for (auto _ : etat) {
+        std::string texte;
+        char tampon[32];
+        for (long i = 0; i <= etude.NombrePoints; ++i)
+            for (const double valeur : {premier(i), second(i)})
+                texte.append(tampon, std::to_chars(tampon, tampon + sizeof tampon, valeur).ptr);
+        benchmark::DoNotOptimize(texte);
+    }
+}
+
+/// The point file on disk, flushed and renamed.
+void MesureEcriturePoints(benchmark::State& etat) {
+    PrepareResultats();
+    const auto chemin = std::filesystem::temp_directory_path() / "velorin-bench.Pnt";
+    for (auto _ : etat) EcritFichierEntier(chemin, ComposeFichierPoints());
+    std::filesystem::remove(chemin);
+}
+
+BENCHMARK(MesureFichierPoints)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(
+    PlancherTextes, Points, [](long i) { return etude.Points[i].Angle; }, [](long i) { return etude.Points[i].Rayon; })
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(MesureScript)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(
+    PlancherTextes, Script, [](long i) { return etude.Profil[i].XExterieur; },
+    [](long i) { return etude.Profil[i].YExterieur; })
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(MesureEcriturePoints)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(MesureAppliqueLoi, MS, "MS");
 BENCHMARK_CAPTURE(MesureAppliqueLoi, CYC, "CYC");
 BENCHMARK(PlancherLoi);
@@ -97,6 +147,8 @@ constexpr Limite limites[] = {
     {"MesureAppliqueLoi/CYC", "PlancherLoi", 1.5},
     {"MesureCameAngulaire/3600", "PlancherCameAngulaire/3600", 2.0},
     {"MesureCameAngulaire/32760", "MesureCameAngulaire/3600", 1.3, 32760.0 / 3600.0},
+    {"MesureFichierPoints", "PlancherTextes/Points", 2.0},
+    {"MesureScript", "PlancherTextes/Script", 2.0},
 };
 
 } // namespace

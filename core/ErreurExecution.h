@@ -22,6 +22,8 @@ enum class NumeroErreur {
     ExtensionInconnue = 322, ///< no study has files of this extension
     TypeNonCalcule = 324,    ///< a kind of study that this version does not calculate
     FichierTropGrand = 323,  ///< larger than any file of the program
+    ResultatNonFini = 325,   ///< a result is no number: the data are beyond all measure
+    PointsIncomplets = 326,  ///< the last zone does not end on a point
     BaseIllisible = 3031,    ///< wrong password, or a damaged database
     BaseOccupee = 3045,      ///< another program holds the database
 };

@@ -18,7 +18,8 @@ constexpr Sens sens[] = {
     {NumeroErreur::FinDeFichier, 719},       {NumeroErreur::AccesFichier, 721},
     {NumeroErreur::ContenuInvalide, 725},    {NumeroErreur::ExtensionInconnue, 728},
     {NumeroErreur::DossierIntrouvable, 722}, {NumeroErreur::TypeNonCalcule, 795},
-    {NumeroErreur::FichierTropGrand, 726},   {NumeroErreur::BaseIllisible, 730},
+    {NumeroErreur::FichierTropGrand, 726},   {NumeroErreur::ResultatNonFini, 738},
+    {NumeroErreur::PointsIncomplets, 794},   {NumeroErreur::BaseIllisible, 730},
     {NumeroErreur::BaseOccupee, 731},
 };
 

@@ -204,10 +204,11 @@ void AppliqueLoi(std::int16_t numeroZone) {
     const double n = zone.AngleCame;
     etude.LoiUnite.Redimensionne(Entier16(n));
     PrepareLoi(numeroLoi);
-    for (long i = 0; static_cast<double>(i) <= n; ++i) {
+    auto ligne = etude.LoiUnite.begin();
+    for (long i = 0; static_cast<double>(i) <= n; ++i, ++ligne) {
         double x = Divise(static_cast<double>(i), n);
         EvalueLoiSymetrie(x);
-        etude.LoiUnite[i] = {LoiCourse, LoiVitesse, LoiAccel};
+        *ligne = {LoiCourse, LoiVitesse, LoiAccel};
     }
 }
 

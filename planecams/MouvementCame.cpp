@@ -133,6 +133,8 @@ void DerouleZones(double Zone::*valeurDepart, double Zone::*valeurFinale, bool l
             Point& p = etude.Points[k];
             p.Angle = static_cast<double>(k) / etude.PointsParDegre;
             calcule(k, etude.LoiUnite[j], parcours);
+            if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon))
+                throw ErreurExecution(NumeroErreur::ResultatNonFini);
             tropPetits.Controle(p.Rayon, k);
             SuitRayon(p.Rayon);
             SuitMaximum(p.VitesseRayon, p.Angle, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
@@ -141,6 +143,8 @@ void DerouleZones(double Zone::*valeurDepart, double Zone::*valeurFinale, bool l
         }
         decalage = Entier16(decalage + zone.AngleCame);
     }
+    // Rounding may have made room for a point that no zone reached.
+    if (etude.Points[etude.NombrePoints].Rayon == 0.0) throw ErreurExecution(NumeroErreur::PointsIncomplets);
     CalculeVitesseGaletMoyenne();
     tropPetits.Annonce();
 }

@@ -36,8 +36,6 @@ TEST(Commandes, WrongUsageIsOneErrorLineAndNothingElse) {
         {},
         {"calcule", exemple},
         {"etude"},
-        {"etude", exemple, "--points", "x.Pnt"},
-        {"etude", exemple, "--rapport", "x.pdf"},
         {"etude", exemple, "--inconnue"},
         {"loi", "CYC"},
         {"loi", "--points", "10"},
@@ -126,14 +124,31 @@ TEST(Executable, FindsItsCatalogueAndLanguageBesideItself) {
 TEST(Executable, HelpNamesEveryCommandAndOption) {
     const auto aide = LanceReelle("--aide");
     EXPECT_EQ(aide.statut, 0);
-    for (const char* mot : {"etude FILE", "loi NAME", "--resume", "--points N", "--symetrie S", "--base FILE",
-                            "--langue NAME", "--oui", "--aide"})
+    for (const char* mot : {"etude FILE", "loi NAME", "--resume", "--points N", "--points OUT.Pnt", "--scripts BASE",
+                            "--rapport OUT.pdf", "--symetrie S", "--base FILE", "--langue NAME", "--oui", "--aide"})
         EXPECT_NE(aide.sortie.find(mot), std::string::npos) << mot;
-    EXPECT_EQ(aide.sortie.find("--rapport"), std::string::npos);
 }
 
 TEST(Executable, ResultThatCannotBeWrittenIsAFailure) {
     EXPECT_EQ(LanceReelle("etude '" + exemple + "' 2>&1 >/dev/full").statut, 1);
+}
+
+TEST(Executable, WritesWhatTheSaveAndPrintCommandsWrite) {
+    const DossierTemporaire dossier;
+    const std::string base = (dossier / "came").string();
+    const auto passe = LanceReelle("etude '" + exemple + "' --resume --points '" + base + ".Pnt' --scripts '" + base +
+                                   "' --rapport '" + base + ".pdf'");
+    EXPECT_EQ(passe.statut, 0);
+    EXPECT_EQ(LitBrut(base + ".Pnt").substr(0, 17), "Rayon du galet ,1");
+    EXPECT_EQ(LitBrut(base + "_Ext.Scr").substr(0, 16), "LIGNE -5,0 5,0\r\n");
+    EXPECT_NE(LitBrut(base + "_Int.Scr").find("CERCLE "), std::string::npos);
+    EXPECT_EQ(LitBrut(base + ".pdf").substr(0, 5), "%PDF-");
+    EXPECT_EQ(dossier.NombreFichiers(), 4);
+
+    const auto refusee = LanceReelle("etude '" + exemple + "' --resume --points '" + base + "/absent/came.Pnt'");
+    EXPECT_EQ(refusee.statut, 1);
+    EXPECT_NE(refusee.sortie.find("\"echec\""), std::string::npos);
+    EXPECT_EQ(LanceReelle("etude '" + exemple + "' '" + exemple + "' --points x.Pnt 2>/dev/null").statut, 2);
 }
 
 TEST(Executable, ManyRunAtOnce) {

@@ -157,7 +157,8 @@ TEST_F(CameAngulaire, RunTimeFailuresLeaveTheStudyInDegreesAndNoResults) {
     } cas[] = {{"no arm", &Etude::RayonO1P, 0, NumeroErreur::DivisionParZero},
                {"unreachable arm", &Etude::RayonO1P, -70, NumeroErreur::DivisionParZero},
                {"no roller", &Etude::RayonGalet, 0, NumeroErreur::DivisionParZero},
-               {"pivot above the centre", &Etude::CoteA, 0, NumeroErreur::DivisionParZero}};
+               {"pivot above the centre", &Etude::CoteA, 0, NumeroErreur::DivisionParZero},
+               {"beyond all measure", &Etude::CoteA, 1e300, NumeroErreur::ResultatNonFini}};
     for (const auto& c : cas) {
         const double garde = etude.*c.membre;
         etude.*c.membre = c.valeur;
@@ -184,6 +185,19 @@ TEST_F(CameAngulaire, FractionalZonesRoundTheirOffsets) {
     PoseZones({{25, 40, 90.25, "MS"}, {40, 40, 89.5, "MS"}, {40, 25, 180.25, "MS"}});
     CalculeCameAngulaire();
     EXPECT_EQ(etude.NombrePoints, 90 + 90 + 180); // halves to even
+    EXPECT_TRUE(SansErreur());
     EXPECT_EQ(etude.Zones[2].AngleCame, 89.5);
     EXPECT_NEAR(etude.Points[90].AngleBras, 40, 1e-9);
+}
+
+TEST_F(CameAngulaire, ALastZoneThatEndsOnNoPointIsToldAsSuch) {
+    PoseZones({{25, 40, 180, "MS"}, {40, 25, 179.7, "MS"}});
+    try {
+        CalculeCameAngulaire();
+        ADD_FAILURE();
+    } catch (const ErreurExecution& e) {
+        EXPECT_EQ(e.numero, NumeroErreur::PointsIncomplets);
+    }
+    etude.PointsParDegre = 10;
+    EXPECT_NO_THROW(CalculeCameAngulaire());
 }

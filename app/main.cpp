@@ -1,9 +1,9 @@
 // Start-up of the desktop program.
 #include "app/Aide.h"
+#include "app/Demarre.h"
 #include "app/MdiCamA.h"
+#include "core/ErreurExecution.h"
 #include "data/Demarrage.h"
-#include "data/Textes.h"
-#include "laws/CalculLois.h"
 #include "widgets/Application.h"
 #include "widgets/DialoguesQt.h"
 
@@ -38,20 +38,6 @@ void AnnonceEchec(const std::exception& faute) {
     LesDialogues().Message(Icone::Critique, texte + "\n\n" + faute.what());
 }
 
-/// Everything that the main window needs, in the order in which each stands on the one before.
-/// @throws ErreurExecution missing or unreadable database or configuration.
-Configuration Demarre() {
-    CheminAppli = DossierExecutable();
-    LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Exclusif);
-    ChargeLois();
-    const Configuration configuration = LitConfiguration(CheminAppli / NomConfiguration);
-    etude.EtudeModifiee = Faux;
-    etude.ResultatsPrets = Faux;
-    LangueTravail = configuration.langue;
-    ChargeTextes(LaBase);
-    return configuration;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -60,7 +46,7 @@ int main(int argc, char** argv) {
     const InstalleDialogues installe(dialogues);
     int statut = 1;
     try {
-        const Configuration configuration = Demarre();
+        const Configuration configuration = Demarre(DossierExecutable());
         MdiCamA fenetre(configuration);
         ChoisitAide();
         fenetre.show();

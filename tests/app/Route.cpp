@@ -32,31 +32,19 @@ protected:
         LaisseFaire();
     }
 
-    void Tape(QWidget& ecran, const char* champ, const char* texte) {
-        auto* saisie = Controle<QLineEdit>(ecran, champ);
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, texte);
-        QTest::keyClick(saisie, Qt::Key_Return);
-        LaisseFaire();
-    }
-    void Clique(QWidget& ecran, const char* bouton) {
-        QTest::mouseClick(Controle<QPushButton>(ecran, bouton), Qt::LeftButton);
-        LaisseFaire();
-    }
     void EntreEtude(QWidget& saisie) {
         Controle<QLineEdit>(saisie, "Text13")->setText("4");
         const std::pair<const char*, const char*> donnees[] = {
             {"Text1", "80"},   {"Text2", "30"},   {"Text3", "100"}, {"Text4", "70"}, {"Text5", "40"},
             {"Text6", "10"},   {"Text18", "300"}, {"Text7", "0,8"}, {"Text8", ".6"}, {"Text9", "12"},
             {"Text10", "1.5"}, {"Text13", "4"},   {"Text14", "25"}};
-        for (const auto& [champ, texte] : donnees) Tape(saisie, champ, texte);
+        for (const auto& [champ, texte] : donnees) TapeDans(saisie, champ, texte);
         const std::pair<const char*, const char*> zones[] = {{"40", "90"}, {"40", "90"}, {"25", "120"}, {"25", "60"}};
         for (const auto& [final, came] : zones) {
-            Tape(saisie, "Text15", final);
-            Tape(saisie, "Text16", came);
+            TapeDans(saisie, "Text15", final);
+            TapeDans(saisie, "Text16", came);
             Controle<QComboBox>(saisie, "Combo1")->setCurrentText("MS");
-            Clique(saisie, "Suivante");
+            CliqueSur(saisie, "Suivante");
         }
     }
 };
@@ -73,7 +61,7 @@ TEST_F(Route, FromTheChooserToPaper) {
     mdi_.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&mdi_));
     EntreEtude(*saisie);
-    Clique(*saisie, "Calculer");
+    CliqueSur(*saisie, "Calculer");
     ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.back().texte;
     ASSERT_NE(mdi_.EcranOuvert("Resultat"), nullptr);
     const double rayon = etude.RayonMax;
@@ -85,7 +73,7 @@ TEST_F(Route, FromTheChooserToPaper) {
         Controle<QLineEdit>(*sauvegarde, "Text1")->setText("route");
         Controle<QCheckBox>(*sauvegarde, "Check2")->setChecked(true);
         Controle<QCheckBox>(*sauvegarde, "Check3")->setChecked(true);
-        Clique(*sauvegarde, "Sauvegarde");
+        CliqueSur(*sauvegarde, "Sauvegarde");
     });
     Controle<QAction>(mdi_, "FichierSauvegarde")->trigger();
     for (const char* fichier : {"route.Ang", "route.Pnt", "route_Ext.Scr", "route_Int.Scr"})

@@ -9,8 +9,10 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyle>
 #include <QTabBar>
+#include <QTest>
 
 QObject* ControleNomme(QObject& racine, const QString& nom, const QMetaObject& classe) {
     QList<QObject*> tous = racine.findChildren<QObject*>();
@@ -31,6 +33,20 @@ void LaisseFaire() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
+}
+
+void TapeDans(QWidget& ecran, const char* champ, const char* texte) {
+    auto* saisie = Controle<QLineEdit>(ecran, champ);
+    saisie->setFocus();
+    saisie->selectAll();
+    QTest::keyClicks(saisie, texte);
+    QTest::keyClick(saisie, Qt::Key_Return);
+    LaisseFaire();
+}
+
+void CliqueSur(QWidget& ecran, const char* bouton) {
+    QTest::mouseClick(Controle<QAbstractButton>(ecran, bouton), Qt::LeftButton);
+    LaisseFaire();
 }
 
 std::vector<std::string> LegendesCoupees(QWidget& ecran) {

@@ -16,6 +16,12 @@ template <class T> T* Controle(QObject& racine, const char* nom) {
     return static_cast<T*>(ControleNomme(racine, QString::fromUtf8(nom), T::staticMetaObject));
 }
 
+/// Types a text over what a field holds, and presses Return.
+void TapeDans(QWidget& ecran, const char* champ, const char* texte);
+
+/// Clicks a button.
+void CliqueSur(QWidget& ecran, const char* bouton);
+
 /// Lets the event loop deliver all that is pending, deferred deletions included.
 void LaisseFaire();
 

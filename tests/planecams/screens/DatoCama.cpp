@@ -34,19 +34,9 @@ protected:
         LaisseFaire();
     }
 
-    void Tape(const char* champ, const char* texte) {
-        auto* saisie = Controle<QLineEdit>(*ecran, champ);
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, texte);
-        QTest::keyClick(saisie, Qt::Key_Return);
-        LaisseFaire();
-    }
+    void Tape(const char* champ, const char* texte) { TapeDans(*ecran, champ, texte); }
     void Loi(const char* texte) { Controle<QComboBox>(*ecran, "Combo1")->setCurrentText(texte); }
-    void Clique(const char* bouton) {
-        QTest::mouseClick(Controle<QPushButton>(*ecran, bouton), Qt::LeftButton);
-        LaisseFaire();
-    }
+    void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
     QString Texte_(const char* champ) { return Controle<QLineEdit>(*ecran, champ)->text(); }
     std::string DerniereBoite() { return dialogues.boites.empty() ? "" : dialogues.boites.back().texte; }
     bool AFocus(const char* champ) {
@@ -327,18 +317,8 @@ TEST_F(SaisieBras, TheTranslatingFollowerIsEnteredAlike) {
     DoProfil profil;
     profil.show();
     LaisseFaire();
-    const auto tape = [&](const char* champ, const char* texte) {
-        auto* saisie = Controle<QLineEdit>(profil, champ);
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, texte);
-        QTest::keyClick(saisie, Qt::Key_Return);
-        LaisseFaire();
-    };
-    const auto clique = [&](const char* bouton) {
-        QTest::mouseClick(Controle<QPushButton>(profil, bouton), Qt::LeftButton);
-        LaisseFaire();
-    };
+    const auto tape = [&](const char* champ, const char* texte) { TapeDans(profil, champ, texte); };
+    const auto clique = [&](const char* bouton) { CliqueSur(profil, bouton); };
     etude.TypeCame = "Lineaire";
     tape("Text1", "12");
     tape("Text2", "240");

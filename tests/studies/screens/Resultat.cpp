@@ -39,18 +39,8 @@ protected:
         LaisseFaire();
     }
     QString Valeur(const char* nom) { return Controle<QLabel>(*ecran, nom)->text(); }
-    void Tape(const char* champ, const char* texte) {
-        auto* saisie = Controle<QLineEdit>(*ecran, champ);
-        saisie->setFocus();
-        saisie->selectAll();
-        QTest::keyClicks(saisie, texte);
-        QTest::keyClick(saisie, Qt::Key_Return);
-        LaisseFaire();
-    }
-    void Clique(const char* bouton) {
-        QTest::mouseClick(Controle<QPushButton>(*ecran, bouton), Qt::LeftButton);
-        LaisseFaire();
-    }
+    void Tape(const char* champ, const char* texte) { TapeDans(*ecran, champ, texte); }
+    void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
 };
 
 } // namespace

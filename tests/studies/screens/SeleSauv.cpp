@@ -27,11 +27,6 @@ protected:
         CalculeEtude();
     }
     ~Sauvegarde() override { std::filesystem::remove_all(dossier); }
-
-    static void Clique(QWidget& ecran, const char* bouton) {
-        QTest::mouseClick(Controle<QPushButton>(ecran, bouton), Qt::LeftButton);
-        LaisseFaire();
-    }
 };
 
 } // namespace
@@ -41,11 +36,11 @@ TEST_F(Sauvegarde, ChecksComeBeforeAnyFile) {
     ecran.show();
     EXPECT_EQ(Controle<QLineEdit>(ecran, "Text1")->text(), "Exemple");
     Controle<QLineEdit>(ecran, "Text1")->clear();
-    Clique(ecran, "Sauvegarde");
+    CliqueSur(ecran, "Sauvegarde");
     EXPECT_EQ(dialogues.boites.back().texte, Texte(518));
     Controle<QLineEdit>(ecran, "Text1")->setText("came");
     Controle<QCheckBox>(ecran, "Check1")->setChecked(false);
-    Clique(ecran, "Sauvegarde");
+    CliqueSur(ecran, "Sauvegarde");
     EXPECT_EQ(dialogues.boites.back().texte, Texte(517));
     EXPECT_TRUE(dialogues.demandes.empty());
     EXPECT_TRUE(ecran.isVisible());
@@ -60,7 +55,7 @@ TEST_F(Sauvegarde, AllFilesBearOneName) {
     Controle<QCheckBox>(ecran, "Check3")->setChecked(true);
     dialogues.fichiers = {dossier / "came.Ang", dossier / "came.Pnt", dossier / "came_Ext.Scr",
                           dossier / "came_Int.Scr"};
-    Clique(ecran, "Sauvegarde");
+    CliqueSur(ecran, "Sauvegarde");
     EXPECT_EQ(enregistre.count(), 1);
     EXPECT_FALSE(ecran.isVisible());
     for (const char* nom : {"came.Ang", "came.Pnt", "came_Ext.Scr", "came_Int.Scr"})
@@ -76,7 +71,7 @@ TEST_F(Sauvegarde, AFileThatCannotBeWrittenKeepsTheStudy) {
     dialogues.fichiers = {dossier / "absent" / "came.Ang"};
     SeleSauv ecran;
     ecran.show();
-    Clique(ecran, "Sauvegarde");
+    CliqueSur(ecran, "Sauvegarde");
     ASSERT_FALSE(dialogues.boites.empty()) << "told at the event loop";
     EXPECT_EQ(dialogues.boites.back().icone, Icone::Critique);
     EXPECT_EQ(etude.NombreZones, 4);

@@ -14,7 +14,8 @@ PointLoi LitPoint(std::string_view ligne) {
     const auto premier = ligne.find(';');
     if (premier == std::string_view::npos) return {};
     const auto second = ligne.find(';', premier + 1);
-    if (second == std::string_view::npos) return {Val(ligne.substr(0, premier)), 0, 0};
+    if (second == std::string_view::npos)
+        return {Val(ligne.substr(0, premier)), std::abs(Val(ligne.substr(premier + 1))), 0};
     // The sign of the return half and of the deceleration is lost, on purpose.
     return {Val(ligne.substr(0, premier)), std::abs(Val(ligne.substr(premier + 1, second - premier - 1))),
             std::abs(Val(ligne.substr(second + 1)))};

@@ -17,8 +17,8 @@ constexpr double TailleRapports = 11, TailleTitre = 12; // points
 
 /// A full page: the line that turns it, an empty line, the foot line.
 constexpr int LignesPapier = LignesPage + 3;
-/// The widest table, with room for columns that a large value widens.
-constexpr int ColonnesPapier = 72;
+/// The widest line: a remarkable value with its angle, or a table with columns that a large value widens.
+constexpr int ColonnesPapier = 78;
 
 constexpr int TexteDate = 383, TextePage = 413, TexteJanvier = 778;
 

@@ -1,38 +1,51 @@
 // The report of the data: geometry and speed, masses, forces, then a block a zone, in the order of the data screens.
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "reports/CadrePages.h"
 #include "studies/RapportsCames.h"
 #include "studies/RapportsCamesLignes.h"
 #include "studies/TypesEtude.h"
 
 #include <algorithm>
-#include <iterator>
+#include <span>
 #include <string_view>
 
 namespace {
 
 constexpr const char* MasqueDonnee = "###.##";
 constexpr const char* MasqueInertie = "##.#####";
-constexpr int UniteMm = 18, UniteDegres = 19, UniteN = 25, UniteKgM2 = 31;
 
+/// Fields of the groups behind the first, in the order of the data screens.
 constexpr std::string_view masses[] = {"MasseBrasO1A", "MasseBrasO1P", "EpaisseurCame", "InertieMasseA", "InertieO1"};
 constexpr std::string_view forces[] = {"MasseA", "ForceX", "ForceY", "AnglePesanteur", "CoupleConstantO1"};
 
-template <std::size_t N> bool Parmi(const ChampFichier& champ, const std::string_view (&noms)[N]) {
-    return std::find(std::begin(noms), std::end(noms), champ.nom) != std::end(noms);
-}
-
-/// A group of the data screen: its caption, and which fields stand in it.
+/// A group of the data screen: its caption and its fields.
 struct Groupe {
     int titre;
-    bool (*contient)(const ChampFichier&);
+    std::vector<const ChampFichier*> champs;
 };
 
-constexpr Groupe groupes[] = {
-    {151, [](const ChampFichier& c) { return !Parmi(c, masses) && !Parmi(c, forces); }},
-    {158, [](const ChampFichier& c) { return Parmi(c, masses); }},
-    {162, [](const ChampFichier& c) { return Parmi(c, forces); }},
-};
+std::vector<const ChampFichier*> Choisit(const TypeEtude& type, std::span<const std::string_view> noms) {
+    std::vector<const ChampFichier*> choisis;
+    for (const std::string_view nom : noms)
+        for (const ChampFichier& champ : type.champs)
+            if (nom == champ.nom) choisis.push_back(&champ);
+    return choisis;
+}
+
+/// The thickness of the cam stands alone with the geometry where nothing else has a mass of its own.
+std::vector<Groupe> GroupesDonnees(const TypeEtude& type) {
+    Groupe geometrie{151, {}}, masse{158, Choisit(type, masses)}, force{162, Choisit(type, forces)};
+    if (masse.champs.size() == 1 && masse.champs.front()->nom == std::string_view("EpaisseurCame"))
+        masse.champs.clear();
+    for (const ChampFichier& champ : type.champs) {
+        const auto tient = [&](const Groupe& g) {
+            return std::find(g.champs.begin(), g.champs.end(), &champ) != g.champs.end();
+        };
+        if (!tient(masse) && !tient(force)) geometrie.champs.push_back(&champ);
+    }
+    return {geometrie, masse, force};
+}
 
 /// What start and end value of a zone are called, and their unit.
 struct LegendeZone {
@@ -45,21 +58,20 @@ LegendeZone LegendesZone(const TypeEtude& type) {
 }
 
 void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const Groupe& groupe) {
-    bool titre = false, titreForces = false;
-    for (const ChampFichier& champ : type.champs) {
-        if (!groupe.contient(champ)) continue;
-        if (!titre) lignes.push_back({Texte(groupe.titre), true});
-        titre = true;
+    if (groupe.champs.empty()) return;
+    bool titreForces = false;
+    lignes.push_back({Texte(groupe.titre), true});
+    for (const ChampFichier* champ : groupe.champs) {
         // "x" and "y" alone would not say what they are.
-        if (champ.unite == UniteN && !titreForces) {
+        if (champ->unite == UniteN && !titreForces) {
             lignes.push_back({Espaces(RetraitLigne) + Texte(type.bras ? 165 : 392)});
             titreForces = true;
         }
-        const char* masque = champ.unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
+        const char* masque = champ->unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
         lignes.push_back(
-            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(etude.*champ.membre, masque))});
+            {LigneValeur(Texte(champ->texte), UniteTexte(champ->unite), Format(etude.*champ->membre, masque))});
     }
-    if (titre) lignes.push_back({});
+    lignes.push_back({});
 }
 
 void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::int16_t z) {
@@ -82,7 +94,7 @@ void ImprimeDonnees() {
     const TypeEtude* type = TrouveType(etude.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
     std::vector<LigneRapport> lignes;
-    for (const Groupe& groupe : groupes) AjouteGroupe(lignes, *type, groupe);
+    for (const Groupe& groupe : GroupesDonnees(*type)) AjouteGroupe(lignes, *type, groupe);
     lignes.push_back({LigneValeur(Texte(172), SansUnite, std::to_string(etude.NombreZones))});
     lignes.push_back({LigneValeur(Texte(174), SansUnite, std::to_string(etude.PointsParDegre))});
     lignes.push_back({});

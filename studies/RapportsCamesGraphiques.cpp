@@ -68,7 +68,7 @@ void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquett
     const std::string unite = degres ? " " + Texte(19) : etiquette.unite;
     DessineEtiquette(dessin, OrigineY, "0", {});
     if (maximum <= 0) return;
-    const double pas = degres ? PasGraduation(maximum, 3) : maximum / 2;
+    const double pas = degres ? std::min(PasGraduation(maximum, 3), maximum) : maximum / 2;
     for (double valeur = pas; valeur <= maximum * (1 + 1e-9); valeur += pas) {
         const double ecart = HauteurBoite / 2 * valeur / maximum;
         DessineEtiquette(dessin, OrigineY - ecart, Format(valeur, etiquette.masque), unite);

@@ -3,6 +3,7 @@
 #include "studies/RapportsCames.h"
 #include "studies/RapportsCamesLignes.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -68,8 +69,8 @@ std::string ComposeLigne(const LigneRemarquable& ligne) {
     std::string valeur = Format(ligne.valeur(), ligne.masque) + ligne.suite;
     if (ligne.angle != nullptr) {
         // Whole degrees; the last digit always shows, so that a maximum at the start of the cam has its 0.
-        constexpr int largeurValeur = 10;
-        valeur += Espaces(largeurValeur - NombreCaracteres(valeur)) + Texte(227) + " " +
+        constexpr int largeurValeur = 8;
+        valeur += Espaces(std::max(1, largeurValeur - NombreCaracteres(valeur))) + Texte(227) + " " +
                   Format(etude.*ligne.angle, "##0") + "°";
     }
     return LigneValeur(Texte(ligne.texte), ligne.unite != nullptr ? ligne.unite : UniteTexte(ligne.texteUnite), valeur);

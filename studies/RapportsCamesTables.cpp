@@ -81,9 +81,6 @@ constexpr TableRapport tablesMouvement[] = {
 };
 constexpr TableRapport tableForces{"", colonnesForces};
 
-/// Widths of the columns of the table being printed.
-std::vector<int> largeurs;
-
 const TableRapport& TableMouvement() {
     const auto table = std::find_if(std::begin(tablesMouvement), std::end(tablesMouvement),
                                     [](const TableRapport& t) { return t.type == etude.TypeCame; });
@@ -108,7 +105,15 @@ int LargeurColonne(const ColonneRapport& colonne, int blancs) {
     return std::max({colonne.largeur, largeur(mini), largeur(maxi)});
 }
 
+std::vector<int> LargeursColonnes(const TableRapport& table) {
+    std::vector<int> largeurs;
+    for (const ColonneRapport& colonne : table.colonnes)
+        largeurs.push_back(LargeurColonne(colonne, Blancs(largeurs.size())));
+    return largeurs;
+}
+
 void ImprimeEnTete(const TableRapport& table) {
+    const std::vector<int> largeurs = LargeursColonnes(table);
     std::string titres, unites;
     for (std::size_t c = 0; c < table.colonnes.size(); ++c) {
         const int place = largeurs[c] - Blancs(c);
@@ -120,7 +125,7 @@ void ImprimeEnTete(const TableRapport& table) {
     ImprimeLigneCames({});
 }
 
-void ImprimeLigneTable(const TableRapport& table, long point) {
+void ImprimeLigneTable(const TableRapport& table, const std::vector<int>& largeurs, long point) {
     std::string ligne;
     for (std::size_t c = 0; c < table.colonnes.size(); ++c) {
         const ColonneRapport& colonne = table.colonnes[c];
@@ -139,11 +144,9 @@ void ImprimeTable(const TableRapport& table, EnTete enTete, int titre) {
     ImprimeLigneCames({});
     // Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
     impression.NombrePages = Entier16(Int((etude.NombrePoints + 8) / 61.0));
-    largeurs.clear();
-    for (const ColonneRapport& colonne : table.colonnes)
-        largeurs.push_back(LargeurColonne(colonne, Blancs(largeurs.size())));
     ImprimeEnTete(table);
-    for (long i = 0; i <= etude.NombrePoints; ++i) ImprimeLigneTable(table, i);
+    const std::vector<int> largeurs = LargeursColonnes(table);
+    for (long i = 0; i <= etude.NombrePoints; ++i) ImprimeLigneTable(table, largeurs, i);
     impression.TypeEnTete = SansEnTete;
     ImprimePiedDePage(Entier16(impression.NumeroPage + 1));
     ImprimanteEnCours().NouvellePage();

@@ -55,13 +55,17 @@ ApercuImpression::ApercuImpression(Pages pages, QString nom, QWidget* parent)
 
 void ApercuImpression::DessinePages(QPrinter* imprimante) {
     ImprimanteQt surEcran(*imprimante);
-    // An exception must not go through the toolkit: it is kept until the toolkit is done.
-    try {
-        pages_(surEcran);
-    } catch (...) {
-        echec_ = std::current_exception();
-    }
-    surEcran.FinDocument();
+    // An exception must not go through the toolkit: the first is kept until the toolkit is done. The document is ended
+    // all the same, because the toolkit looks at its pages.
+    const auto garde = [this](auto&& etape) {
+        try {
+            etape();
+        } catch (...) {
+            if (!echec_) echec_ = std::current_exception();
+        }
+    };
+    garde([&] { pages_(surEcran); });
+    garde([&] { surEcran.FinDocument(); });
     nombrePages_ = surEcran.PagesSorties();
     // The toolkit would take the pages of the last preview for those of a document that never began.
     if (nombrePages_ == 0) QPainter(imprimante).end();
@@ -145,8 +149,8 @@ void ApercuImpression::Imprime() {
 }
 
 void ApercuImpression::EcritPdf() {
-    const auto chemin =
-        LesDialogues().FichierASauver({Texte(703), CheminAppli, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
+    const auto chemin = LesDialogues().FichierASauver(
+        {Texte(703), CheminAppli / NomDossierEtudes, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
     if (!chemin || chemin->empty()) return;
     const Sablier sablier;
     ImprimePdf(*chemin, pages_, ImprimanteDuPoste().pageLayout());

@@ -45,10 +45,15 @@ void PanneauChamps::Charge() {
     for (std::size_t i = 0; i < lesChamps_.size(); ++i) lesChamps_[i]->Montre(etude.*table_[i].membre);
 }
 
-void PanneauChamps::Lit() {
+bool PanneauChamps::Lit() {
     std::vector<double> valeurs;
     for (const ChampNombre* champ : lesChamps_) valeurs.push_back(champ->Valeur());
-    for (std::size_t i = 0; i < valeurs.size(); ++i) etude.*table_[i].membre = valeurs[i];
+    bool change = false;
+    for (std::size_t i = 0; i < valeurs.size(); ++i) {
+        change = change || etude.*table_[i].membre != valeurs[i];
+        etude.*table_[i].membre = valeurs[i];
+    }
+    return change;
 }
 
 ChampNombre* PanneauChamps::Champ(const char* controle) const {

@@ -29,9 +29,9 @@ public:
 
     /// From the record to the fields.
     void Charge();
-    /// From the fields to the record.
+    /// From the fields to the record; true when a value changed.
     /// @throws ErreurExecution overflow; the record is then as it was.
-    void Lit();
+    bool Lit();
 
     /// @throws std::logic_error when there is no such field, with the names there are.
     ChampNombre* Champ(const char* controle) const;

@@ -12,6 +12,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 PanneauPesanteur::PanneauPesanteur(const char* champ, QWidget* parent) : QGroupBox(QTexte(168), parent) {
     auto* disposition = new QGridLayout(this);
@@ -36,8 +37,9 @@ void PanneauPesanteur::Lit() {
 }
 
 void PanneauPesanteur::Change(double angle) {
-    etude.AnglePesanteur = std::clamp(angle, 0.0, 360.0);
+    const double ancien = std::exchange(etude.AnglePesanteur, std::clamp(angle, 0.0, 360.0));
     Montre();
+    if (etude.AnglePesanteur != ancien) emit Modifie();
 }
 
 void PanneauPesanteur::Montre() {

@@ -10,6 +10,9 @@ class ZoneDessin;
 class PanneauPesanteur : public QGroupBox {
     Q_OBJECT
 
+signals:
+    void Modifie(); ///< the record has another angle
+
 public:
     /// @param champ name of the field; the scroll bar is `HScroll1`, the drawing `Picture6`.
     explicit PanneauPesanteur(const char* champ, QWidget* parent = nullptr);

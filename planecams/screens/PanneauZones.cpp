@@ -132,6 +132,7 @@ void PanneauZones::EntreNombreZones() {
     nombreZones_->Montre(nombre);
     if (Entier16(nombre) == etude.NombreZones) return;
     etude.NombreZones = Entier16(nombre);
+    emit Modifie();
     etude.Zones.Redimensionne(etude.NombreZones);
     etude.ZoneCourante = 1;
     zonesEntrees_ = 0;
@@ -230,6 +231,7 @@ bool PanneauZones::ChercheFichier() {
         {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     if (!chemin || chemin->empty()) return false;
     LitFichierLoi(*chemin);
+    emit Modifie();
     etude.Erreur = Faux;
     etude.Zones.Redimensionne(1);
     Zone& zone = etude.Zones[1];
@@ -285,6 +287,7 @@ void PanneauZones::Suivante() {
 
 void PanneauZones::TermineZone(const Zone& zone) {
     etude.Zones[etude.ZoneCourante] = zone;
+    emit Modifie();
     zonesEntrees_ = std::max(zonesEntrees_, etude.ZoneCourante);
     const bool derniere = etude.ZoneCourante == etude.NombreZones;
     if (!derniere) ++etude.ZoneCourante;

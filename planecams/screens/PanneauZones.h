@@ -45,6 +45,7 @@ public:
 
 signals:
     void Change();  ///< zones were accepted or lost: `Complet` may have changed
+    void Modifie(); ///< the zones of the record are others
     void Termine(); ///< the last zone was accepted
 
 protected:

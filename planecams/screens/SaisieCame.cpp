@@ -60,7 +60,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
 
     for (std::size_t i = 0; i < panneaux_.size(); ++i) {
         for (auto* champ : panneaux_[i]->Champs())
-            connect(champ, &QLineEdit::editingFinished, panneaux_[i], &PanneauChamps::Lit);
+            connect(champ, &QLineEdit::editingFinished, this, [this, panneau = panneaux_[i]] { LitPanneau(*panneau); });
         if (i + 1 < panneaux_.size()) {
             auto* suivant = panneaux_[i + 1]->Champs().front();
             connect(panneaux_[i], &PanneauChamps::Termine, suivant,
@@ -71,6 +71,8 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     }
     connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);
     connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
+    connect(zones_, &PanneauZones::Modifie, this, &SaisieCame::PerimeResultats);
+    connect(pesanteur_, &PanneauPesanteur::Modifie, this, &SaisieCame::PerimeResultats);
     connect(zones_, &PanneauZones::Termine, calculer_, [this] { calculer_->setFocus(Qt::TabFocusReason); });
     connect(calculer_, &QPushButton::clicked, this, &SaisieCame::Calculer);
     connect(retour_, &QPushButton::clicked, this, &SaisieCame::Retour);
@@ -83,8 +85,18 @@ void SaisieCame::MontreBoutons() {
     calculer_->setDefault(zones_->Complet());
 }
 
+/// Results of other data are neither printed nor saved.
+void SaisieCame::PerimeResultats() {
+    etude.ResultatsPrets = Faux;
+    etude.EtudeModifiee = Faux;
+}
+
+void SaisieCame::LitPanneau(PanneauChamps& panneau) {
+    if (panneau.Lit()) PerimeResultats();
+}
+
 void SaisieCame::LitDonnees() {
-    for (auto* panneau : panneaux_) panneau->Lit();
+    for (auto* panneau : panneaux_) LitPanneau(*panneau);
     pesanteur_->Lit();
 }
 

@@ -44,6 +44,8 @@ protected:
 
 private:
     bool AcheveZone(Zone& zone);
+    void PerimeResultats();
+    void LitPanneau(PanneauChamps& panneau);
     void LitDonnees();
     bool FauteDeDonnee();
     void MontreFaute(double Etude::*membre);

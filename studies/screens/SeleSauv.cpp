@@ -75,6 +75,11 @@ void SeleSauv::Sauvegarde() {
         nom_->setFocus();
         return;
     }
+    if (nom.find_first_of("/\\") != std::string::npos) {
+        LesDialogues().Message(Icone::Avertissement, Texte(208));
+        nom_->setFocus();
+        return;
+    }
     // The exports alone would leave nothing to make them again from.
     if (!donnees_->isChecked()) {
         LesDialogues().Message(Icone::Information, Texte(517));

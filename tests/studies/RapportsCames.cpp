@@ -126,6 +126,12 @@ TEST_F(RapportsCames, DataReportHasEveryValueOfTheStudy) {
         EXPECT_TRUE(Contient(lignes, Texte(champ.texte),
                              "(" + Texte(champ.unite) + ") : " + Format(etude.*champ.membre, "###.##")))
             << champ.nom;
+    const auto rang = [&](const char* debut) {
+        return std::find_if(lignes.begin(), lignes.end(), [&](const auto& l) { return Trim(l).starts_with(debut); }) -
+               lignes.begin();
+    };
+    EXPECT_LT(rang("Masses"), rang("y positif"));
+    EXPECT_LT(rang("y positif"), rang("Angle pesanteur")) << "the order of the data screen";
     EXPECT_TRUE(Contient(lignes, "Loi", " : MS"));
     EXPECT_TRUE(Contient(lignes, "Temps", " : .06 S."));
     EXPECT_TRUE(Contient(lignes, "Angle (a) final", "(degrés) : 25."));

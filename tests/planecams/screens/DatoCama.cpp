@@ -100,9 +100,13 @@ TEST_F(SaisieBras, AStudyThatWasReadComesUpWhole) {
     EXPECT_EQ(Texte_("Text17"), "270");
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 6), "MSC50");
     EXPECT_TRUE(Controle<QPushButton>(*ecran, "Calculer")->isEnabled());
-    // A new speed holds for the zones entered before.
+    // A new speed holds for the zones entered before, and the results of the old one are none any more.
+    etude.ResultatsPrets = etude.EtudeModifiee = Vrai;
     Tape("Text18", "150");
+    EXPECT_EQ(etude.ResultatsPrets, Faux);
+    EXPECT_EQ(etude.EtudeModifiee, Faux);
     Clique("Calculer");
+    EXPECT_EQ(etude.EtudeModifiee, Vrai);
     EXPECT_NEAR(etude.Zones[1].Temps, 0.2, 1e-15);
 }
 

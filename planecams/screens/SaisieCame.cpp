@@ -32,6 +32,11 @@ SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
     setObjectName(QString::fromLatin1(description.nom));
 }
 
+SaisieCame::~SaisieCame() {
+    // A field that loses the focus while the screen goes still announces itself; nobody is there to listen any more.
+    for (QObject* enfant : findChildren<QObject*>()) enfant->disconnect(this);
+}
+
 void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
                          PanneauPesanteur* pesanteur) {
     panneaux_ = panneaux;

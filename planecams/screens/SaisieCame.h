@@ -24,6 +24,9 @@ struct DescriptionSaisie {
 class SaisieCame : public QWidget {
     Q_OBJECT
 
+public:
+    ~SaisieCame() override;
+
 signals:
     void EtudeCalculee(); ///< the study is calculated and its results are ready
     void Quitte();        ///< the screen is given up

@@ -12,7 +12,7 @@
 namespace {
 
 /// Points of a polyline nearer than this to the last one kept, in pixels, are left out: nobody could see them.
-constexpr double EcartMinPixels = 0.4;
+constexpr double EcartMinPixels = 1.0;
 
 /// Share of the stroke's colour in the shade that fills a surface.
 constexpr double PartTeinte = 0.16;

@@ -53,7 +53,6 @@ public:
     /// Makes an empty database in place of one that may exist, for exclusive use.
     static BaseDonnees Cree(const std::filesystem::path& chemin, const std::string& motDePasse);
 
-    bool EstOuverte() const { return base_ != nullptr; }
     void Ferme();
 
     /// All records of a table, in the order in which they were added.

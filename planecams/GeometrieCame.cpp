@@ -133,6 +133,10 @@ void CalculeProfil() {
     CalculeDifferences();
 }
 
+double PenteMaxi() {
+    return etude.AngleTangentMax * 180.0 / Pi - 90.0;
+}
+
 void ControleBrasCentre() {
     const double B = std::atan(Divise(etude.CoteB, etude.CoteA)) * 180.0 / Pi;
     const double P0 = etude.AnglePO1A + etude.Points[0].AngleBras;

@@ -5,6 +5,9 @@
 /// `Points.Rayon` to `Profil`: tangent angle, inner and outer offset curves, first and second differences.
 void CalculeProfil();
 
+/// Largest slope of the profile in degrees, signed: 0 where the tangent is square to the radius.
+double PenteMaxi();
+
 /// The arm must not cross the line from the cam centre to the pivot: sets `Erreur` and says so when it does.
 /// @throws ErreurExecution division by zero for a CoteA of 0.
 void ControleBrasCentre();

@@ -2,6 +2,7 @@
 // mid-height.
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "reports/CadrePages.h"
 #include "studies/Graphique.h"
 #include "studies/RapportsCames.h"
@@ -65,7 +66,7 @@ void DessineEtiquette(Dessin& dessin, double y, const std::string& valeur, const
 /// Values are labelled at their maximum and at the half; angles, of which whole degrees are written, at round ones.
 void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquette) {
     const bool degres = etiquette.unite[0] == '\0';
-    const std::string unite = degres ? " " + Texte(19) : etiquette.unite;
+    const std::string unite = degres ? " " + Texte(UniteDegres) : etiquette.unite;
     DessineEtiquette(dessin, OrigineY, "0", {});
     if (maximum <= 0) return;
     const double pas = degres ? std::min(PasGraduation(maximum, 3), maximum) : maximum / 2;

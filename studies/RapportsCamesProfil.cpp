@@ -2,6 +2,7 @@
 // Cam millimetres have their origin in the cam centre and y up; paper millimetres run down.
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "reports/CadrePages.h"
 #include "studies/RapportsCames.h"
 
@@ -78,7 +79,7 @@ void DessineRegle(Dessin& dessin) {
     const double y = dessin.Hauteur() - cran, x = dessin.Largeur() - longueur;
     dessin.Ligne({x, y}, {x + longueur, y}, traitAxe);
     for (const double bout : {x, x + longueur}) dessin.Ligne({bout, y - cran / 2}, {bout, y + cran / 2}, traitAxe);
-    dessin.Texte({x - 2, y}, "50 " + Texte(18), Ancrage::Droite, HauteurTexte);
+    dessin.Texte({x - 2, y}, "50 " + Texte(UniteMm), Ancrage::Droite, HauteurTexte);
 }
 
 /// Draws the profile into the surface, below the legend and above the bar. Gives the scale.

@@ -1,4 +1,6 @@
 // The report of the remarkable values: extremes of the calculation with the cam angles at which they occur.
+#include "data/Unites.h"
+#include "planecams/GeometrieCame.h"
 #include "reports/CadrePages.h"
 #include "studies/RapportsCames.h"
 #include "studies/RapportsCamesLignes.h"
@@ -10,9 +12,6 @@ namespace {
 
 template <double Etude::*membre> double De() {
     return etude.*membre;
-}
-double PenteMaxi() {
-    return etude.AngleTangentMax * 180.0 / Pi - 90.0;
 }
 
 bool ABras(const TypeEtude& type) {
@@ -42,23 +41,23 @@ constexpr const char* M2 = "###.##";
 constexpr const char* M2Court = "##.##";
 constexpr const char* M2Force = "####.##";
 constexpr const char* MInertie = "##.#####";
-constexpr int Came = 147, Galet = 289, Bras = 217, Degres = 19, Tours = 21;
+constexpr int Came = 147, Galet = 289, Bras = 217;
 
 const LigneRemarquable lesValeurs[] = {
     {Came, 220, De<&Etude::RayonMin>, M3, "(mm) : "},
     {Came, 221, De<&Etude::RayonMax>, M3, "(mm) : "},
     {Came, 222, De<&Etude::RayonCourbureMin>, M2Court, "(mm) : "},
-    {Came, 223, PenteMaxi, M2Court, nullptr, Degres},
+    {Came, 223, PenteMaxi, M2Court, nullptr, UniteDegres},
     {Came, 232, De<&Etude::CoupleMax>, M2, "(Nm) : ", 0, &Etude::CoupleMaxAngle},
     {Came, 705, De<&Etude::CoupleDemarrage>, M2, "(Nm) : ", 0, nullptr, ACoupleConstant, " 0.25 sec"},
     {Came, 234, De<&Etude::MasseCame>, M2Court, "(Kg) : "},
     {Came, 233, De<&Etude::InertieCame>, MInertie, "(Kgm²) : "},
     {Galet, 225, De<&Etude::VitesseRayonMax>, M2, "(m/sec) : ", 0, &Etude::VitesseRayonMaxAngle},
     {Galet, 226, De<&Etude::AccelRayonMax>, M2, "(m/sec²) : ", 0, &Etude::AccelRayonMaxAngle},
-    {Galet, 229, De<&Etude::VitesseGaletMoyenne>, M2, nullptr, Tours},
-    {Galet, 230, De<&Etude::VitesseGaletMax>, M2, nullptr, Tours},
+    {Galet, 229, De<&Etude::VitesseGaletMoyenne>, M2, nullptr, UniteTours},
+    {Galet, 230, De<&Etude::VitesseGaletMax>, M2, nullptr, UniteTours},
     {Galet, 231, De<&Etude::ForceGaletMax>, M2Force, "(N) : ", 0, &Etude::ForceGaletMaxAngle},
-    {Bras, 237, De<&Etude::LoiCourseMax>, M2, nullptr, Degres, nullptr, ABras},
+    {Bras, 237, De<&Etude::LoiCourseMax>, M2, nullptr, UniteDegres, nullptr, ABras},
     {Bras, 225, De<&Etude::LoiVitesseMax>, M2, "(rad/sec) : ", 0, &Etude::LoiVitesseMaxAngle, ABras},
     {Bras, 226, De<&Etude::LoiAccelMax>, M2, "(rad/sec²): ", 0, &Etude::LoiAccelMaxAngle, ABras},
     {Bras, 235, De<&Etude::InertieBras>, MInertie, "(Kgm²) : ", 0, nullptr, AMasseBras},

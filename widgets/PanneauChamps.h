@@ -39,9 +39,6 @@ public:
     ChampNombre* ChampDe(double Etude::*membre) const;
     const std::vector<ChampNombre*>& Champs() const { return lesChamps_; }
 
-    /// The grid of the fields, one row each, for an owner that adds rows below them.
-    QGridLayout* Disposition() const { return disposition_; }
-
 signals:
     void Termine(); ///< Return was pressed in the last field
 

@@ -3,6 +3,7 @@
 #include "core/Etude.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "planecams/GeometrieCame.h"
 #include "planecams/ListeZones.h"
 #include "planecams/MouvementCame.h"
 #include "platform/Dialogues.h"
@@ -45,9 +46,6 @@ struct LigneValeur {
 
 template <double Etude::*membre> double De() {
     return etude.*membre;
-}
-double PenteMaxi() {
-    return etude.AngleTangentMax * 180.0 / Pi - 90.0;
 }
 
 const LigneValeur valeurs[] = {

@@ -53,13 +53,7 @@ TEST_F(FichierLoi, WhatIsReadIsTheLawShiftedAndWithoutSigns) {
 TEST_F(FichierLoi, AFileDrivesTheOneZoneOfAStudy) {
     Evalue("CYC", 720);
     LitLoi(ComposeFichierLoi());
-    etude.TypeCame = "Angulaire";
-    etude.CoteA = 80;
-    etude.CoteB = 30;
-    etude.RayonO1P = 70;
-    etude.AnglePO1A = 40;
-    etude.RayonGalet = 5;
-    etude.VitesseCame = 60;
+    PoseMecanismeBras();
     etude.PointsParDegre = 2;
     PoseZones({{25, 40, 360, NomLoiFichier}});
     CalculeCameAngulaire();

@@ -48,3 +48,16 @@ inline void PoseZones(const std::vector<ZoneVoulue>& voulues) {
         zone.Temps = v.angleCame / etude.VitesseCame / 6.0;
     }
 }
+
+/// A plausible arm mechanism at 300 Tr/min, without masses and zones.
+inline void PoseMecanismeBras() {
+    etude.TypeCame = "Angulaire";
+    etude.CoteA = 80;
+    etude.CoteB = 30;
+    etude.RayonO1A = 100;
+    etude.RayonO1P = 70;
+    etude.AnglePO1A = 40;
+    etude.RayonGalet = 10;
+    etude.VitesseCame = 300;
+    etude.PointsParDegre = 1;
+}

@@ -13,20 +13,12 @@ protected:
     DialoguesScript dialogues;
 
     CameAngulaire() {
-        etude.TypeCame = "Angulaire";
-        etude.CoteA = 80;
-        etude.CoteB = 30;
-        etude.RayonO1A = 100;
-        etude.RayonO1P = 70;
-        etude.AnglePO1A = 40;
-        etude.RayonGalet = 10;
-        etude.VitesseCame = 300;
+        PoseMecanismeBras();
         etude.MasseBrasO1A = 0.8;
         etude.MasseBrasO1P = 0.6;
         etude.MasseA = 1.5;
         etude.EpaisseurCame = 12;
         etude.ForceY = -40;
-        etude.PointsParDegre = 1;
         PoseZones({{25, 40, 90, "MS"}, {40, 40, 90, "MS"}, {40, 25, 120, "CYC"}, {25, 25, 60, "MS"}});
     }
 };

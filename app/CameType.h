@@ -3,7 +3,6 @@
 
 #include "platform/Dessin.h"
 
-#include <QAbstractButton>
 #include <QDialog>
 
 #include <span>
@@ -19,28 +18,6 @@ struct ChoixEtude {
 };
 
 std::span<const ChoixEtude> LesChoixEtude();
-
-/// A picture that is a button: it rises under the pointer and with the focus, Return and Space choose it.
-class BoutonImage : public QAbstractButton {
-    Q_OBJECT
-
-public:
-    explicit BoutonImage(void (*dessine)(Dessin&), QWidget* parent = nullptr);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-protected:
-    void paintEvent(QPaintEvent* evenement) override;
-    void keyPressEvent(QKeyEvent* evenement) override;
-    void enterEvent(QEnterEvent* evenement) override;
-    void leaveEvent(QEvent* evenement) override;
-
-private:
-    void DessineImage(QPainter& peintre, const QRectF& cadre);
-
-    void (*dessine_)(Dessin&);
-};
 
 class CameType : public QDialog {
     Q_OBJECT

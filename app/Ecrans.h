@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 class QWidget;
@@ -12,12 +13,15 @@ struct DemandesEcran {
     std::function<void()> etudeCalculee;   ///< the study is calculated: its results are to be shown
     std::function<void()> etudeRecalculee; ///< the results shown were calculated again
     std::function<void()> quitte;          ///< the screen is left
+    std::function<void()> imprime;         ///< the screen is to be printed
+    /// The screen wrote a file of that name.
+    std::function<void(const std::string&)> fichierEnregistre;
 };
 
 struct EcranEnfant {
     const char* nom;
     const char* boutonRetour; ///< control name of its way back
-    QWidget* (*cree)(const DemandesEcran& demandes);
+    QWidget* (*cree)(const char* nom, const DemandesEcran& demandes);
 };
 
 /// The row of a screen; none for one that is not built.

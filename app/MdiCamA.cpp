@@ -5,6 +5,9 @@
 #include "app/Ecrans.h"
 #include "app/Propos.h"
 #include "data/Demarrage.h"
+#include "laws/ChoixLois.h"
+#include "laws/screens/EcranLoi.h"
+#include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
 #include "studies/FichierEtude.h"
 #include "studies/RapportsCames.h"
@@ -159,6 +162,7 @@ void MdiCamA::Sauvegarder() {
         LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
         return;
     }
+    if (EcranLoi* loi = EcranLoiActif()) return loi->Enregistrer();
     SeleSauv sauvegarde(this);
     connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.NomFichier);
@@ -172,6 +176,11 @@ void MdiCamA::Imprimer() {
     if (!etude.ResultatsPrets) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
         return;
+    }
+    if (const EcranLoi* loi = EcranLoiActif()) {
+        const RapportLoi rapport = loi->Rapport();
+        return ApercuEtImprime(this, Q(rapport.titre),
+                               [&rapport](Imprimante& imprimante) { ImprimeEtudeLoi(imprimante, rapport); });
     }
     // The title stands at the head of every report: a study without one is asked for it again.
     while (etude.NomFichier.empty())
@@ -189,6 +198,31 @@ void MdiCamA::ConfigureImpression() {
 
 void MdiCamA::MontrePropos() {
     Propos(this).exec();
+}
+
+void MdiCamA::MontreLoisUsuelles() {
+    MontreLois("QuelLoi");
+}
+
+void MdiCamA::MontreLoisSpeciales() {
+    MontreLois("QuelLoiSpe");
+}
+
+void MdiCamA::MontreLois(const char* chooser) {
+    if (RotationEmpeche()) return;
+    QuelLoi choix(chooser, this);
+    AjouteAide(choix);
+    if (choix.exec() == QDialog::Accepted) EtudieLoi(*choix.Choisi());
+}
+
+void MdiCamA::EtudieLoi(const ChoixLoi& choix) {
+    if (RotationEmpeche()) return;
+    const Sablier sablier;
+    FermeEcrans();
+    VideEtude();
+    if (choix.loi != nullptr) etude.LoiChoisie = choix.loi;
+    OuvreEcran(choix.ecran);
+    Annonce(Texte(TextePret));
 }
 
 void MdiCamA::SauveConfiguration() {
@@ -245,12 +279,23 @@ QWidget* MdiCamA::EcranOuvert(const std::string& nom) const {
     return trouve == ecrans_.end() || !trouve->second ? nullptr : trouve->second->widget();
 }
 
+/// The law screen that is open: saving and printing go to it.
+EcranLoi* MdiCamA::EcranLoiActif() const {
+    for (const EtudeLoi& loi : LesEtudesLois())
+        if (etude.*loi.active) return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
+    return nullptr;
+}
+
 void MdiCamA::FermeEcran(const std::string& nom) {
     const auto trouve = ecrans_.find(nom);
     if (trouve == ecrans_.end()) return;
     const QPointer<QMdiSubWindow> sousFenetre = trouve->second;
     ecrans_.erase(trouve);
     if (!sousFenetre) return;
+    if (const EtudeLoi* loi = TrouveEtudeLoi(nom)) {
+        etude.*loi->active = Faux;
+        etude.TypeLoi.clear();
+    }
     etude.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
     sousFenetre->removeEventFilter(this);
     sousFenetre->hide();
@@ -262,9 +307,14 @@ QWidget* MdiCamA::OuvreEcran(const std::string& nom) {
     const EcranEnfant* ecran = TrouveEcran(nom);
     if (!ecran) return nullptr;
     FermeEcran(nom);
-    QWidget* contenu = ecran->cree({.etudeCalculee = [this] { MontreResultats(); },
-                                    .etudeRecalculee = [this] { Annonce(Texte(TexteEtudeCalculee)); },
-                                    .quitte = [this, ecran] { QuitteEcran(*ecran); }});
+    QWidget* contenu = ecran->cree(ecran->nom, {.etudeCalculee = [this] { MontreResultats(); },
+                                                .etudeRecalculee = [this] { Annonce(Texte(TexteEtudeCalculee)); },
+                                                .quitte = [this, ecran] { QuitteEcran(*ecran); },
+                                                .imprime = [this] { Imprimer(); },
+                                                .fichierEnregistre =
+                                                    [this](const std::string& fichier) {
+                                                        Annonce(Texte(TexteFichierEnregistre) + " " + fichier);
+                                                    }});
     QMdiSubWindow* sousFenetre = bureau_->addSubWindow(contenu, Qt::SubWindow);
     sousFenetre->setSystemMenu(nullptr); // its entries are not in the working language
     sousFenetre->installEventFilter(this);

@@ -17,7 +17,9 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QToolBar;
+class EcranLoi;
 struct ChoixEtude;
+struct ChoixLoi;
 struct EcranEnfant;
 struct TypeEtude;
 
@@ -43,6 +45,9 @@ public:
 
     /// Begins a study of the kind chosen; what was open is discarded.
     void CommenceEtude(const ChoixEtude& choix);
+
+    /// Begins the study of the law chosen; what was open is discarded.
+    void EtudieLoi(const ChoixLoi& choix);
 
     /// Reads, calculates and shows a study file. A file that cannot be read is told in the status line.
     void OuvreFichier(const std::filesystem::path& chemin);
@@ -90,6 +95,7 @@ private:
     void AjouteOuvertures(QMenu& menu);
     void AjouteLoisUsuelles(QMenu& menu);
     void AjouteLoisSpeciales(QMenu& menu);
+    void AjouteLois(QMenu& menu, std::span<const char* const> cles);
     void AppliqueTextes();
     QAction* Action(const char* nom) const;
     std::vector<QAction*> MarquesImpression() const;
@@ -102,11 +108,15 @@ private:
     void Imprimer();
     void ConfigureImpression();
     void MontrePropos();
+    void MontreLoisUsuelles();
+    void MontreLoisSpeciales();
+    void MontreLois(const char* chooser);
     void SauveConfiguration();
     void Quitter();
 
     // Child screens.
     bool RotationEmpeche();
+    EcranLoi* EcranLoiActif() const;
     void FermeEcran(const std::string& nom);
     void QuitteEcran(const EcranEnfant& ecran);
     void MontreResultats();

@@ -3,6 +3,7 @@
 #include "app/Ecrans.h"
 #include "app/MdiCamA.h"
 #include "data/Demarrage.h"
+#include "laws/ChoixLois.h"
 #include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/Icones.h"
@@ -39,21 +40,11 @@ constexpr EntreeDeroulante LesOuvertures[] = {
     {"ProfilConjugueesOsc", "ConjuguesOscillation"},
 };
 
-struct EntreeLoi {
-    const char* cle;
-    int texte;
-};
-
-constexpr EntreeLoi LesLoisUsuelles[] = {
-    {"MS", 228},       {"MSC15", 94}, {"MSC20", 95},  {"MSC25", 96},    {"MSC33", 97},
-    {"MSC50", 98},     {"MSC66", 99}, {"MSC80", 100}, {"MSPerso", 104}, {"Harmonique", 106},
-    {"Cycloide", 107}, {"MT", 108},   {"MTC50", 109},
-};
-
-constexpr EntreeLoi LesLoisSpeciales[] = {
-    {"MSH", 110},        {"MSHC20", 111},   {"MSHC33", 112},       {"MSHC50", 113},
-    {"MSHDissyme", 114}, {"Liquides", 115}, {"AvanceRapide", 116}, {"Hesser", 117},
-};
+// Keys of the law entries; each does what the picture of its law does.
+constexpr const char* LesLoisUsuelles[] = {"MS",    "MSC15",   "MSC20",      "MSC25",    "MSC33", "MSC50", "MSC66",
+                                           "MSC80", "MSPerso", "Harmonique", "Cycloide", "MT",    "MTC50"};
+constexpr const char* LesLoisSpeciales[] = {"MSH",        "MSHC20",   "MSHC33",       "MSHC50",
+                                            "MSHDissyme", "Liquides", "AvanceRapide", "Hesser"};
 
 const ChoixEtude& ChoixDeLImage(const char* image) {
     for (const ChoixEtude& choix : LesChoixEtude())
@@ -65,11 +56,6 @@ QAction* AjouteAction(QMenu& menu, const char* nom, const QString& texte) {
     QAction* action = menu.addAction(texte);
     action->setObjectName(QString::fromLatin1(nom));
     return action;
-}
-
-void AjouteLois(QMenu& menu, std::span<const EntreeLoi> lois) {
-    // The law screens are not built.
-    for (const EntreeLoi& loi : lois) AjouteAction(menu, loi.cle, QTexte(loi.texte))->setEnabled(false);
 }
 
 } // namespace
@@ -99,8 +85,8 @@ std::span<const MdiCamA::EntreeMenu> MdiCamA::LeMenu() {
         {"FicImprimerImprimer", 1, 56, 88, E::Commande, &MdiCamA::Imprimer, "Ctrl+P", true},
         {"FicImprimerSauveImpre", 1, 57, 0, E::Commande, &MdiCamA::SauveConfiguration},
         {"FichierClasiques", 0, 58, 0, E::Menu, nullptr},
-        {"FichierClasiquesLoisStad", 1, 59, 89, E::Commande, nullptr},
-        {"FichierClasiquesLoisSpe", 1, 60, 90, E::Commande, nullptr},
+        {"FichierClasiquesLoisStad", 1, 59, 89, E::Commande, &MdiCamA::MontreLoisUsuelles},
+        {"FichierClasiquesLoisSpe", 1, 60, 90, E::Commande, &MdiCamA::MontreLoisSpeciales},
         {"FichierClasiquesInerties", 1, 61, 83, E::Commande, nullptr},
         {"FichierGenerateurs", 0, 62, 0, E::Menu, nullptr},
         {"FichierGenerateursCroixMalte", 1, 63, 0, E::Commande, nullptr},
@@ -205,6 +191,14 @@ void MdiCamA::AjouteOuvertures(QMenu& menu) {
         QAction* action = AjouteAction(menu, entree.cle, QTexte(type->titre));
         action->setEnabled(type->Disponible());
         connect(action, &QAction::triggered, this, [this, type] { OuvreParType(type); });
+    }
+}
+
+void MdiCamA::AjouteLois(QMenu& menu, std::span<const char* const> cles) {
+    for (const char* cle : cles) {
+        const ChoixLoi* choix = TrouveChoixLoi(cle);
+        QAction* action = AjouteAction(menu, cle, QTexte(choix->texte));
+        connect(action, &QAction::triggered, this, [this, choix] { EtudieLoi(*choix); });
     }
 }
 

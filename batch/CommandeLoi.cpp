@@ -3,6 +3,7 @@
 #include "batch/JsonEtude.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
+#include "laws/LoiMSH.h"
 
 #include <charconv>
 #include <ostream>

@@ -2,6 +2,7 @@
 
 #include "batch/CommandeEtude.h"
 #include "batch/CommandeLoi.h"
+#include "batch/CommandeLoiSpeciale.h"
 #include "core/FichierEntier.h"
 #include "data/Configuration.h"
 #include "data/Demarrage.h"
@@ -24,11 +25,13 @@ struct CommandeBatch {
 constexpr CommandeBatch commandes[] = {
     {"etude", "etude FILE...", "calculates study files, one JSON object a line", CommandeEtude},
     {"loi", "loi NAME --points N", "the unit table of a law, as a JSON object", CommandeLoi},
+    {"loi-speciale", "loi-speciale KIND DATA.json...",
+     "the study of a special law: hesser, avance-rapide, liquides or msh-dissymetrique", CommandeLoiSpeciale},
 };
 
 void EcritAide(std::ostream& sortie) {
     const auto ligne = [&](const std::string& usage, const char* sens) {
-        sortie << "  " << std::left << std::setw(24) << usage << sens << "\n";
+        sortie << "  " << std::left << std::setw(32) << usage << sens << "\n";
     };
     sortie << "velorin-batch: the calculations of Velorin without its screens\n\nCommands\n";
     for (const auto& commande : commandes) ligne(commande.usage, commande.sens);

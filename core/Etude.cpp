@@ -8,6 +8,7 @@ void VideEtude() {
     Etude ancienne = std::exchange(etude, Etude{});
     etude.ListeLois = std::move(ancienne.ListeLois);
     etude.NombreLois = ancienne.NombreLois;
+    etude.LoiChoisie = std::move(ancienne.LoiChoisie);
     etude.LoiUnite = std::move(ancienne.LoiUnite);
     etude.LoiCourseMax = ancienne.LoiCourseMax;
     etude.LoiVitesseMax = ancienne.LoiVitesseMax;

@@ -123,6 +123,19 @@ struct Etude {
     Loi LoiEtude;           ///< the row that a law study works on
     std::string LoiChoisie; ///< key of the law picked in a chooser
 
+    // Inputs of a law study.
+    double AngleIndexage = 0;               ///< cam angle of the motion, degrees
+    double AngleAvanceRapide = 0;           ///< its part in fast advance
+    double AngleMontee = 0;                 ///< cam angle of the rise, degrees
+    double AngleDescente = 0;               ///< cam angle of the return, degrees
+    double ValeurDepart = 0, ValeurFin = 0; ///< of the output, mm or degrees
+    double SortieAvanceRapide = 0;          ///< output reached in fast advance, mm or degrees
+    double VitesseEntree = 0;               ///< Tr/min
+    double SymetrieLoi = 0.5;               ///< 0 to 1; 0.5 is symmetric
+    double PourcentageLoi = 0;              ///< share at constant speed of a custom law, %
+    double ExcentriciteLiq = 0;             ///< coefficient A of the first rise of the law for liquids
+    Booleen16 SortieEnDegres = Faux;        ///< the output is an angle
+
     double RayonMax = 0, RayonMin = 0; ///< mm
     double VitesseRayonMax = 0, AccelRayonMax = 0;
     std::int16_t VitesseRayonMaxAngle = 0, AccelRayonMaxAngle = 0;
@@ -144,6 +157,10 @@ struct Etude {
     Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
     double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
     std::string TypeLoi; ///< law screen in use: "LoiMouv", "LoiHesser", "LoiLiquide", "LoiSpecial", "LoiMSHDis"
+
+    // Which law screen is open: the print command goes to it.
+    Booleen16 LoiMouvActive = Faux, LoisLiqActive = Faux, LoiSpeActive = Faux, LoiMSHDisActive = Faux,
+              LoiHesActive = Faux;
 };
 
 /// The one study of the running process.
@@ -155,5 +172,5 @@ inline bool SansErreur() {
 }
 
 /// Empties the study record for another study. What lives as long as the program stays: the catalogue of laws as it is
-/// by now, the last unit law, and the maxima that go on growing from one calculation to the next.
+/// by now, the law last chosen, the last unit law, and the maxima that go on growing from one calculation to the next.
 void VideEtude();

@@ -13,4 +13,6 @@ enum NumeroUnite {
     UniteRadS = 29,
     UniteRadS2 = 30,
     UniteKgM2 = 31,
+    UniteSecondes = 34,
+    UnitePourcent = 36,
 };

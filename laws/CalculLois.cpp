@@ -67,12 +67,12 @@ double PourcentageLoiSpe(const std::string& nomLoi) {
 
 } // namespace
 
-void ChargeLois() {
+Tableau<Loi> LitLois() {
     JeuEnregistrements lois = LaBase.OuvreTable("Lois");
-    etude.NombreLois = Entier16(static_cast<double>(lois.NombreEnregistrements()));
-    etude.ListeLois.Redimensionne(etude.NombreLois);
+    Tableau<Loi> liste;
+    liste.Redimensionne(Entier16(static_cast<double>(lois.NombreEnregistrements())));
     for (long i = 1; !lois.FinFichier(); lois.VaAuSuivant(), ++i) {
-        Loi& loi = etude.ListeLois[i];
+        Loi& loi = liste[i];
         loi.NomLoi = EnTexte(lois.Champ("NomLoi"));
         loi.Ca = EnNombre(lois.Champ("Ca"));
         loi.Cv = EnNombre(lois.Champ("Cv"));
@@ -82,6 +82,12 @@ void ChargeLois() {
         loi.CoefD = EnNombre(lois.Champ("CoefD"));
         loi.CoefS = EnNombre(lois.Champ("CoefS"));
     }
+    return liste;
+}
+
+void ChargeLois() {
+    etude.ListeLois = LitLois();
+    etude.NombreLois = Entier16(static_cast<double>(etude.ListeLois.BorneHaute()));
 }
 
 bool EstLoiSpe(const std::string& nomLoi) {
@@ -116,7 +122,10 @@ void CalculeCoefs(Loi& loi, double pourcentage) {
 }
 
 void PrepareLoi(std::int16_t numeroLoi) {
-    Loi& loi = etude.ListeLois[numeroLoi];
+    PrepareLoi(etude.ListeLois[numeroLoi]);
+}
+
+void PrepareLoi(Loi& loi) {
     loi.SegA = loi.CoefA;
     loi.SegB = loi.CoefB;
     loi.SegC = loi.CoefC;
@@ -199,59 +208,18 @@ void AppliqueLoi(std::int16_t numeroZone) {
         etude.Erreur = Faux;
         for (numeroLoi = 1; etude.ListeLois[numeroLoi].NomLoi != zone.NomLoi;) ++numeroLoi;
     }
-    CoefSym = zone.CoefSymetrie;
+    RemplitTable(etude.ListeLois[numeroLoi], zone.CoefSymetrie, zone.AngleCame, etude.LoiUnite);
+}
+
+void RemplitTable(Loi& loi, double symetrie, double n, Tableau<PointLoi>& table) {
+    CoefSym = symetrie;
     CoefSymCompl = 1.0 - CoefSym;
-    const double n = zone.AngleCame;
-    etude.LoiUnite.Redimensionne(Entier16(n));
-    PrepareLoi(numeroLoi);
-    auto ligne = etude.LoiUnite.begin();
+    table.Redimensionne(Entier16(n));
+    PrepareLoi(loi);
+    auto ligne = table.begin();
     for (long i = 0; static_cast<double>(i) <= n; ++i, ++ligne) {
         double x = Divise(static_cast<double>(i), n);
         EvalueLoiSymetrie(x);
         *ligne = {LoiCourse, LoiVitesse, LoiAccel};
-    }
-}
-
-void PrepareLoiMSH(const Loi& ligne) {
-    etude.LoiEtude = ligne;
-    etude.LoiEtude.CoefB = ligne.CoefC;
-    etude.LoiEtude.CoefC = 2.0 * ligne.CoefD;
-    etude.LoiEtude.CoefS = 0.5;
-}
-
-void CalculeLoiMSH() {
-    const Loi& loi = etude.LoiEtude;
-    const double A = loi.CoefA, B = loi.CoefB, C = loi.CoefC, Ca = loi.Ca;
-    const double E = 2.0 - (A + B + C);
-    const double b1 = A / 2.0, b2 = (B + A) / 2.0, b3 = (B + A + C) / 2.0;
-    const long n = etude.NombrePoints;
-    etude.LoiUnite.Redimensionne(n);
-    long j = -1;
-    for (long i = 0; i <= n / 2; ++i) {
-        const double x = Divise(2.0 * static_cast<double>(i), static_cast<double>(n));
-        PointLoi p;
-        ++j;
-        if (A != 0.0 && x <= b1) {
-            const double angle = x * Pi / A;
-            p.Course = Ca * (A / Pi) * (x - (A / Pi) * std::sin((Pi / A) * x));
-            p.Vitesse = Ca * (A / Pi) * (1.0 - std::cos(angle));
-            p.Accel = Ca * std::sin(angle);
-        } else if (B != 0.0 && x <= b2) {
-            const double u = (Pi / B) * (x - A / 2.0);
-            p.Course = (Ca / Pi) * (A * x - A * A / Pi + (B * B / Pi) * (1.0 - std::cos(u)));
-            p.Vitesse = (Ca / Pi) * (std::sin(u) * B + A);
-            p.Accel = Ca * std::cos(u);
-        } else if (C != 0.0 && x <= b3) {
-            p.Course = (Ca / Pi) * ((B + A) * x - (B + A) * B / 2.0 - (A * A - B * B) / Pi);
-            p.Vitesse = Ca * (B + A) / Pi;
-            p.Accel = 0.0;
-        } else {
-            const double t = Divise(Pi, E) * (x - b3);
-            p.Course = 1.0 - Ca * (E / Pi) * (E / Pi) * (1.0 - std::sin(t));
-            p.Vitesse = (Ca * E / Pi) * std::cos(t);
-            p.Accel = -Ca * std::sin(t);
-        }
-        etude.LoiUnite[j] = p;
-        etude.LoiUnite[n - j] = {p.Course, -p.Vitesse, p.Accel};
     }
 }

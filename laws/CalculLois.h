@@ -7,6 +7,10 @@
 
 #include "core/Etude.h"
 
+/// The rows of the table `Lois`, from 1, in the order of the table.
+/// @throws ErreurExecution unreadable database.
+Tableau<Loi> LitLois();
+
 /// Fills `ListeLois` and `NombreLois` of the study record from the table `Lois`, in the order of the table.
 /// @throws ErreurExecution unreadable database.
 void ChargeLois();
@@ -32,9 +36,15 @@ std::vector<std::string> NomsLoisZones();
 /// @param pourcentage of the interval at constant speed, 0 to less than 100
 void CalculeCoefs(Loi& loi, double pourcentage);
 
-/// Fills the working fields of a row of `ListeLois`: the copies of its shares and the constants K1 to K7, which make s
-/// and v continuous from one segment to the next.
+/// Evaluates any row into a table of subscripts 0..n, as `AppliqueLoi` does.
+/// @param n steps; @param symetrie 0..1
+/// @throws ErreurExecution division by zero for no step, or a symmetry coefficient of 0; overflow.
+void RemplitTable(Loi& loi, double symetrie, double n, Tableau<PointLoi>& table);
+
+/// Fills the working fields of a row, or of a row of `ListeLois`: the copies of its shares and the constants K1 to K7,
+/// which make s and v continuous from one segment to the next.
 void PrepareLoi(std::int16_t numeroLoi);
+void PrepareLoi(Loi& loi);
 
 /// The law at x, stretched over the zone's symmetry coefficient. `x` is overwritten with the re-mapped value.
 void EvalueLoiSymetrie(double& x);
@@ -45,11 +55,3 @@ void EvalueLoi(double& x);
 /// Results of the last point evaluated, and the symmetry coefficient in use with its complement.
 extern double LoiCourse, LoiVitesse, LoiAccel;
 extern double CoefSym, CoefSymCompl;
-
-/// The rise-and-return law without dwell: rise over the first half of the points, its mirror image over the second.
-/// Reads `LoiEtude` (whose shares `PrepareLoiMSH` has arranged) and `NombrePoints`, fills `LoiUnite`. Speed and
-/// acceleration are per unit of the rise's share of the angle.
-void CalculeLoiMSH();
-
-/// Arranges the shares of a catalogue row of the MSH family in `LoiEtude` the way `CalculeLoiMSH` reads them.
-void PrepareLoiMSH(const Loi& ligne);

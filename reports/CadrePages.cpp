@@ -96,6 +96,10 @@ void ImprimePiedDePage(int numeroPage) {
 }
 
 void DebutPageCames(const std::string& titre) {
+    DebutPage(etude.NomFichier, titre);
+}
+
+void DebutPage(const std::string& nom, const std::string& titre) {
     constexpr int marge = 30;
     Imprimante& imprimante = ImprimanteEnCours();
     ImprimeLigneCames({});
@@ -105,10 +109,10 @@ void DebutPageCames(const std::string& titre) {
     // A long name moves to the left, and is cut when even so it does not fit before the date.
     const int place =
         static_cast<int>(Int(imprimante.Largeur() / imprimante.LargeurTexte("0"))) - 5 - NombreCaracteres(date);
-    const std::string nom = NomCoupe(etude.NomFichier, place);
-    imprimante.Ecrit(Espaces(std::min(marge, place - NombreCaracteres(nom))));
+    const std::string nomCoupe = NomCoupe(nom, place);
+    imprimante.Ecrit(Espaces(std::min(marge, place - NombreCaracteres(nomCoupe))));
     imprimante.Souligne(true);
-    imprimante.Ecrit(nom);
+    imprimante.Ecrit(nomCoupe);
     imprimante.Souligne(false);
     imprimante.Gras(false);
     imprimante.Ecrit(Espaces(5));

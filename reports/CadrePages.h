@@ -44,7 +44,9 @@ Imprimante& ImprimanteEnCours();
 /// Prints one line. The 65th line of a page is followed by the foot line, turns the page and repeats the heading.
 void ImprimeLigneCames(const std::string& texte, bool gras = false);
 
-/// Prints the page heading: the study's name, the date of the day, and `titre`.
+/// Prints the page heading: the name of what is reported, the date of the day, and `titre`. The reports of the cams
+/// bear the study's name.
+void DebutPage(const std::string& nom, const std::string& titre);
 void DebutPageCames(const std::string& titre);
 
 /// A line of a report that is a list of lines.

@@ -2,6 +2,7 @@
 
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "reports/Graduations.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,15 +29,8 @@ double AngleTotal() {
     return etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
 }
 
-/// Degrees between graduations: a round number that leaves some twelve of them.
-double PasGraduation(double total) {
-    for (const double pas : {5.0, 10.0, 15.0, 30.0, 45.0, 60.0, 90.0, 180.0})
-        if (total / pas <= 13.0) return pas;
-    return 360.0;
-}
-
 void DessineAxeHorizontal(Dessin& dessin, const Cadre& c) {
-    const double total = AngleTotal(), pas = PasGraduation(total);
+    const double total = AngleTotal(), pas = PasGraduationAngle(total, 13);
     for (double angle = 0; angle <= total + 1e-9; angle += pas) {
         const double x = c.gauche + (c.droite - c.gauche) * angle / total;
         dessin.Ligne({x, c.haut}, {x, c.bas}, {Couleur::Graduation, 1.0});

@@ -4,6 +4,7 @@
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "reports/CadrePages.h"
+#include "reports/Graduations.h"
 #include "studies/Graphique.h"
 #include "studies/RapportsCames.h"
 
@@ -34,16 +35,9 @@ struct Etiquette {
     const char* unite;
 };
 
-/// Degrees between graduations: a round number that leaves at most `nombre` of them.
-double PasGraduation(double etendue, double nombre) {
-    for (const double pas : {1.0, 2.0, 5.0, 10.0, 15.0, 30.0, 45.0, 60.0, 90.0, 180.0})
-        if (etendue / pas <= nombre) return pas;
-    return 360.0;
-}
-
 void DessineAxeAngles(Dessin& dessin) {
     const double total = etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
-    const double pas = PasGraduation(total, 13);
+    const double pas = PasGraduationAngle(total, 13);
     for (double angle = 0; angle <= total + 1e-9; angle += pas) {
         const double x = OrigineX + LargeurBoite * angle / total;
         dessin.Ligne({x, Haut}, {x, Bas}, traitGrille);
@@ -69,7 +63,7 @@ void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquett
     const std::string unite = degres ? " " + Texte(UniteDegres) : etiquette.unite;
     DessineEtiquette(dessin, OrigineY, "0", {});
     if (maximum <= 0) return;
-    const double pas = degres ? std::min(PasGraduation(maximum, 3), maximum) : maximum / 2;
+    const double pas = degres ? std::min(PasGraduationAngle(maximum, 3), maximum) : maximum / 2;
     for (double valeur = pas; valeur <= maximum * (1 + 1e-9); valeur += pas) {
         const double ecart = HauteurBoite / 2 * valeur / maximum;
         DessineEtiquette(dessin, OrigineY - ecart, Format(valeur, etiquette.masque), unite);

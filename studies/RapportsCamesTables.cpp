@@ -1,26 +1,16 @@
-// The point-to-point tables. They are laid out by counting characters: a unit stands below the right end of its
-// column. A value too long for its column widens it, heading and all, so that no digit and no sign is ever cut.
+// The point-to-point tables. Their units are the same in every language.
 #include "core/Etude.h"
 #include "data/Textes.h"
-#include "reports/CadrePages.h"
+#include "reports/TableRapport.h"
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace {
 
 constexpr const char* MasqueMouvement = "###.00";
-
-struct ColonneRapport {
-    int titre;                    ///< text number
-    const char* unite;            ///< as it stands on the page, the same in every language
-    double (*valeur)(long point); ///< none for a column that has only its heading
-    const char* masque;
-    int largeur; ///< characters, the blank before the value included
-};
 
 struct TableRapport {
     std::string_view type; ///< `TypeCame`
@@ -79,7 +69,6 @@ constexpr TableRapport tablesMouvement[] = {
     {"Cylindrique", colonnesCylindrique},
     {"Oscillation", colonnesOscillation},
 };
-constexpr TableRapport tableForces{"", colonnesForces};
 
 const TableRapport& TableMouvement() {
     const auto table = std::find_if(std::begin(tablesMouvement), std::end(tablesMouvement),
@@ -88,84 +77,26 @@ const TableRapport& TableMouvement() {
     return *table;
 }
 
-/// Blanks that keep a column apart from the one before it.
-int Blancs(std::size_t colonne) {
-    return colonne == 0 ? 0 : 1;
-}
-
-/// A column's own width, or that of its longest value behind so many blanks; only its extremes can be the longest.
-int LargeurColonne(const ColonneRapport& colonne, int blancs) {
-    if (colonne.valeur == nullptr) return colonne.largeur;
-    double mini = 0, maxi = 0;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        mini = std::min(mini, colonne.valeur(i));
-        maxi = std::max(maxi, colonne.valeur(i));
-    }
-    const auto largeur = [&](double valeur) { return NombreCaracteres(Format(valeur, colonne.masque)) + blancs; };
-    return std::max({colonne.largeur, largeur(mini), largeur(maxi)});
-}
-
-std::vector<int> LargeursColonnes(const TableRapport& table) {
-    std::vector<int> largeurs;
-    for (const ColonneRapport& colonne : table.colonnes)
-        largeurs.push_back(LargeurColonne(colonne, Blancs(largeurs.size())));
-    return largeurs;
-}
-
-void ImprimeEnTete(const TableRapport& table) {
-    const std::vector<int> largeurs = LargeursColonnes(table);
-    std::string titres, unites;
-    for (std::size_t c = 0; c < table.colonnes.size(); ++c) {
-        const int place = largeurs[c] - Blancs(c);
-        titres += CadreADroite(DebutTexte(Texte(table.colonnes[c].titre), place), largeurs[c]);
-        unites += CadreADroite(table.colonnes[c].unite, largeurs[c]);
-    }
-    ImprimeLigneCames(titres, true);
-    ImprimeLigneCames(unites, true);
-    ImprimeLigneCames({});
-}
-
-void ImprimeLigneTable(const TableRapport& table, const std::vector<int>& largeurs, long point) {
-    std::string ligne;
-    for (std::size_t c = 0; c < table.colonnes.size(); ++c) {
-        const ColonneRapport& colonne = table.colonnes[c];
-        if (colonne.valeur != nullptr)
-            ligne += CadreADroite(Format(colonne.valeur(point), colonne.masque), largeurs[c]);
-    }
-    ImprimeLigneCames(ligne);
-}
-
-void ImprimeTable(const TableRapport& table, EnTete enTete, int titre) {
-    impression.TypeEnTete = enTete;
-    impression.NumeroLigne = 0;
-    impression.NumeroPage = 0;
-    DebutPageCames(Texte(titre));
-    ImprimeLigneCames({});
-    ImprimeLigneCames({});
-    // Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
-    impression.NombrePages = Entier16(Int((etude.NombrePoints + 8) / 61.0));
-    ImprimeEnTete(table);
-    const std::vector<int> largeurs = LargeursColonnes(table);
-    for (long i = 0; i <= etude.NombrePoints; ++i) ImprimeLigneTable(table, largeurs, i);
-    impression.TypeEnTete = SansEnTete;
-    ImprimePiedDePage(Entier16(impression.NumeroPage + 1));
-    ImprimanteEnCours().NouvellePage();
+/// Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
+std::int16_t PagesAnnoncees() {
+    return Entier16(Int((etude.NombrePoints + 8) / 61.0));
 }
 
 } // namespace
 
 void EnTeteMouvement() {
-    ImprimeEnTete(TableMouvement());
+    ImprimeEnTete(TableMouvement().colonnes);
 }
 
 void EnTeteForces() {
-    ImprimeEnTete(tableForces);
+    ImprimeEnTete(colonnesForces);
 }
 
 void ImprimePointsMouvement() {
-    ImprimeTable(TableMouvement(), EnTeteDuMouvement, TitrePointsMouvement);
+    ImprimeTable(TableMouvement().colonnes, EnTeteDuMouvement, etude.NomFichier, Texte(TitrePointsMouvement),
+                 PagesAnnoncees());
 }
 
 void ImprimePointsForces() {
-    ImprimeTable(tableForces, EnTeteDesForces, TitrePointsForces);
+    ImprimeTable(colonnesForces, EnTeteDesForces, etude.NomFichier, Texte(TitrePointsForces), PagesAnnoncees());
 }

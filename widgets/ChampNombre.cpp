@@ -58,8 +58,11 @@ public:
         const QString avant = nettoie(texte.left(curseur));
         texte = avant + nettoie(texte.mid(curseur));
         curseur = static_cast<int>(avant.size());
+        if (sansSigne && texte.startsWith('-')) return Invalid;
         return debutNombre.match(texte).hasMatch() && TientDansUnDouble(texte) ? Acceptable : Invalid;
     }
+
+    bool sansSigne = false;
 };
 
 } // namespace
@@ -78,6 +81,13 @@ double ChampNombre::Valeur() const {
 void ChampNombre::Montre(double valeur) {
     setText(Q(StrTrim(valeur)));
     setCursorPosition(0);
+}
+
+void ChampNombre::RefuseSigne(bool refuse) {
+    auto* sansSigne = new ValidateurNombre(this);
+    sansSigne->sansSigne = refuse;
+    delete validator();
+    setValidator(sansSigne);
 }
 
 void ChampNombre::PrendLargeur() {

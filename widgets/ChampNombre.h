@@ -17,6 +17,9 @@ public:
     /// Shows a number with its shortest digits.
     void Montre(double valeur);
 
+    /// Whether a minus in front of the number is kept from being typed; otherwise it may be.
+    void RefuseSigne(bool refuse);
+
 signals:
     void Suivant(); ///< Return was pressed
 

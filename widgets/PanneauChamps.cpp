@@ -15,6 +15,7 @@ ChampNombre* AjouteLigneChamp(QGridLayout& grille, int ligne, const char* contro
     etiquette->setObjectName(QStringLiteral("Etiquette") + champ->objectName());
     etiquette->setBuddy(champ);
     auto* grandeur = new QLabel(unite == 0 ? QString() : QTexte(unite));
+    grandeur->setObjectName(QStringLiteral("Unite") + champ->objectName());
     grandeur->setForegroundRole(QPalette::PlaceholderText);
     grille.addWidget(etiquette, ligne, 0);
     grille.addWidget(champ, ligne, 1, Qt::AlignRight | Qt::AlignVCenter);

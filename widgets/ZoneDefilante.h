@@ -12,5 +12,10 @@ public:
         setFocusPolicy(Qt::NoFocus);
     }
 
-    QSize sizeHint() const override { return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()); }
+    QSize sizeHint() const override {
+        // Before it is shown, a sheet does not hear of what changed in the boxes that it holds.
+        if (!isVisible())
+            for (QWidget* enfant : widget()->findChildren<QWidget*>()) enfant->updateGeometry();
+        return widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+    }
 };

@@ -1,5 +1,7 @@
 #include "laws/CalculLois.h"
 
+#include "laws/LoiMSH.h"
+
 #include "outils/Catalogue.h"
 
 #include <cmath>

@@ -1,0 +1,390 @@
+#include "laws/EtudesLois.h"
+
+#include "data/Textes.h"
+#include "data/Unites.h"
+#include "laws/CalculLois.h"
+#include "laws/LoiMSH.h"
+#include "laws/LoisSpeciales.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int TexteDonneesIncompletes = 69;
+
+constexpr const char* MasqueCoefficient = "##.####";
+constexpr const char* MasqueValeur = "0.000";
+constexpr const char* MasqueDuree = "0.0000";
+
+bool SansMSH() {
+    return !LoiChoisieMSH();
+}
+
+// What the tables of inputs and results have in common.
+constexpr ChampLoi ChampVitesse(const char* controle) {
+    return {controle, "VitesseEntree", 327, 0, Grandeur::Tours, &Etude::VitesseEntree};
+}
+constexpr ChampLoi champAngle{"Text1", "AngleIndexage", 270, 0, Grandeur::AngleEntree, &Etude::AngleIndexage};
+constexpr ChampLoi champSortie{"Text2", "AngleSortie", 364, 365, Grandeur::Sortie, &Etude::ValeurFin};
+
+constexpr ValeurLoi coefAccel{"CoefAccel", 320, Grandeur::Nombre, &ResultatLoi::CoefAccel, MasqueCoefficient};
+constexpr ValeurLoi coefVitesse{"CoefVitesse", 321, Grandeur::Nombre, &ResultatLoi::CoefVitesse, MasqueCoefficient};
+constexpr ValeurLoi vitesseMaxi{"VitesseMaxi", 332, Grandeur::Vitesse, &ResultatLoi::VitesseMaxi, MasqueValeur};
+constexpr ValeurLoi accelMaxi{"AccelerationMaxi", 333, Grandeur::Accel, &ResultatLoi::AccelerationMaxi, MasqueValeur};
+constexpr ValeurLoi duree{"Duree", 334, Grandeur::Duree, &ResultatLoi::Duree, MasqueDuree};
+
+constexpr double Etude::*angleEntier[] = {&Etude::AngleIndexage};
+
+FauteLoi DonneesIncompletes(double Etude::*membre) {
+    return {Texte(TexteDonneesIncompletes), membre};
+}
+
+/// `LoiUnite` from a law of x, 0..1, over the points.
+template <class Evalue> void RemplitLoiUnite(const Evalue& evalue) {
+    const long n = etude.NombrePoints;
+    etude.LoiUnite.Redimensionne(n);
+    for (long i = 0; i <= n; ++i) etude.LoiUnite[i] = evalue(static_cast<double>(i) / static_cast<double>(n));
+}
+
+// ---- laws of the catalogue
+
+constexpr ChampLoi champsMouv[] = {
+    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &Etude::SymetrieLoi, false, SansMSH},
+    {"Text1", "AngleIndexage", 324, 0, Grandeur::AngleEntree, &Etude::AngleIndexage},
+    {"Text2", "ValeurDepart", 325, 0, Grandeur::Sortie, &Etude::ValeurDepart, true},
+    {"Text3", "ValeurFin", 326, 0, Grandeur::Sortie, &Etude::ValeurFin, true},
+    ChampVitesse("Text4"),
+    {"Text5", "Pourcentage", 73, 0, Grandeur::Pourcentage, &Etude::PourcentageLoi, false, LoiChoisieSpe},
+};
+constexpr ValeurLoi valeursMouv[] = {
+    {"CoefA", 568, Grandeur::Nombre, &ResultatLoi::CoefA, MasqueCoefficient},
+    {"CoefB", 569, Grandeur::Nombre, &ResultatLoi::CoefB, MasqueCoefficient},
+    {"CoefC", 570, Grandeur::Nombre, &ResultatLoi::CoefC, MasqueCoefficient},
+    {"CoefD", 331, Grandeur::Nombre, &ResultatLoi::CoefD, MasqueCoefficient},
+    coefAccel,
+    coefVitesse,
+    vitesseMaxi,
+    accelMaxi,
+    duree,
+};
+
+/// The law chosen: the custom one from its percentage, any other as the catalogue has it by now.
+Loi LigneChoisie() {
+    if (!LoiChoisieSpe()) return etude.ListeLois[ChercheLoi(etude.LoiChoisie)];
+    Loi loi;
+    loi.NomLoi = etude.LoiChoisie + "_" + StrTrim(etude.PourcentageLoi);
+    CalculeCoefs(loi, etude.PourcentageLoi);
+    return loi;
+}
+
+std::optional<FauteLoi> ChercheFauteMouv() {
+    // A law file that was read leaves no other law in the catalogue.
+    if (!LoiChoisieSpe() && ChercheLoi(etude.LoiChoisie) == 0)
+        return FauteLoi{Texte(521) + " " + etude.LoiChoisie + " " + Texte(103), &Etude::AngleIndexage};
+    const double S = etude.SymetrieLoi;
+    if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &Etude::SymetrieLoi};
+    if (etude.ValeurDepart <= 0.0 && etude.ValeurFin <= 0.0)
+        return FauteLoi{Texte(101) + " " + Texte(102), &Etude::ValeurDepart};
+    const double pourcentage = LoiChoisieSpe() ? etude.PourcentageLoi : 1.0;
+    if (etude.VitesseEntree * etude.AngleIndexage * pourcentage == 0.0 || pourcentage >= 100.0)
+        return DonneesIncompletes(&Etude::AngleIndexage);
+    if (S == 0.0 && !LoiChoisieMSH()) return FauteLoi{Texte(197), &Etude::SymetrieLoi}; // the rise would take no time
+    return {};
+}
+
+/// The row is studied in `LoiEtude`, so that the percentage is taken whole and no row of the catalogue changes.
+void RemplitMouv(ResultatLoi& resultat) {
+    const Loi ligne = LigneChoisie();
+    Loi& loi = etude.LoiEtude;
+    loi = ligne;
+    resultat.CoefA = loi.CoefA;
+    resultat.CoefB = loi.CoefB;
+    resultat.CoefC = loi.CoefC;
+    resultat.CoefD = loi.CoefD;
+
+    etude.NombreZones = 1;
+    etude.Zones.Redimensionne(1);
+    Zone& zone = etude.Zones[1];
+    zone.NomLoi = loi.NomLoi;
+    zone.CoefSymetrie = etude.SymetrieLoi;
+    zone.AngleCame = etude.NombrePoints;
+    zone.Temps = static_cast<double>(etude.NombrePoints) / etude.PointsParDegre / 6.0 / etude.VitesseEntree;
+    resultat.Duree = zone.Temps;
+    if (LoiChoisieMSH()) {
+        // Speed and acceleration are per unit of the rise's share of the angle, and are scaled as if they were per unit
+        // of the whole: kept on purpose.
+        PrepareLoiMSH(ligne);
+        CalculeLoiMSH();
+        zone.CoefSymetrie = 0.5;
+    } else {
+        RemplitTable(loi, zone.CoefSymetrie, zone.AngleCame, etude.LoiUnite);
+    }
+    const double S = zone.CoefSymetrie;
+    resultat.CoefAccel = S == 0.5 ? loi.Ca : loi.Ca * 0.5 / S;
+    resultat.CoefVitesse = S == 0.5 ? loi.Cv : loi.Cv * 0.5 / S;
+}
+
+// ---- Hesser
+
+constexpr ChampLoi champsHesser[] = {champAngle, champSortie, ChampVitesse("Text3")};
+constexpr ValeurLoi valeursHesser[] = {
+    coefAccel,   coefVitesse, {"CoefFixe", 366, Grandeur::Nombre, &ResultatLoi::CoefFixe, MasqueCoefficient},
+    vitesseMaxi, accelMaxi,   duree,
+};
+
+std::optional<FauteLoi> ChercheFauteHesser() {
+    if (etude.AngleIndexage * etude.ValeurFin * etude.VitesseEntree == 0.0)
+        return DonneesIncompletes(&Etude::AngleIndexage);
+    return {};
+}
+
+void RemplitHesser(ResultatLoi& resultat) {
+    RemplitLoiUnite(EvalueHesser);
+    resultat.CoefAccel = HesserCa;
+    resultat.CoefVitesse = HesserCv;
+    resultat.CoefFixe = HesserCoefFixe;
+}
+
+// ---- fast advance, slow approach
+
+constexpr ChampLoi champsRapide[] = {
+    {"Text1", "AngleTotal", 367, 0, Grandeur::AngleEntree, &Etude::AngleIndexage},
+    {"Text2", "AngleAvanceRapide", 368, 0, Grandeur::AngleEntree, &Etude::AngleAvanceRapide},
+    {"Text3", "SortieTotale", 369, 371, Grandeur::Sortie, &Etude::ValeurFin},
+    {"Text4", "SortieAvanceRapide", 370, 372, Grandeur::Sortie, &Etude::SortieAvanceRapide},
+    ChampVitesse("Text5"),
+};
+constexpr ValeurLoi valeursRapide[] = {
+    coefAccel,
+    coefVitesse,
+    {"VitesseRapide", 373, Grandeur::Vitesse, &ResultatLoi::VitesseRapide, MasqueValeur},
+    {"VitesseLente", 374, Grandeur::Vitesse, &ResultatLoi::VitesseLente, MasqueValeur},
+    {"AccelRapide", 375, Grandeur::Accel, &ResultatLoi::AccelRapide, MasqueValeur},
+    {"AccelLente", 376, Grandeur::Accel, &ResultatLoi::AccelLente, MasqueValeur},
+    vitesseMaxi,
+    accelMaxi,
+    duree,
+};
+
+AvanceRapide AvanceDemandee() {
+    return PrepareAvanceRapide(etude.AngleAvanceRapide / etude.AngleIndexage,
+                               etude.SortieAvanceRapide / etude.ValeurFin);
+}
+
+std::optional<FauteLoi> ChercheFauteRapide() {
+    const bool complet = etude.AngleIndexage * etude.AngleAvanceRapide * etude.ValeurFin * etude.SortieAvanceRapide *
+                             etude.VitesseEntree !=
+                         0.0;
+    if (!complet || !(etude.AngleAvanceRapide < etude.AngleIndexage) || !(etude.SortieAvanceRapide < etude.ValeurFin))
+        return DonneesIncompletes(&Etude::AngleIndexage);
+    if (!AvanceDemandee().place) return FauteLoi{"\n" + Texte(622), &Etude::AngleAvanceRapide};
+    return {};
+}
+
+void RemplitRapide(ResultatLoi& resultat) {
+    const AvanceRapide loi = AvanceDemandee();
+    RemplitLoiUnite([&](double x) { return EvalueAvanceRapide(loi, x); });
+    resultat.CoefAccel = std::max({std::abs(loi.A1), std::abs(loi.A2), std::abs(loi.A3)});
+    resultat.CoefVitesse = std::max(loi.V1, loi.V2);
+    resultat.VitesseRapide = loi.V1;
+    resultat.VitesseLente = loi.V2;
+    resultat.AccelRapide = loi.A1;
+    resultat.AccelLente = loi.A2;
+}
+
+// ---- liquids
+
+constexpr ChampLoi champsLiquide[] = {
+    champAngle,
+    champSortie,
+    ChampVitesse("Text3"),
+    {"Text4", "ExcentriciteLiq", 380, 0, Grandeur::Nombre, &Etude::ExcentriciteLiq},
+};
+constexpr ValeurLoi valeursLiquide[] = {
+    coefAccel,   coefVitesse, {"DecelerationMaxi", 381, Grandeur::Accel, &ResultatLoi::DecelerationMaxi, MasqueValeur},
+    vitesseMaxi, accelMaxi,   duree,
+};
+
+std::optional<FauteLoi> ChercheFauteLiquide() {
+    if (etude.AngleIndexage * etude.ValeurFin * etude.VitesseEntree * etude.ExcentriciteLiq == 0.0)
+        return DonneesIncompletes(&Etude::AngleIndexage);
+    // At 0.5 nothing is left for the deceleration.
+    if (!(etude.ExcentriciteLiq < 0.5)) return FauteLoi{Texte(382), &Etude::ExcentriciteLiq};
+    return {};
+}
+
+void RemplitLiquide(ResultatLoi& resultat) {
+    const LoiLiquide loi = PrepareLiquide(etude.ExcentriciteLiq);
+    RemplitLoiUnite([&](double x) { return EvalueLiquide(loi, x); });
+    resultat.CoefAccel = std::max(loi.Ca, loi.Cd);
+    resultat.CoefVitesse = loi.Cv;
+    resultat.DecelerationMaxi = loi.Cd;
+}
+
+// ---- asymmetric rise and return
+
+constexpr ChampLoi champsDissyme[] = {
+    {"Text1", "AngleMontee", 385, 0, Grandeur::AngleEntree, &Etude::AngleMontee},
+    {"Text2", "AngleDescente", 388, 0, Grandeur::AngleEntree, &Etude::AngleDescente},
+    {"Text3", "Course", 250, 0, Grandeur::Sortie, &Etude::ValeurFin},
+    ChampVitesse("Text4"),
+};
+constexpr ValeurLoi valeursDissyme[] = {coefAccel, coefVitesse, vitesseMaxi, accelMaxi, duree};
+constexpr double Etude::*deuxAngles[] = {&Etude::AngleMontee, &Etude::AngleDescente};
+
+std::optional<FauteLoi> ChercheFauteDissyme() {
+    if (etude.AngleMontee * etude.AngleDescente * etude.ValeurFin * etude.VitesseEntree == 0.0)
+        return DonneesIncompletes(&Etude::AngleMontee);
+    if (!PrepareMSHDissyme(etude.AngleDescente / etude.AngleMontee).existe)
+        return FauteLoi{Texte(389), &Etude::AngleDescente};
+    return {};
+}
+
+/// Speed and acceleration of both halves are per unit of the rise's angle, and are scaled by the duration of the whole
+/// motion like those of the other MSH laws: kept on purpose.
+void RemplitDissyme(ResultatLoi& resultat) {
+    const LoiMSHDissyme loi = PrepareMSHDissyme(etude.AngleDescente / etude.AngleMontee);
+    const long n = etude.NombrePoints, sommet = Entier16(etude.AngleMontee * etude.PointsParDegre);
+    etude.LoiUnite.Redimensionne(n);
+    for (long i = 0; i <= sommet; ++i)
+        etude.LoiUnite[i] = EvalueMonteeMSH(loi.montee, static_cast<double>(i) / static_cast<double>(sommet));
+    for (long i = sommet + 1; i <= n; ++i)
+        etude.LoiUnite[i] = EvalueDescente(loi, static_cast<double>(i - sommet) / static_cast<double>(n - sommet));
+    resultat.CoefAccel = loi.montee.Ca;
+    resultat.CoefVitesse = loi.montee.Cv;
+}
+
+// ----
+
+constexpr EtudeLoi etudes[] = {
+    {"LoiMouv", "LoiMouv", nullptr, 89, &Etude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
+     angleEntier, RemplitMouv},
+    {"LoiHes", "LoiHesser", "hesser", 363, &Etude::LoiHesActive, true, champsHesser, valeursHesser, ChercheFauteHesser,
+     angleEntier, RemplitHesser},
+    {"LoiSpe", "LoiSpecial", "avance-rapide", 116, &Etude::LoiSpeActive, true, champsRapide, valeursRapide,
+     ChercheFauteRapide, angleEntier, RemplitRapide},
+    {"LoisLiq", "LoiLiquide", "liquides", 379, &Etude::LoisLiqActive, true, champsLiquide, valeursLiquide,
+     ChercheFauteLiquide, angleEntier, RemplitLiquide},
+    {"LoiMSHDis", "LoiMSHDis", "msh-dissymetrique", 114, &Etude::LoiMSHDisActive, true, champsDissyme, valeursDissyme,
+     ChercheFauteDissyme, deuxAngles, RemplitDissyme},
+};
+
+double AngleTotal(const EtudeLoi& loi) {
+    double total = 0;
+    for (const auto angle : loi.angles) total += etude.*angle;
+    return total;
+}
+
+/// What every study refuses: a sign, and an angle that makes no point or more than a 16-bit subscript reaches.
+std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
+    for (const ChampLoi& champ : loi.champs)
+        if (!champ.signe && etude.*champ.membre < 0.0) return FauteLoi{Texte(196), champ.membre};
+    return {};
+}
+
+std::optional<FauteLoi> ChercheFautePoints(const EtudeLoi& loi) {
+    double points = 0;
+    for (const auto angle : loi.angles) {
+        const double n = Arrondi(etude.*angle * etude.PointsParDegre);
+        if (n < 1.0) return FauteLoi{Texte(794), angle};
+        points += n;
+    }
+    if (points > 32767.0) return FauteLoi{Texte(205), loi.angles.front()};
+    return {};
+}
+
+/// The motion of the output: the unit law over the stroke and the duration.
+void DerouleMouvement(ResultatLoi& resultat) {
+    const double depart = etude.ValeurDepart, course = etude.ValeurFin - depart;
+    const double courseSI = etude.SortieEnDegres ? course * Pi / 180.0 : course / 1000.0; // rad or m
+    const double T = resultat.Duree;
+    const double parVitesse = Divise(courseSI, T), parAccel = Divise(courseSI, T * T);
+    const long n = etude.NombrePoints;
+    etude.Mouvement.Redimensionne(n);
+    etude.Points.Redimensionne(n);
+    resultat.CourseMaxi = depart;
+    for (long i = 0; i <= n; ++i) {
+        const PointLoi& unite = etude.LoiUnite[i];
+        PointLoi& point = etude.Mouvement[i];
+        point = {depart + course * unite.Course, parVitesse * unite.Vitesse, parAccel * unite.Accel};
+        etude.Points[i].Angle = static_cast<double>(i) / etude.PointsParDegre;
+        resultat.CourseMaxi = std::max(resultat.CourseMaxi, point.Course);
+        resultat.VitesseMaxi = std::max(resultat.VitesseMaxi, std::abs(point.Vitesse));
+        resultat.AccelerationMaxi = std::max(resultat.AccelerationMaxi, std::abs(point.Accel));
+    }
+    if (resultat.VitesseMaxi == 0.0) resultat.VitesseMaxi = 1.0;
+    for (const auto vitesse : {&ResultatLoi::VitesseRapide, &ResultatLoi::VitesseLente})
+        resultat.*vitesse *= parVitesse;
+    for (const auto accel : {&ResultatLoi::AccelRapide, &ResultatLoi::AccelLente, &ResultatLoi::DecelerationMaxi})
+        resultat.*accel *= parAccel;
+}
+
+} // namespace
+
+bool LoiChoisieSpe() {
+    return EstLoiSpe(etude.LoiChoisie);
+}
+
+bool LoiChoisieMSH() {
+    return etude.LoiChoisie.starts_with("MSH");
+}
+
+int UniteLoi(Grandeur grandeur) {
+    const bool degres = etude.SortieEnDegres != Faux;
+    switch (grandeur) {
+    case Grandeur::Nombre:
+        return 0;
+    case Grandeur::AngleEntree:
+        return UniteDegres;
+    case Grandeur::Pourcentage:
+        return UnitePourcent;
+    case Grandeur::Tours:
+        return UniteTours;
+    case Grandeur::Duree:
+        return UniteSecondes;
+    case Grandeur::Sortie:
+        return degres ? UniteDegres : UniteMm;
+    case Grandeur::Vitesse:
+        return degres ? UniteRadS : UniteMS;
+    case Grandeur::Accel:
+        return degres ? UniteRadS2 : UniteMS2;
+    }
+    return 0;
+}
+
+std::span<const EtudeLoi> LesEtudesLois() {
+    return etudes;
+}
+
+const EtudeLoi* TrouveEtudeLoi(std::string_view ecran) {
+    const auto loi =
+        std::find_if(std::begin(etudes), std::end(etudes), [&](const EtudeLoi& l) { return ecran == l.ecran; });
+    return loi == std::end(etudes) ? nullptr : loi;
+}
+
+const EtudeLoi* TrouveGenreLoi(std::string_view genre) {
+    const auto loi = std::find_if(std::begin(etudes), std::end(etudes),
+                                  [&](const EtudeLoi& l) { return l.genre != nullptr && genre == l.genre; });
+    return loi == std::end(etudes) ? nullptr : loi;
+}
+
+std::optional<FauteLoi> ChercheFauteLoi(const EtudeLoi& loi) {
+    etude.Erreur = Faux;
+    auto faute = ChercheFauteCommune(loi);
+    if (!faute) faute = loi.chercheFaute();
+    if (!faute) faute = ChercheFautePoints(loi);
+    if (faute) etude.Erreur = Vrai;
+    return faute;
+}
+
+ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi) {
+    double points = 0;
+    for (const auto angle : loi.angles) points += Arrondi(etude.*angle * etude.PointsParDegre);
+    etude.NombrePoints = Entier16(points);
+    ResultatLoi resultat;
+    resultat.Duree = AngleTotal(loi) / 6.0 / etude.VitesseEntree;
+    loi.remplit(resultat);
+    DerouleMouvement(resultat);
+    return resultat;
+}

@@ -1,0 +1,74 @@
+// The screen of a law study: fields, unit of the output, results, graphs, table. Which study it is, is a row of the
+// table of law studies.
+#pragma once
+
+#include "laws/EtudesLois.h"
+#include "laws/RapportLoi.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class ChampNombre;
+class Grille;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+class QTabWidget;
+class ZoneDessin;
+
+class EcranLoi : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Opens on the inputs of the study record.
+    explicit EcranLoi(const EtudeLoi& loi, QWidget* parent = nullptr);
+    ~EcranLoi() override;
+
+    /// Saves the law as a listing or as a law file, as the user answers.
+    void Enregistrer();
+
+    /// What the printout is made from.
+    RapportLoi Rapport() const;
+
+signals:
+    void LoiCalculee();
+    void LoiEnregistree(const QString& fichier); ///< name without folder
+    void ImpressionDemandee();
+    void Quitte();
+
+private:
+    QWidget* FaitDonnees();
+    QWidget* FaitUnites();
+    QWidget* FaitResultats();
+    QWidget* FaitOnglets();
+    QLayout* FaitBoutons();
+    void RelieChamps();
+    void MiseJourUnites();
+    void ChoisitUnites();
+    void LitDonnees();
+    void PerimeResultats();
+    void MontreFaute(const FauteLoi& faute);
+    void Calculer();
+    void MontreResultats();
+    void RemplitGrille();
+    bool Calculee() const;
+    void Retour();
+
+    const EtudeLoi& loi_;
+    ResultatLoi resultat_;
+    Tableau<PointLoi> apercu_; ///< unit law drawn until the study is calculated
+    struct Ligne {
+        const ChampLoi* champ;
+        ChampNombre* zone;
+    };
+    std::vector<Ligne> champs_; ///< the fields that the law asks for
+    std::vector<QLabel*> valeurs_;
+    QComboBox* pointsParDegre_ = nullptr;
+    QRadioButton *option1_ = nullptr, *option2_ = nullptr;
+    Grille* grille_ = nullptr;
+    ZoneDessin* courbes_ = nullptr;
+    QPushButton *calculer_ = nullptr, *enregistrer_ = nullptr, *imprimer_ = nullptr, *retour_ = nullptr;
+};

@@ -1,0 +1,284 @@
+#include "laws/screens/EcranLoi.h"
+
+#include "core/FichierEntier.h"
+#include "data/Textes.h"
+#include "laws/ChoixLois.h"
+#include "laws/FichierLoi.h"
+#include "laws/screens/QuelLoi.h"
+#include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/Ecrans.h"
+#include "planecams/CamesPlates.h"
+#include "widgets/BoutonImage.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Grille.h"
+#include "widgets/ZoneDessin.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class EcransLois : public testing::Test {
+protected:
+    DialoguesScript dialogues_;
+    std::unique_ptr<EcranLoi> ecran_;
+
+    /// Opens a study and types into its fields in their order, from `Text0` or `Text1` on.
+    void Ouvre(const char* nom, const std::vector<const char*>& valeurs, const char* loi = "") {
+        ecran_.reset();
+        VideEtude();
+        etude.LoiChoisie = loi;
+        ecran_ = std::make_unique<EcranLoi>(*TrouveEtudeLoi(nom));
+        ecran_->show();
+        ecran_->activateWindow();
+        LaisseFaire();
+        int champ = ecran_->findChild<QLineEdit*>("Text0") != nullptr ? 0 : 1;
+        for (const char* valeur : valeurs) TapeDans(*ecran_, ("Text" + std::to_string(champ++)).c_str(), valeur);
+    }
+    void Calcule() { CliqueSur(*ecran_, "Calculer"); }
+    std::string Montre(const char* etiquette) { return S(Controle<QLabel>(*ecran_, etiquette)->text()); }
+    QString Focus() { return ecran_->focusWidget() == nullptr ? QString() : ecran_->focusWidget()->objectName(); }
+};
+
+struct Refus {
+    const char* ecran;
+    const char* loi;
+    std::vector<const char*> valeurs;
+    std::string texte;
+    const char* focus;
+};
+
+} // namespace
+
+TEST_F(EcransLois, TypedStudyShowsTheClosedForm) {
+    // A cycloid of 120 degrees at 40 Tr/min lasts 0.5 s: over 100 mm its speed peaks at 2 h / T, its acceleration at
+    // 2 Pi h / T².
+    Ouvre("LoiMouv", {"0.5", "120", "20", "120", "40"}, "CYC");
+    EXPECT_EQ(S(ecran_->windowTitle()), Texte(107));
+    EXPECT_FALSE(Controle<QPushButton>(*ecran_, "Enregistrer")->isEnabled());
+    Calcule();
+    ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.front().texte;
+    EXPECT_EQ(Montre("VitesseMaxi"), "0.400");
+    EXPECT_EQ(Montre("AccelerationMaxi"), "2.513");
+    EXPECT_EQ(Montre("Duree"), "0.5000");
+    EXPECT_EQ(Montre("CoefAccel"), "6.2832");
+    EXPECT_EQ(Montre("CoefA"), ".5");
+    auto* grille = Controle<Grille>(*ecran_, "Grille");
+    EXPECT_EQ(grille->NombreLignes(), 121);
+    EXPECT_EQ(grille->Cellule(60, 0), "60.00");
+    EXPECT_EQ(grille->Cellule(60, 1), "70.000");
+    EXPECT_EQ(grille->Cellule(60, 2), "0.40000");
+
+    // The same in degrees, at once.
+    Controle<QRadioButton>(*ecran_, "Option2")->click();
+    EXPECT_EQ(S(Controle<QLabel>(*ecran_, "UniteVitesseMaxi")->text()), Texte(29));
+    EXPECT_EQ(Montre("VitesseMaxi"), "6.981") << "2 rad(100°) / 0.5 s";
+
+    // Results of other data are not shown.
+    TapeDans(*ecran_, "Text1", "180");
+    EXPECT_EQ(Montre("VitesseMaxi"), "");
+    EXPECT_EQ(grille->NombreLignes(), 0);
+    EXPECT_FALSE(etude.EtudeModifiee);
+}
+
+TEST_F(EcransLois, CustomPercentageCountsWhole) {
+    Ouvre("LoiMouv", {"0.5", "100", "0", "10", "60", "12.5"}, "MS_Spe");
+    Calcule();
+    EXPECT_EQ(Montre("CoefD"), ".125");
+    EXPECT_EQ(Montre("CoefA"), ".2188");
+    EXPECT_EQ(etude.LoiEtude.NomLoi, "MS_Spe_12.5");
+    EXPECT_NEAR(etude.LoiUnite[50].Vitesse, etude.LoiEtude.Cv, 1e-12) << "the curve is that of the coefficients shown";
+    EXPECT_EQ(etude.ListeLois[1].NomLoi, "CYC");
+    EXPECT_EQ(etude.ListeLois[1].CoefA, 0.5) << "no row of the catalogue changes";
+
+    // Asymmetry stretches the coefficients shown.
+    TapeDans(*ecran_, "Text0", "0.4");
+    Calcule();
+    EXPECT_NEAR(Val(Montre("CoefVitesse")), etude.LoiEtude.Cv * 0.5 / 0.4, 5e-5);
+}
+
+TEST_F(EcransLois, RefusedInputsAreToldWithTheFocusOnTheField) {
+    const std::string incomplet = Texte(69);
+    const Refus refus[] = {
+        {"LoiMouv", "MS", {"1.2", "90", "0", "10", "60"}, Texte(522) + " 0 <= C <=1", "Text0"},
+        {"LoiMouv", "MS", {"0.5", "90", "-5", "0", "60"}, Texte(101) + " " + Texte(102), "Text2"},
+        {"LoiMouv", "MS", {"0.5", "", "0", "10", "60"}, incomplet, "Text1"},
+        {"LoiMouv", "MS", {"0.5", "90", "0", "10", "0"}, incomplet, "Text1"},
+        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "100"}, incomplet, "Text1"},
+        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "0"}, incomplet, "Text1"},
+        {"LoiMouv", "MS", {"0", "90", "0", "10", "60"}, Texte(197), "Text0"},
+        {"LoiMouv", "MS", {"0.5", "40000", "0", "10", "60"}, Texte(205), "Text1"},
+        {"LoiMouv", "INCONNUE", {"0.5", "90", "0", "10", "60"}, Texte(521) + " INCONNUE " + Texte(103), "Text1"},
+        {"LoiHes", "", {"90", "0", "60"}, incomplet, "Text1"},
+        {"LoiHes", "", {"0.2", "10", "60"}, Texte(794), "Text1"},
+        {"LoiSpe", "", {"90", "90", "100", "50", "60"}, incomplet, "Text1"},
+        {"LoiSpe", "", {"90", "45", "100", "100", "60"}, incomplet, "Text1"},
+        {"LoiSpe", "", {"100", "50", "100", "5", "60"}, "\n" + Texte(622), "Text2"},
+        {"LoiSpe", "", {"100", "85", "100", "90", "60"}, "\n" + Texte(622), "Text2"},
+        {"LoisLiq", "", {"90", "10", "60", "0"}, incomplet, "Text1"},
+        {"LoisLiq", "", {"90", "10", "60", "0.5"}, Texte(382), "Text4"},
+        {"LoiMSHDis", "", {"100", "97", "10", "60"}, Texte(389), "Text2"},
+    };
+    for (const Refus& r : refus) {
+        Ouvre(r.ecran, r.valeurs, r.loi);
+        dialogues_.boites.clear();
+        Calcule();
+        ASSERT_EQ(dialogues_.boites.size(), 1U) << r.ecran << " " << r.texte;
+        EXPECT_EQ(dialogues_.boites.front().texte, r.texte) << r.ecran;
+        EXPECT_EQ(Focus(), r.focus) << r.ecran << " " << r.texte;
+        EXPECT_FALSE(etude.ResultatsPrets);
+    }
+    // A minus cannot even be typed where no value is negative.
+    EXPECT_EQ((TapeDans(*ecran_, "Text1", "-30"), Controle<ChampNombre>(*ecran_, "Text1")->Valeur()), 30);
+}
+
+TEST_F(EcransLois, SpecialStudiesReachTheirOutput) {
+    const Refus etudes[] = {{"LoiHes", "", {"90", "30", "60"}, "", ""},
+                            {"LoiSpe", "", {"180", "90", "30", "24", "60"}, "", ""},
+                            {"LoisLiq", "", {"90", "30", "60", "0.125"}, "", ""}};
+    for (const Refus& e : etudes) {
+        Ouvre(e.ecran, e.valeurs);
+        Calcule();
+        ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.front().texte;
+        EXPECT_NEAR(etude.Mouvement[etude.NombrePoints].Course, 30, 1e-9) << e.ecran;
+        // Speed in rad/s against the output in degrees, point by point in time.
+        const double pas = 1.0 / 6 / 60;
+        const long i = etude.NombrePoints / 3;
+        EXPECT_NEAR((etude.Mouvement[i + 1].Course - etude.Mouvement[i - 1].Course) / (2 * pas) * Pi / 180,
+                    etude.Mouvement[i].Vitesse, 2e-3)
+            << e.ecran;
+    }
+    Ouvre("LoiMSHDis", {"90", "120", "30", "60"});
+    Calcule();
+    EXPECT_NEAR(etude.Mouvement[90].Course, 30, 1e-12);
+    EXPECT_NEAR(etude.Mouvement[210].Course, 0, 1e-12);
+}
+
+TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
+    const DossierTemporaire dossier;
+    const auto txt = dossier.Chemin() / "loi.Txt", lmi = dossier.Chemin() / "loi.Lmi";
+    Ouvre("LoiMouv", {"0.5", "360", "0", "50", "60"}, "MSC50");
+    Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("2");
+    Calcule();
+    dialogues_.saisies = {"3", "1", " 2 "};
+    dialogues_.fichiers = {txt, lmi};
+    CliqueSur(*ecran_, "Enregistrer");
+    CliqueSur(*ecran_, "Enregistrer");
+    ASSERT_EQ(dialogues_.boites.size(), 1U);
+    EXPECT_EQ(dialogues_.boites.front().texte, Texte(358));
+    EXPECT_EQ(dialogues_.demandes.front(),
+              Texte(341) + "|" + Texte(508) + " 2 " + Texte(637) + ", " + Texte(638) + "|1");
+    EXPECT_EQ(LitFichierEntier(txt).substr(0, 12), "0;0;0;0\r\n.5;");
+    const auto table = etude.LoiUnite;
+
+    etude = Etude{};
+    LitFichierLoi(lmi);
+    etude.TypeCame = "Angulaire";
+    etude.CoteA = 80;
+    etude.CoteB = 30;
+    etude.RayonO1P = 70;
+    etude.RayonO1A = 100;
+    etude.AnglePO1A = 40;
+    etude.RayonGalet = 10;
+    etude.VitesseCame = 60;
+    etude.PointsParDegre = 2;
+    etude.NombreZones = 1;
+    etude.Zones.Redimensionne(1);
+    Zone& zone = etude.Zones[1];
+    zone.AngleDepart = 10;
+    zone.AngleFinal = 30;
+    zone.AngleCame = 360;
+    zone.Temps = 1;
+    zone.NomLoi = NomLoiFichier;
+    CalculeCameAngulaire();
+    ASSERT_FALSE(etude.Erreur);
+    for (const long i : {1L, 100L, 361L, 720L}) {
+        EXPECT_NEAR(etude.Mouvement[i].Course, 10 + 20 * table[i - 1].Course, 1e-12) << "one step later " << i;
+        EXPECT_GE(etude.Mouvement[i].Accel, 0) << i;
+    }
+
+    // What a law file cannot hold is not written cut.
+    Ouvre("LoiHes", {"360", "30", "60"});
+    Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
+    Calcule();
+    dialogues_.saisies = {"2"};
+    CliqueSur(*ecran_, "Enregistrer");
+    EXPECT_EQ(dialogues_.boites.back().texte, Texte(796));
+}
+
+TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {
+    Ouvre("LoiMouv", {"0.5", "360", "0", "50", "60"}, "MS");
+    Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
+    Calcule();
+    ASSERT_EQ(etude.NombrePoints, 3600);
+    QElapsedTimer temps;
+    temps.start();
+    Controle<QPushButton>(*ecran_, "Calculer")->click();
+    Controle<ZoneDessin>(*ecran_, "Courbes")->repaint();
+    const double ms = static_cast<double>(temps.nsecsElapsed()) / 1e6;
+    RecordProperty("ms", std::to_string(ms));
+    std::cout << "calculated and drawn in " << ms << " ms\n";
+    EXPECT_LT(ms, 500) << "also with the sanitizers";
+}
+
+TEST_F(EcransLois, NothingIsCutInAnyLanguage) {
+    for (const char* langue : {"Français", "Español", "English"}) {
+        ChoisitLangue(langue);
+        for (const EtudeLoi& loi : LesEtudesLois()) {
+            Ouvre(loi.ecran, {}, "MS_Spe");
+            for (const char* option : {"Option1", "Option2"}) {
+                Controle<QRadioButton>(*ecran_, option)->click();
+                LaisseFaire();
+                EXPECT_EQ(LegendesCoupees(*ecran_), std::vector<std::string>{}) << langue << " " << loi.ecran;
+            }
+        }
+        for (const char* chooser : {"QuelLoi", "QuelLoiSpe"}) {
+            QuelLoi ecran(chooser);
+            ecran.show();
+            LaisseFaire();
+            EXPECT_EQ(LegendesCoupees(ecran), std::vector<std::string>{}) << langue;
+        }
+    }
+}
+
+TEST(QuelLoi, PicturesAreChosenByKeyAndShowTheirCoefficients) {
+    QuelLoi ecran("QuelLoi");
+    ecran.show();
+    ecran.activateWindow();
+    LaisseFaire();
+    EXPECT_EQ(ecran.findChildren<BoutonImage*>().size(), 13);
+    auto* image = Controle<BoutonImage>(ecran, "Image8");
+    image->setFocus();
+    LaisseFaire();
+    EXPECT_EQ(S(Controle<QLabel>(ecran, "Label15")->text()), "5.837");
+    EXPECT_EQ(S(Controle<QLabel>(ecran, "Label16")->text()), "1.5796");
+    Controle<QPushButton>(ecran, "Quitter")->setFocus();
+    LaisseFaire();
+    EXPECT_EQ(S(Controle<QLabel>(ecran, "Label15")->text()), "");
+    // No two laws look alike: the pictures are their curves.
+    const auto pictures = ecran.findChildren<BoutonImage*>();
+    for (const auto* a : pictures)
+        for (const auto* b : pictures) {
+            const bool memeLoi = a == b || (a->objectName() == "Image11" && b->objectName() == "Image15") ||
+                                 (a->objectName() == "Image15" && b->objectName() == "Image11");
+            if (memeLoi) continue;
+            EXPECT_NE(const_cast<BoutonImage*>(a)->grab(QRect(4, 4, 160, 100)).toImage(),
+                      const_cast<BoutonImage*>(b)->grab(QRect(4, 4, 160, 100)).toImage())
+                << S(a->objectName()) << " " << S(b->objectName());
+        }
+    QTest::keyClick(image, Qt::Key_Return);
+    ASSERT_NE(ecran.Choisi(), nullptr);
+    EXPECT_STREQ(ecran.Choisi()->loi, "MSC15");
+
+    QuelLoi speciales("QuelLoiSpe");
+    EXPECT_EQ(speciales.findChildren<BoutonImage*>().size(), 8);
+    etude.LoiChoisie = "MSC33";
+    EXPECT_EQ(TitreLoiChoisie(), Texte(228) + " 33% " + Texte(213));
+}

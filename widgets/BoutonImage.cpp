@@ -1,0 +1,108 @@
+#include "widgets/BoutonImage.h"
+
+#include "widgets/DessinQt.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPixmap>
+
+#include <utility>
+
+namespace {
+
+// Layout of a picture, pixels.
+constexpr int Marge = 8;
+constexpr int Souleve = 3; ///< how far it rises
+constexpr double RayonCoin = 4;
+constexpr double OpaciteInactif = 0.35;
+
+} // namespace
+
+BoutonImage::BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent)
+    : QAbstractButton(parent), dessine_(std::move(dessine)), taille_(taille) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+QSize BoutonImage::sizeHint() const {
+    // Two lines hold every name.
+    return {taille_.width() + 2 * Souleve,
+            taille_.height() + 2 * fontMetrics().lineSpacing() + 3 * Marge + 2 * Souleve};
+}
+
+void BoutonImage::DessineImage(QPainter& peintre, const QRectF& cadre) {
+    if (isEnabled()) {
+        DessinQt dessin(peintre, cadre, palette());
+        dessine_(dessin);
+        return;
+    }
+    // Faded as a whole: shapes faded one by one would show through each other.
+    QPixmap image((cadre.size() * devicePixelRatioF()).toSize());
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(palette().color(QPalette::Base));
+    QPainter surImage(&image);
+    {
+        DessinQt dessin(surImage, QRectF(QPointF(0, 0), cadre.size()), palette());
+        dessine_(dessin);
+    }
+    surImage.end();
+    peintre.save();
+    peintre.setOpacity(OpaciteInactif);
+    peintre.drawPixmap(cadre.topLeft(), image);
+    peintre.restore();
+}
+
+void BoutonImage::paintEvent(QPaintEvent*) {
+    const bool leve = isEnabled() && (underMouse() || hasFocus()) && !isDown();
+    QRectF carte = QRectF(rect()).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    if (leve) {
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(palette().color(QPalette::Shadow));
+        peintre.setOpacity(0.3);
+        peintre.drawRoundedRect(carte.translated(Souleve - 1, Souleve - 1), RayonCoin, RayonCoin);
+        peintre.setOpacity(1);
+        carte.translate(-Souleve + 1, -Souleve + 1);
+    }
+    peintre.setPen(QPen(palette().color(leve ? QPalette::Highlight : QPalette::Mid), leve ? 2 : 1));
+    peintre.setBrush(palette().color(QPalette::Base));
+    peintre.drawRoundedRect(carte, RayonCoin, RayonCoin);
+
+    DessineImage(peintre,
+                 QRectF(carte.x() + Marge, carte.y() + Marge, carte.width() - 2 * Marge, taille_.height() - Marge));
+    if (!isEnabled()) peintre.setOpacity(OpaciteInactif);
+    const double haut = carte.y() + taille_.height() + Marge;
+    peintre.setPen(palette().color(QPalette::Active, QPalette::Text));
+    peintre.drawText(QRectF(carte.x() + Marge, haut, carte.width() - 2 * Marge, carte.bottom() - haut),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text());
+}
+
+void BoutonImage::keyPressEvent(QKeyEvent* evenement) {
+    if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(evenement);
+}
+
+void BoutonImage::enterEvent(QEnterEvent* evenement) {
+    QAbstractButton::enterEvent(evenement);
+    update();
+    emit Leve(true);
+}
+
+void BoutonImage::leaveEvent(QEvent* evenement) {
+    QAbstractButton::leaveEvent(evenement);
+    update();
+    emit Leve(false);
+}
+
+void BoutonImage::focusInEvent(QFocusEvent* evenement) {
+    QAbstractButton::focusInEvent(evenement);
+    emit Leve(true);
+}
+
+void BoutonImage::focusOutEvent(QFocusEvent* evenement) {
+    QAbstractButton::focusOutEvent(evenement);
+    emit Leve(false);
+}

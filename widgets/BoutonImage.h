@@ -1,0 +1,36 @@
+// A picture that is a button: it rises under the pointer and with the focus, Return and Space choose it.
+#pragma once
+
+#include "platform/Dessin.h"
+
+#include <QAbstractButton>
+
+#include <functional>
+
+class BoutonImage : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    /// @param taille room of the drawing, pixels; the text stands below it
+    BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    void Leve(bool leve); ///< the pointer or the focus came to the picture, or left it
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void enterEvent(QEnterEvent* evenement) override;
+    void leaveEvent(QEvent* evenement) override;
+    void focusInEvent(QFocusEvent* evenement) override;
+    void focusOutEvent(QFocusEvent* evenement) override;
+
+private:
+    void DessineImage(QPainter& peintre, const QRectF& cadre);
+
+    std::function<void(Dessin&)> dessine_;
+    QSize taille_;
+};

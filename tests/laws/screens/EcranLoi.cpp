@@ -244,6 +244,12 @@ TEST_F(EcransLois, NothingIsCutInAnyLanguage) {
             ecran.show();
             LaisseFaire();
             EXPECT_EQ(LegendesCoupees(ecran), std::vector<std::string>{}) << langue;
+            // The names below the pictures have two lines.
+            for (const auto* image : ecran.findChildren<BoutonImage*>()) {
+                const QRect besoin = image->fontMetrics().boundingRect(
+                    QRect(0, 0, image->width() - 24, 1000), Qt::TextWordWrap | Qt::AlignHCenter, image->text());
+                EXPECT_LE(besoin.height(), 2 * image->fontMetrics().lineSpacing()) << S(image->text());
+            }
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "laws/ChoixLois.h"
 #include "laws/FichierLoi.h"
 #include "laws/screens/QuelLoi.h"
+#include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
@@ -180,23 +181,10 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
 
     etude = Etude{};
     LitFichierLoi(lmi);
-    etude.TypeCame = "Angulaire";
-    etude.CoteA = 80;
-    etude.CoteB = 30;
-    etude.RayonO1P = 70;
-    etude.RayonO1A = 100;
-    etude.AnglePO1A = 40;
-    etude.RayonGalet = 10;
+    PoseMecanismeBras();
     etude.VitesseCame = 60;
     etude.PointsParDegre = 2;
-    etude.NombreZones = 1;
-    etude.Zones.Redimensionne(1);
-    Zone& zone = etude.Zones[1];
-    zone.AngleDepart = 10;
-    zone.AngleFinal = 30;
-    zone.AngleCame = 360;
-    zone.Temps = 1;
-    zone.NomLoi = NomLoiFichier;
+    PoseZones({{10, 30, 360, NomLoiFichier}});
     CalculeCameAngulaire();
     ASSERT_FALSE(etude.Erreur);
     for (const long i : {1L, 100L, 361L, 720L}) {

@@ -282,7 +282,7 @@ QWidget* MdiCamA::EcranOuvert(const std::string& nom) const {
 /// The law screen that is open: saving and printing go to it.
 EcranLoi* MdiCamA::EcranLoiActif() const {
     for (const EtudeLoi& loi : LesEtudesLois())
-        if (etude.*loi.active) return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
+        if (etude.*loi.active && etude.TypeLoi == loi.typeLoi) return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
     return nullptr;
 }
 
@@ -293,8 +293,11 @@ void MdiCamA::FermeEcran(const std::string& nom) {
     ecrans_.erase(trouve);
     if (!sousFenetre) return;
     if (const EtudeLoi* loi = TrouveEtudeLoi(nom)) {
+        // A law study lives on its screen only.
         etude.*loi->active = Faux;
         etude.TypeLoi.clear();
+        etude.EtudeModifiee = Faux;
+        etude.ResultatsPrets = Faux;
     }
     etude.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
     sousFenetre->removeEventFilter(this);

@@ -86,16 +86,16 @@ Json CalculeObjet(const EtudeLoi& loi, bool oui, int& statut) {
     DialoguesCollecte dialogues(oui);
     ResultatLoi resultat;
     std::string echec;
-    if (const auto faute = ChercheFauteLoi(loi)) {
-        LesDialogues().Message(Icone::Avertissement, faute->texte);
-        echec = Trim(faute->texte.substr(faute->texte.find_first_not_of('\n')));
-    } else {
-        try {
+    try {
+        if (const auto faute = ChercheFauteLoi(loi)) {
+            LesDialogues().Message(Icone::Avertissement, faute->texte);
+            echec = faute->texte.substr(faute->texte.find_first_not_of('\n'));
+        } else {
             resultat = CalculeEtudeLoi(loi);
-        } catch (const ErreurExecution& erreur) {
-            etude.LoiUnite = {};
-            echec = SensErreur(erreur);
         }
+    } catch (const ErreurExecution& erreur) {
+        etude.LoiUnite = {};
+        echec = SensErreur(erreur);
     }
     if (!echec.empty()) statut = std::max(statut, 1);
     return JsonEtudeLoi(resultat, echec, dialogues);

@@ -30,10 +30,10 @@ constexpr ChoixLoi choix[] = {
     {"QuelLoiSpe", "Image4", "MSHC20", "MSHC20", "LoiMouv", 111, 110, " 20% ", "", ""},
     {"QuelLoiSpe", "Image5", "MSHC33", "MSHC33", "LoiMouv", 112, 110, " 33% ", "", ""},
     {"QuelLoiSpe", "Image6", "MSHC50", "MSHC50", "LoiMouv", 113, 110, " 50% ", "", ""},
-    {"QuelLoiSpe", "Image7", "MSHDissyme", nullptr, "LoiMSHDis", 114, 114, nullptr, "", ""},
-    {"QuelLoiSpe", "Image2", "Liquides", nullptr, "LoisLiq", 115, 115, nullptr, "", ""},
-    {"QuelLoiSpe", "Image8", "AvanceRapide", nullptr, "LoiSpe", 116, 116, nullptr, "", ""},
-    {"QuelLoiSpe", "Image1", "Hesser", nullptr, "LoiHes", 117, 117, nullptr, "", ""},
+    {"QuelLoiSpe", "Image7", "MSHDissyme", nullptr, "LoiMSHDis", 114, 0, nullptr, "", ""},
+    {"QuelLoiSpe", "Image2", "Liquides", nullptr, "LoisLiq", 115, 0, nullptr, "", ""},
+    {"QuelLoiSpe", "Image8", "AvanceRapide", nullptr, "LoiSpe", 116, 0, nullptr, "", ""},
+    {"QuelLoiSpe", "Image1", "Hesser", nullptr, "LoiHes", 117, 0, nullptr, "", ""},
 };
 
 // Inputs that show a special law at its most typical.
@@ -48,7 +48,7 @@ template <class Evalue> Tableau<PointLoi> Tabule(long pas, const Evalue& evalue)
     return table;
 }
 
-/// Rise and return over the whole table; both per unit of the whole, so that their curves join.
+/// Rise and return over the whole table; both are per unit of the rise, so that their curves join.
 template <class Montee, class Descente>
 Tableau<PointLoi> TabuleAllerRetour(long pas, double e, const Montee& montee, const Descente& descente) {
     return Tabule(pas, [&](double x) {

@@ -14,7 +14,7 @@ struct ChoixLoi {
     const char* loi;     ///< `LoiChoisie` it sets; none leaves it as it is
     const char* ecran;   ///< study screen it opens
     int texte;           ///< text number of its name
-    int famille;         ///< text number of the family, which begins the caption of `LoiMouv`
+    int famille;         ///< text number of the family, which begins the caption of `LoiMouv`; 0 for another study
     const char* part;    ///< what stands between family and "at constant speed"; none for a law without that part
     /// Coefficients shown with the picture: fixed texts, not those of the catalogue. Empty where there are none.
     const char *coefAccel, *coefVitesse;

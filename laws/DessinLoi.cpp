@@ -1,6 +1,7 @@
 #include "laws/DessinLoi.h"
 
 #include "data/Textes.h"
+#include "data/Unites.h"
 #include "laws/EtudesLois.h"
 #include "reports/Graduations.h"
 
@@ -20,12 +21,11 @@ struct CourbeLoi {
     int texte; ///< text number
     Grandeur grandeur;
     Couleur couleur;
-    const char* masque; ///< of its extreme values
 };
 constexpr CourbeLoi courbes[] = {
-    {&PointLoi::Course, 250, Grandeur::Sortie, couleurs[0], "0.000"},
-    {&PointLoi::Vitesse, 225, Grandeur::Vitesse, couleurs[1], "0.000"},
-    {&PointLoi::Accel, 226, Grandeur::Accel, couleurs[2], "0.00"},
+    {&PointLoi::Course, 250, Grandeur::Sortie, couleurs[0]},
+    {&PointLoi::Vitesse, 225, Grandeur::Vitesse, couleurs[1]},
+    {&PointLoi::Accel, 226, Grandeur::Accel, couleurs[2]},
 };
 
 constexpr double TraitMaxi = 1.4; ///< of a picture that fills a whole sheet
@@ -47,6 +47,11 @@ Extremes ChercheExtremes(const Tableau<PointLoi>& table, double PointLoi::*membr
     return e;
 }
 
+/// Largest magnitude of a curve of the motion.
+double PlusGrand(const Extremes& e, double PointLoi::*membre) {
+    return std::max(std::abs(etude.Mouvement[e.mini].*membre), std::abs(etude.Mouvement[e.maxi].*membre));
+}
+
 /// One graph on the surface: where it lies, and the values at its lower and upper edge.
 struct Boite {
     double texte, gauche, droite, haut, bas;
@@ -55,22 +60,37 @@ struct Boite {
     double Y(double valeur) const { return bas - (bas - haut) * (valeur - mini) / (maxi - mini); }
     double X(long i) const { return gauche + (droite - gauche) * static_cast<double>(i) / etude.NombrePoints; }
 
-    /// From graduation to graduation around the values and 0, with room for the marks of the extremes.
+    /// From graduation to graduation around the values, with room for the marks of the extremes; around 0 too, unless
+    /// the values lie far from it.
     void Gradue(double petit, double grand) {
-        const double etendue = grand - petit > 0.0 ? grand - petit : 1.0;
+        if (petit - (grand - petit) <= 0.0 && grand + (grand - petit) >= 0.0) {
+            petit = std::min(petit, 0.0);
+            grand = std::max(grand, 0.0);
+        }
+        const double etendue = grand > petit ? grand - petit : std::max(1.0, std::abs(grand));
         const double marge = 0.1 * etendue;
         pas = PasGraduation(1.2 * etendue, 5);
-        mini = petit < 0.0 ? pas * std::floor((petit - marge) / pas) : 0.0;
-        maxi = pas * std::ceil((std::max(grand, 0.0) + marge) / pas);
+        mini = petit == 0.0 ? 0.0 : pas * std::floor((petit - marge) / pas);
+        maxi = pas * std::ceil((grand + marge) / pas);
     }
 };
 
-/// Decimals of a graduation: as many as its step has.
-std::string TexteGraduation(double valeur, double pas) {
-    const int decimales = std::max(0, static_cast<int>(-std::floor(std::log10(pas) + 1e-9)));
+std::string TexteDecimales(double valeur, int decimales) {
     std::string masque = "0";
     if (decimales > 0) masque += "." + std::string(static_cast<std::size_t>(decimales), '0');
-    return Format(std::abs(valeur) < pas / 2 ? 0.0 : valeur, masque);
+    return Format(valeur, masque);
+}
+
+/// As many decimals as the step has.
+std::string TexteGraduation(double valeur, double pas) {
+    const int decimales = static_cast<int>(-std::floor(std::log10(pas) + 1e-9));
+    return TexteDecimales(std::abs(valeur) < pas / 2 ? 0.0 : valeur, decimales);
+}
+
+/// Four digits that count.
+std::string TexteExtreme(double valeur) {
+    const int decimales = 3 - static_cast<int>(std::floor(std::log10(std::abs(valeur))));
+    return TexteDecimales(valeur, std::min(decimales, 9));
 }
 
 void DessineAngles(Dessin& dessin, const Boite& b, bool nombres) {
@@ -92,7 +112,8 @@ void DessineValeurs(Dessin& dessin, const Boite& b) {
         dessin.Texte({b.gauche - 0.6 * b.texte, y}, TexteGraduation(valeur, b.pas), Ancrage::Droite, 0.9 * b.texte,
                      Couleur::TexteDiscret);
     }
-    dessin.Ligne({b.gauche, b.Y(0)}, {b.droite, b.Y(0)}, {Couleur::Axe, 0.1 * b.texte});
+    const double axe = b.Y(std::clamp(0.0, b.mini, b.maxi));
+    dessin.Ligne({b.gauche, axe}, {b.droite, axe}, {Couleur::Axe, 0.1 * b.texte});
     dessin.Ligne({b.gauche, b.haut}, {b.gauche, b.bas}, {Couleur::Axe, 0.1 * b.texte});
 }
 
@@ -100,7 +121,7 @@ void DessineValeurs(Dessin& dessin, const Boite& b) {
 void MarqueExtreme(Dessin& dessin, const Boite& b, const CourbeLoi& courbe, long i, bool dessus) {
     const double valeur = etude.Mouvement[i].*courbe.membre;
     const PointDessin p{b.X(i), b.Y(valeur)};
-    const std::string texte = Format(valeur, courbe.masque) + "  (" + StrTrim(etude.Points[i].Angle) + "°)";
+    const std::string texte = TexteExtreme(valeur) + "  (" + StrTrim(etude.Points[i].Angle) + "°)";
     const double demi = dessin.LargeurTexte(texte, b.texte) / 2;
     dessin.Disque(p, 0.28 * b.texte, {courbe.couleur, 0.15 * b.texte});
     dessin.Texte({std::clamp(p.x, b.gauche + demi, b.droite - demi), p.y + (dessus ? -1.0 : 1.0) * b.texte}, texte,
@@ -109,9 +130,12 @@ void MarqueExtreme(Dessin& dessin, const Boite& b, const CourbeLoi& courbe, long
 
 void DessineCourbe(Dessin& dessin, Boite b, const CourbeLoi& courbe, bool derniere) {
     const Extremes extremes = ChercheExtremes(etude.Mouvement, courbe.membre);
-    const double maxi = etude.Mouvement[extremes.maxi].*courbe.membre;
-    double mini = etude.Mouvement[extremes.mini].*courbe.membre;
-    if (std::abs(mini) < Arrondi0 * std::abs(maxi)) mini = 0.0;
+    const double zero = Arrondi0 * PlusGrand(extremes, courbe.membre);
+    const auto valeur = [&](long i) {
+        const double v = etude.Mouvement[i].*courbe.membre;
+        return std::abs(v) < zero ? 0.0 : v;
+    };
+    const double mini = valeur(extremes.mini), maxi = valeur(extremes.maxi);
     b.Gradue(mini, maxi);
     DessineAngles(dessin, b, derniere);
     DessineValeurs(dessin, b);
@@ -122,17 +146,17 @@ void DessineCourbe(Dessin& dessin, Boite b, const CourbeLoi& courbe, bool dernie
     points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
     for (long i = 0; i <= etude.NombrePoints; ++i) points.push_back({b.X(i), b.Y(etude.Mouvement[i].*courbe.membre)});
     dessin.Polyligne(points, {courbe.couleur, 0.14 * b.texte});
+    // The value that the lift starts from was typed in, and 0 is on the axis.
+    const auto marque = [&](long i) { return valeur(i) != 0.0 && (i > 0 || courbe.membre != &PointLoi::Course); };
     if (maxi == mini) return;
-    // A lift starts from its lowest value: the mark would only repeat what was typed in.
-    MarqueExtreme(dessin, b, courbe, extremes.maxi, true);
-    if (mini < 0.0 && extremes.mini > 0) MarqueExtreme(dessin, b, courbe, extremes.mini, false);
+    if (marque(extremes.maxi)) MarqueExtreme(dessin, b, courbe, extremes.maxi, true);
+    if (marque(extremes.mini)) MarqueExtreme(dessin, b, courbe, extremes.mini, false);
 }
 
-} // namespace
-
-void DessineLoi(Dessin& dessin, const Tableau<PointLoi>& table) {
+/// The unit law inside a margin.
+void DessineImage(Dessin& dessin, const Tableau<PointLoi>& table, double marge) {
     if (table.BorneHaute() < 1) return;
-    const double marge = 0.06 * dessin.Hauteur(), trait = std::min(0.012 * dessin.Hauteur(), TraitMaxi);
+    const double trait = std::min(0.012 * dessin.Hauteur(), TraitMaxi);
     const double largeur = dessin.Largeur() - 2 * marge, hauteur = dessin.Hauteur() - 2 * marge;
     const double milieu = dessin.Hauteur() / 2;
     dessin.Ligne({marge, milieu}, {marge + largeur, milieu}, {Couleur::Graduation, trait});
@@ -150,6 +174,32 @@ void DessineLoi(Dessin& dessin, const Tableau<PointLoi>& table) {
     }
 }
 
+/// The names of the curves behind a stroke of their colour, from left to right.
+void DessineNoms(Dessin& dessin, double y, double hauteur) {
+    double x = hauteur / 2;
+    for (const CourbeLoi& courbe : courbes) {
+        const std::string& nom = Texte(courbe.texte);
+        dessin.Ligne({x, y}, {x + 1.5 * hauteur, y}, {courbe.couleur, 2.0});
+        dessin.Texte({x + 2 * hauteur, y}, nom, Ancrage::Gauche, hauteur, courbe.couleur);
+        x += 4 * hauteur + dessin.LargeurTexte(nom, hauteur);
+    }
+}
+
+} // namespace
+
+void DessineLoi(Dessin& dessin, const Tableau<PointLoi>& table) {
+    DessineImage(dessin, table, 0.06 * dessin.Hauteur());
+}
+
+void DessineLoiNommee(Dessin& dessin, const Tableau<PointLoi>& table) {
+    const double tete = dessin.Hauteur() / 20;
+    DessineNoms(dessin, tete, 0.6 * tete);
+    DessineImage(dessin, table, 1.6 * tete);
+}
+
+void DessineNomsCourbes(Dessin& dessin) {
+    DessineNoms(dessin, dessin.Hauteur() / 2, 0.6 * dessin.Hauteur());
+}
 void DessineCourbes(Dessin& dessin) {
     if (etude.Mouvement.BorneHaute() < 1 || etude.Mouvement.BorneHaute() != etude.NombrePoints) return;
     const double texte = std::min(dessin.Largeur() / 62, dessin.Hauteur() / 54);
@@ -161,5 +211,6 @@ void DessineCourbes(Dessin& dessin) {
                           haut + hauteur - 0.4 * texte};
         DessineCourbe(dessin, boite, courbes[rang], rang + 1 == std::size(courbes));
     }
-    dessin.Texte({dessin.Largeur() / 2, dessin.Hauteur() - 0.8 * texte}, Texte(280), Ancrage::Centre, texte);
+    dessin.Texte({dessin.Largeur() / 2, dessin.Hauteur() - 0.8 * texte}, Texte(339) + " (" + Texte(UniteDegres) + ")",
+                 Ancrage::Centre, texte);
 }

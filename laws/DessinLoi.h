@@ -8,6 +8,12 @@
 /// recognise the law by. Nothing is drawn for an empty table.
 void DessineLoi(Dessin& dessin, const Tableau<PointLoi>& table);
 
+/// Names of the curves in their colours, over the whole height of the surface.
+void DessineNomsCourbes(Dessin& dessin);
+
+/// The picture of a unit law on a large sheet, with the names of its curves above it.
+void DessineLoiNommee(Dessin& dessin, const Tableau<PointLoi>& table);
+
 /// Lift, speed and acceleration of the law study in the record, one graph below the other against the cam angle, with
 /// the extreme values marked. Nothing is drawn before the study is calculated.
 void DessineCourbes(Dessin& dessin);

@@ -14,7 +14,7 @@ namespace {
 constexpr int TexteDonneesIncompletes = 69;
 
 constexpr const char* MasqueCoefficient = "##.####";
-constexpr const char* MasqueValeur = "0.000";
+constexpr const char* MasqueValeur = "0.00000";
 constexpr const char* MasqueDuree = "0.0000";
 
 bool SansMSH() {
@@ -50,7 +50,7 @@ template <class Evalue> void RemplitLoiUnite(const Evalue& evalue) {
 // ---- laws of the catalogue
 
 constexpr ChampLoi champsMouv[] = {
-    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &Etude::SymetrieLoi, false, SansMSH},
+    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &Etude::SymetrieLoi, true, SansMSH},
     {"Text1", "AngleIndexage", 324, 0, Grandeur::AngleEntree, &Etude::AngleIndexage},
     {"Text2", "ValeurDepart", 325, 0, Grandeur::Sortie, &Etude::ValeurDepart, true},
     {"Text3", "ValeurFin", 326, 0, Grandeur::Sortie, &Etude::ValeurFin, true},
@@ -109,8 +109,7 @@ void RemplitMouv(ResultatLoi& resultat) {
     zone.NomLoi = loi.NomLoi;
     zone.CoefSymetrie = etude.SymetrieLoi;
     zone.AngleCame = etude.NombrePoints;
-    zone.Temps = static_cast<double>(etude.NombrePoints) / etude.PointsParDegre / 6.0 / etude.VitesseEntree;
-    resultat.Duree = zone.Temps;
+    zone.Temps = resultat.Duree;
     if (LoiChoisieMSH()) {
         // Speed and acceleration are per unit of the rise's share of the angle, and are scaled as if they were per unit
         // of the whole: kept on purpose.
@@ -258,7 +257,7 @@ void RemplitDissyme(ResultatLoi& resultat) {
 // ----
 
 constexpr EtudeLoi etudes[] = {
-    {"LoiMouv", "LoiMouv", nullptr, 89, &Etude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
+    {"LoiMouv", "LoiMouv", nullptr, 0, &Etude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
      angleEntier, RemplitMouv},
     {"LoiHes", "LoiHesser", "hesser", 363, &Etude::LoiHesActive, true, champsHesser, valeursHesser, ChercheFauteHesser,
      angleEntier, RemplitHesser},
@@ -270,19 +269,15 @@ constexpr EtudeLoi etudes[] = {
      ChercheFauteDissyme, deuxAngles, RemplitDissyme},
 };
 
-double AngleTotal(const EtudeLoi& loi) {
-    double total = 0;
-    for (const auto angle : loi.angles) total += etude.*angle;
-    return total;
-}
-
-/// What every study refuses: a sign, and an angle that makes no point or more than a 16-bit subscript reaches.
+/// A value below 0 where the screen lets none be typed.
 std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
     for (const ChampLoi& champ : loi.champs)
-        if (!champ.signe && etude.*champ.membre < 0.0) return FauteLoi{Texte(196), champ.membre};
+        if (!champ.signe && etude.*champ.membre < 0.0)
+            return FauteLoi{Texte(champ.Libelle()) + " : " + Texte(196), champ.membre};
     return {};
 }
 
+/// An angle that makes no point, or points that no 16-bit subscript reaches.
 std::optional<FauteLoi> ChercheFautePoints(const EtudeLoi& loi) {
     double points = 0;
     for (const auto angle : loi.angles) {
@@ -303,17 +298,14 @@ void DerouleMouvement(ResultatLoi& resultat) {
     const long n = etude.NombrePoints;
     etude.Mouvement.Redimensionne(n);
     etude.Points.Redimensionne(n);
-    resultat.CourseMaxi = depart;
     for (long i = 0; i <= n; ++i) {
         const PointLoi& unite = etude.LoiUnite[i];
         PointLoi& point = etude.Mouvement[i];
         point = {depart + course * unite.Course, parVitesse * unite.Vitesse, parAccel * unite.Accel};
         etude.Points[i].Angle = static_cast<double>(i) / etude.PointsParDegre;
-        resultat.CourseMaxi = std::max(resultat.CourseMaxi, point.Course);
         resultat.VitesseMaxi = std::max(resultat.VitesseMaxi, std::abs(point.Vitesse));
         resultat.AccelerationMaxi = std::max(resultat.AccelerationMaxi, std::abs(point.Accel));
     }
-    if (resultat.VitesseMaxi == 0.0) resultat.VitesseMaxi = 1.0;
     for (const auto vitesse : {&ResultatLoi::VitesseRapide, &ResultatLoi::VitesseLente})
         resultat.*vitesse *= parVitesse;
     for (const auto accel : {&ResultatLoi::AccelRapide, &ResultatLoi::AccelLente, &ResultatLoi::DecelerationMaxi})
@@ -383,7 +375,8 @@ ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi) {
     for (const auto angle : loi.angles) points += Arrondi(etude.*angle * etude.PointsParDegre);
     etude.NombrePoints = Entier16(points);
     ResultatLoi resultat;
-    resultat.Duree = AngleTotal(loi) / 6.0 / etude.VitesseEntree;
+    // The motion lasts its whole steps, so that table and speeds agree whatever the angle.
+    resultat.Duree = static_cast<double>(etude.NombrePoints) / etude.PointsParDegre / 6.0 / etude.VitesseEntree;
     loi.remplit(resultat);
     DerouleMouvement(resultat);
     return resultat;

@@ -42,8 +42,7 @@ struct ResultatLoi {
     double VitesseRapide = 0, VitesseLente = 0;
     double AccelRapide = 0, AccelLente = 0;
     double DecelerationMaxi = 0;
-    double CourseMaxi = 0;                        ///< largest lift
-    double VitesseMaxi = 0, AccelerationMaxi = 0; ///< largest magnitudes; a speed of 0 counts as 1
+    double VitesseMaxi = 0, AccelerationMaxi = 0; ///< largest magnitudes
     double Duree = 0;                             ///< s
 };
 
@@ -65,7 +64,7 @@ struct EtudeLoi {
     const char* ecran;   ///< its screen
     const char* typeLoi; ///< `TypeLoi` while that screen is open
     const char* genre;   ///< what the batch companion calls it; none when it has another command
-    int titre;           ///< text number of its caption
+    int titre;           ///< text number of its caption; 0 for that of the law chosen
     Booleen16 Etude::*active;
     bool degresDabord; ///< the first of the two units is degrees
     std::span<const ChampLoi> champs;

@@ -16,9 +16,8 @@ std::string ComposeListageLoi();
 /// Takes the law of a file as the unit law of the one zone of a study. The first line becomes row 1 of `LoiUnite`, the
 /// speeds and accelerations lose their signs, and `ListeLois` shrinks to the one row "Fichier" until the program is
 /// started again: all this is settled.
-/// @throws ErreurExecution input past the end for fewer than 720 lines, or whatever keeps the file from being read;
-/// nothing
-///         is changed then.
+/// @throws ErreurExecution input past the end for fewer than 720 lines, or whatever keeps the file from being read.
+///         Nothing is changed then.
 void LitFichierLoi(const std::filesystem::path& chemin);
 
 /// As `LitFichierLoi`, on the content of a file.

@@ -55,6 +55,7 @@ AvanceRapide PrepareAvanceRapide(double partAngle, double partSortie) {
     loi.E = E;
     // Below the first limit the slow approach would have to run backwards; below 0 its length would.
     loi.place = !(E < Divise(2.0 * Q * (1.0 + r) - 2.0 * r, r)) && E >= -ToleranceE;
+    if (!loi.place) return loi;
     const double b4 = 4.0 * P, b5 = b4 + E / 2.0;
     loi.bornes = {P, P + P, P + P + P, b4, b5, b5 + P / 2.0};
     loi.A1 = Divise(2.0 * Q * Pi * (1.0 + 3.0 * r) - r * Pi * (2.0 + 4.0 * Q + E),

@@ -30,6 +30,7 @@ struct AvanceRapide {
 
 /// @param partAngle of the whole angle that the fast part takes, above 0 and below 1
 /// @param partSortie of the output, above 0 and below 1
+/// @return only r to E are set when there is no room
 AvanceRapide PrepareAvanceRapide(double partAngle, double partSortie);
 
 /// @param x 0..1

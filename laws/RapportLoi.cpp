@@ -21,7 +21,7 @@ double Angle(long i) {
 /// The columns, in the unit of the output.
 std::array<ColonneRapport, 4> Colonnes() {
     const auto unite = [](Grandeur grandeur) { return Texte(UniteLoi(grandeur)).c_str(); };
-    return {{{706, unite(Grandeur::AngleEntree), Angle, "0.00", 8},
+    return {{{339, unite(Grandeur::AngleEntree), Angle, "0.00", 14},
              {250, unite(Grandeur::Sortie), DuMouvement<&PointLoi::Course>, "0.000", 14},
              {225, unite(Grandeur::Vitesse), DuMouvement<&PointLoi::Vitesse>, "0.00000", 16},
              {226, unite(Grandeur::Accel), DuMouvement<&PointLoi::Accel>, "0.00000", 18}}};

@@ -53,7 +53,7 @@ void BoutonImage::DessineImage(QPainter& peintre, const QRectF& cadre) {
 }
 
 void BoutonImage::paintEvent(QPaintEvent*) {
-    const bool leve = isEnabled() && (underMouse() || hasFocus()) && !isDown();
+    const bool leve = isEnabled() && hasFocus() && !isDown();
     QRectF carte = QRectF(rect()).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
@@ -85,16 +85,15 @@ void BoutonImage::keyPressEvent(QKeyEvent* evenement) {
         QAbstractButton::keyPressEvent(evenement);
 }
 
+// The focus follows the pointer, so that never two pictures are raised.
 void BoutonImage::enterEvent(QEnterEvent* evenement) {
     QAbstractButton::enterEvent(evenement);
-    update();
-    emit Leve(true);
+    if (isEnabled()) setFocus(Qt::MouseFocusReason);
 }
 
 void BoutonImage::leaveEvent(QEvent* evenement) {
     QAbstractButton::leaveEvent(evenement);
-    update();
-    emit Leve(false);
+    clearFocus();
 }
 
 void BoutonImage::focusInEvent(QFocusEvent* evenement) {

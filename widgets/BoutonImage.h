@@ -1,4 +1,4 @@
-// A picture that is a button: it rises under the pointer and with the focus, Return and Space choose it.
+// A picture that is a button: it rises under the pointer or with the focus, Return and Space choose it.
 #pragma once
 
 #include "platform/Dessin.h"
@@ -18,7 +18,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
-    void Leve(bool leve); ///< the pointer or the focus came to the picture, or left it
+    void Leve(bool leve); ///< the picture rises, or lies down again
 
 protected:
     void paintEvent(QPaintEvent* evenement) override;

@@ -65,7 +65,7 @@ QString NomUnite(Grandeur grandeur) {
 Tableau<PointLoi> TableApercu(const EtudeLoi& loi) {
     for (const ChoixLoi& choix : LesChoixLois())
         if (loi.ecran == std::string_view(choix.ecran) && (choix.loi == nullptr || etude.LoiChoisie == choix.loi))
-            return TableChoix(choix, LitLois(), PasApercu);
+            return TableChoix(choix, choix.loi == nullptr ? Tableau<Loi>() : LitLois(), PasApercu);
     return {};
 }
 
@@ -107,8 +107,7 @@ EcranLoi::~EcranLoi() {
 }
 
 RapportLoi EcranLoi::Rapport() const {
-    const bool catalogue = loi_.genre == nullptr;
-    return {&loi_, catalogue ? TitreLoiChoisie() : Trim(Texte(loi_.titre)), resultat_};
+    return {&loi_, loi_.titre == 0 ? TitreLoiChoisie() : Trim(Texte(loi_.titre)), resultat_};
 }
 
 // ---- layout
@@ -197,9 +196,9 @@ void EcranLoi::RelieChamps() {
         QWidget* suivant =
             i + 1 < champs_.size() ? static_cast<QWidget*>(champs_[i + 1].zone) : static_cast<QWidget*>(calculer_);
         connect(champs_[i].zone, &ChampNombre::Suivant, suivant, [suivant] { suivant->setFocus(Qt::TabFocusReason); });
-        connect(champs_[i].zone, &QLineEdit::textEdited, this, &EcranLoi::PerimeResultats);
+        connect(champs_[i].zone, &QLineEdit::textChanged, this, &EcranLoi::PerimeResultats);
     }
-    connect(pointsParDegre_, &QComboBox::activated, this, &EcranLoi::PerimeResultats);
+    connect(pointsParDegre_, &QComboBox::currentIndexChanged, this, &EcranLoi::PerimeResultats);
     connect(option1_, &QRadioButton::toggled, this, &EcranLoi::ChoisitUnites);
     connect(calculer_, &QPushButton::clicked, this, &EcranLoi::Calculer);
     connect(enregistrer_, &QPushButton::clicked, this, &EcranLoi::Enregistrer);
@@ -282,7 +281,7 @@ void EcranLoi::MontreResultats() {
     if (calculee)
         courbes_->Peint(DessineCourbes);
     else
-        courbes_->Peint([this](Dessin& dessin) { DessineLoi(dessin, apercu_); });
+        courbes_->Peint([this](Dessin& dessin) { DessineLoiNommee(dessin, apercu_); });
     RemplitGrille();
 }
 

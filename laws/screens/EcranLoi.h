@@ -12,11 +12,9 @@
 class ChampNombre;
 class Grille;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QPushButton;
 class QRadioButton;
-class QTabWidget;
 class ZoneDessin;
 
 class EcranLoi : public QWidget {

@@ -36,19 +36,6 @@ QLabel* FaitValeur(const char* nom) {
     return valeur;
 }
 
-/// Which colour is which curve.
-void DessineNomsCourbes(Dessin& dessin) {
-    constexpr std::pair<int, Couleur> noms[] = {
-        {250, Couleur::Courbe1}, {225, Couleur::Courbe2}, {226, Couleur::Courbe3}};
-    const double y = dessin.Hauteur() / 2, hauteur = 0.6 * dessin.Hauteur();
-    double x = hauteur / 2;
-    for (const auto& [texte, couleur] : noms) {
-        dessin.Ligne({x, y}, {x + 1.5 * hauteur, y}, {couleur, 2.0});
-        dessin.Texte({x + 2 * hauteur, y}, Texte(texte), Ancrage::Gauche, hauteur, couleur);
-        x += 4 * hauteur + dessin.LargeurTexte(Texte(texte), hauteur);
-    }
-}
-
 } // namespace
 
 QuelLoi::QuelLoi(const char* nom, QWidget* parent) : QDialog(parent) {

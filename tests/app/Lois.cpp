@@ -84,6 +84,27 @@ TEST_F(LoisFenetre, LawIsStudiedSavedAndPrintedFromTheMenus) {
     EXPECT_EQ(etude.TypeLoi, "");
 }
 
+TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
+    const auto ferme = [this](int comment) {
+        dialogues_.fichiers = {std::nullopt};
+        comment == 0 ? Declenche("FichierOuvrir") : mdi_.ChangeLangue("Français");
+    };
+    for (const int comment : {0, 1}) {
+        Declenche("Hesser");
+        for (const auto& [champ, texte] : {std::pair{"Text1", "90"}, {"Text2", "40"}, {"Text3", "120"}})
+            TapeDans(*mdi_.EcranOuvert("LoiHes"), champ, texte);
+        CliqueSur(*mdi_.EcranOuvert("LoiHes"), "Calculer");
+        ASSERT_TRUE(etude.EtudeModifiee);
+        ferme(comment);
+        dialogues_.boites.clear();
+        Declenche("FichierSauvegarde");
+        Declenche("FicImprimerImprimer");
+        ASSERT_EQ(dialogues_.boites.size(), 2U);
+        EXPECT_EQ(dialogues_.boites[0].texte, Texte(23));
+        EXPECT_EQ(dialogues_.boites[1].texte, Texte(135));
+    }
+}
+
 TEST_F(LoisFenetre, EveryKeyOpensItsStudy) {
     const std::pair<const char*, const char*> cles[] = {{"Cycloide", "LoiMouv"}, {"MSPerso", "LoiMouv"},
                                                         {"MSHC50", "LoiMouv"},   {"MSHDissyme", "LoiMSHDis"},

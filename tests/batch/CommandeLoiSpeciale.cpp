@@ -66,6 +66,11 @@ TEST_F(LoiSpeciale, RefusedDataAreToldWithStatusOne) {
     EXPECT_EQ(passe.Objet()["messages"].size(), 1U);
     EXPECT_FALSE(passe.Objet()["echec"].get<std::string>().empty());
     EXPECT_TRUE(passe.Objet()["CoefAccel"].is_null());
+    // The first amplitude of the law has no value at eight ninths.
+    EXPECT_EQ(Lance("avance-rapide", R"({"AngleTotal":90,"AngleAvanceRapide":80,"SortieTotale":100,
+                                         "SortieAvanceRapide":90,"VitesseEntree":60})")
+                  .Objet()["Erreur"],
+              -1);
     EXPECT_EQ(
         Lance("msh-dissymetrique", R"({"AngleMontee":100,"AngleDescente":90,"Course":25,"VitesseEntree":30})").statut,
         1);

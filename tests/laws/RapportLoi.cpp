@@ -61,10 +61,40 @@ TEST_F(RapportsLois, GraphsStandBelowTheDataWithTheirExtremesMarked) {
         return std::any_of(page.etiquettes.begin(), page.etiquettes.end(),
                            [&](const auto& e) { return e.texte.starts_with(texte); });
     };
-    EXPECT_TRUE(a("30.000  (90°)"));
+    EXPECT_TRUE(a("30.00  (90°)"));
     // Half way the speed is Cv h / T, 30 mm in a quarter of a second.
-    EXPECT_TRUE(a(Format(1.577761 * 0.030 / 0.25, "0.000") + "  (45°)"));
+    EXPECT_TRUE(a(Format(1.577761 * 0.030 / 0.25, "0.0000") + "  (45°)"));
     const auto textes = page.Textes();
     EXPECT_TRUE(std::any_of(textes.begin(), textes.end(),
                             [](const std::string& t) { return t.find("158.3195") != std::string::npos; }));
+}
+
+TEST_F(RapportsLois, AxesStayReadableWhereverTheStrokeLies) {
+    const struct {
+        double depart, fin;
+        const char* marque;
+    } courses[] = {{1000, 1010, "1010  "}, {100, 20, "20.00  "}, {-5, 0.004, "0.004000  "}, {50, 50, nullptr}};
+    for (const auto& c : courses) {
+        etude = Etude{};
+        ChargeLois();
+        etude.LoiChoisie = "CYC";
+        etude.PointsParDegre = 1;
+        etude.AngleIndexage = 90;
+        etude.ValeurDepart = c.depart;
+        etude.ValeurFin = c.fin;
+        etude.VitesseEntree = 60;
+        const EtudeLoi& loi = *TrouveEtudeLoi("LoiMouv");
+        ASSERT_FALSE(ChercheFauteLoi(loi));
+        ImprimanteNotee imprimante;
+        ImprimeEtudeLoi(imprimante, {&loi, "CYC", CalculeEtudeLoi(loi)});
+        const auto& etiquettes = imprimante.pages.front().etiquettes;
+        EXPECT_LE(etiquettes.size(), 40U) << c.depart << " to " << c.fin;
+        EXPECT_GE(etiquettes.size(), 20U);
+        const bool marque = std::any_of(etiquettes.begin(), etiquettes.end(), [&](const auto& e) {
+            return c.marque != nullptr && e.texte.starts_with(c.marque);
+        });
+        EXPECT_EQ(marque, c.marque != nullptr) << c.depart << " to " << c.fin;
+        // No zero is an extreme, and no number is written over another.
+        for (const auto& e : etiquettes) EXPECT_FALSE(e.texte.starts_with("0.000000  "));
+    }
 }

@@ -66,8 +66,8 @@ TEST_F(EcransLois, TypedStudyShowsTheClosedForm) {
     EXPECT_FALSE(Controle<QPushButton>(*ecran_, "Enregistrer")->isEnabled());
     Calcule();
     ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.front().texte;
-    EXPECT_EQ(Montre("VitesseMaxi"), "0.400");
-    EXPECT_EQ(Montre("AccelerationMaxi"), "2.513");
+    EXPECT_EQ(Montre("VitesseMaxi"), "0.40000");
+    EXPECT_EQ(Montre("AccelerationMaxi"), "2.51327");
     EXPECT_EQ(Montre("Duree"), "0.5000");
     EXPECT_EQ(Montre("CoefAccel"), "6.2832");
     EXPECT_EQ(Montre("CoefA"), ".5");
@@ -80,10 +80,10 @@ TEST_F(EcransLois, TypedStudyShowsTheClosedForm) {
     // The same in degrees, at once.
     Controle<QRadioButton>(*ecran_, "Option2")->click();
     EXPECT_EQ(S(Controle<QLabel>(*ecran_, "UniteVitesseMaxi")->text()), Texte(29));
-    EXPECT_EQ(Montre("VitesseMaxi"), "6.981") << "2 rad(100°) / 0.5 s";
+    EXPECT_EQ(Montre("VitesseMaxi"), "6.98132") << "2 rad(100°) / 0.5 s";
 
-    // Results of other data are not shown.
-    TapeDans(*ecran_, "Text1", "180");
+    // Results of other data are not shown, however the data came to be others.
+    Controle<QLineEdit>(*ecran_, "Text1")->clear();
     EXPECT_EQ(Montre("VitesseMaxi"), "");
     EXPECT_EQ(grille->NombreLignes(), 0);
     EXPECT_FALSE(etude.EtudeModifiee);
@@ -123,11 +123,13 @@ TEST_F(EcransLois, RefusedInputsAreToldWithTheFocusOnTheField) {
         {"LoiSpe", "", {"90", "45", "100", "100", "60"}, incomplet, "Text1"},
         {"LoiSpe", "", {"100", "50", "100", "5", "60"}, "\n" + Texte(622), "Text2"},
         {"LoiSpe", "", {"100", "85", "100", "90", "60"}, "\n" + Texte(622), "Text2"},
+        {"LoiSpe", "", {"90", "80", "100", "90", "60"}, "\n" + Texte(622), "Text2"},
         {"LoisLiq", "", {"90", "10", "60", "0"}, incomplet, "Text1"},
         {"LoisLiq", "", {"90", "10", "60", "0.5"}, Texte(382), "Text4"},
         {"LoiMSHDis", "", {"100", "97", "10", "60"}, Texte(389), "Text2"},
     };
     for (const Refus& r : refus) {
+        SCOPED_TRACE(r.texte);
         Ouvre(r.ecran, r.valeurs, r.loi);
         dialogues_.boites.clear();
         Calcule();
@@ -213,7 +215,11 @@ TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {
     const double ms = static_cast<double>(temps.nsecsElapsed()) / 1e6;
     RecordProperty("ms", std::to_string(ms));
     std::cout << "calculated and drawn in " << ms << " ms\n";
-    EXPECT_LT(ms, 500) << "also with the sanitizers";
+#ifdef NDEBUG
+    EXPECT_LT(ms, 30);
+#else
+    EXPECT_LT(ms, 500) << "with the sanitizers";
+#endif
 }
 
 TEST_F(EcransLois, NothingIsCutInAnyLanguage) {

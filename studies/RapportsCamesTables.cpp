@@ -1,6 +1,7 @@
 // The point-to-point tables. They are laid out by counting characters: a unit stands below the right end of its
 // column. A value too long for its column widens it, heading and all, so that no digit and no sign is ever cut.
 #include "core/Etude.h"
+#include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
 #include "reports/CadrePages.h"
 #include "studies/RapportsCames.h"
@@ -56,11 +57,12 @@ constexpr ColonneRapport colonnesLineaire[] = {
     {Vitesse, "m/sec", DuPoint<&Point::VitesseRayon>, MasqueMouvement, 11},
     {Accel, "m/sec²", DuPoint<&Point::AccelRayon>, MasqueMouvement, 11},
 };
-constexpr ColonneRapport colonnesCylindrique[] = {colonneAngle, colonneRayon, colonneVitesse, colonneAccel};
+constexpr ColonneRapport colonneHauteur{TexteHauteurCourte, "mm", DuPoint<&Point::Rayon>, MasqueMouvement, 7};
+constexpr ColonneRapport colonnesCylindrique[] = {colonneAngle, colonneHauteur, colonneVitesse, colonneAccel};
 // Kept on purpose: the heading names the arm, the rows end before it.
 constexpr ColonneRapport colonnesOscillation[] = {
     colonneAngle,
-    colonneRayon,
+    colonneHauteur,
     colonneVitesse,
     colonneAccel,
     {Bras, "", nullptr, "", 8},

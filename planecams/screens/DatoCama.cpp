@@ -43,7 +43,9 @@ constexpr struct {
              {"Text4", "O1-P"}, {"Text5", "P-O1-A"}, {"Text6", "galet"}};
 
 constexpr DescriptionSaisie description{"DatoCama",
-                                        {&Zone::AngleDepart, &Zone::AngleFinal, 175, 176, 177, UniteDegres, true, true},
+                                        ZonesAngulaire,
+                                        {"Text13", "Text14", "Text15", "Text16", "Text19"},
+                                        ChercheFauteAngulaire,
                                         ChercheFauteAngulaire,
                                         CalculeCameAngulaire};
 

@@ -38,10 +38,9 @@ QWidget* FaitSchema() {
     return cadre;
 }
 
-constexpr DescriptionSaisie description{"DoProfil",
-                                        {&Zone::RayonDepart, &Zone::RayonFinal, 183, 184, 177, UniteMm, false, false},
-                                        ChercheFauteLineaire,
-                                        CalculeCameLineaire};
+constexpr DescriptionSaisie description{
+    "DoProfil",           ZonesLineaire,        {"Text13", "Text14", "Text15", "Text16", "Text19"},
+    ChercheFauteLineaire, ChercheFauteLineaire, CalculeCameLineaire};
 
 } // namespace
 

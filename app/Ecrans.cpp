@@ -1,5 +1,7 @@
 #include "app/Ecrans.h"
 
+#include "cylindrical/screens/DoCyl.h"
+#include "cylindrical/screens/DoCylOsc.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
 #include "studies/screens/Resultat.h"
@@ -24,8 +26,8 @@ QWidget* CreeResultat(const DemandesEcran& demandes) {
 }
 
 constexpr EcranEnfant LesEcrans[] = {
-    {"DatoCama", "Retour", CreeSaisie<DatoCama>},
-    {"DoProfil", "Retour", CreeSaisie<DoProfil>},
+    {"DatoCama", "Retour", CreeSaisie<DatoCama>}, {"DoProfil", "Retour", CreeSaisie<DoProfil>},
+    {"DoCyl", "Retour", CreeSaisie<DoCyl>},       {"DoCylOsc", "Retour", CreeSaisie<DoCylOsc>},
     {"Resultat", "Quitter", CreeResultat},
 };
 

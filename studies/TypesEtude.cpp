@@ -1,10 +1,13 @@
 #include "studies/TypesEtude.h"
 
 #include "cylindrical/CamesCylindriques.h"
+#include "cylindrical/DessinProfilCyl.h"
+#include "cylindrical/DeveloppeeCyl.h"
 #include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "planecams/CamesPlates.h"
+#include "studies/DessinCame.h"
 
 #include <algorithm>
 #include <cctype>
@@ -78,13 +81,13 @@ constexpr DescriptionZones zonesConjuguees{
 
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, &ZonesAngulaire, M2, M2, false, CalculeCameAngulaire,
-     ChercheFauteAngulaire},
+     ChercheFauteAngulaire, false, DessineCamePlate},
     {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, &ZonesLineaire, M2Large, M2Large, false,
-     CalculeCameLineaire, ChercheFauteLineaire},
+     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate},
     {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, &ZonesCylindrique, M2Large, M2Large, false,
-     CalculeCameCylindrique, ChercheFauteCylindrique, true},
+     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl},
     {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, &ZonesOscillation, M2, M2, false,
-     CalculeCameCylOsc, ChercheFauteOscillation, true},
+     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl},
     {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true},
 };
 
@@ -128,6 +131,10 @@ std::string NomSansExtension(const std::string& nomFichier) {
 bool AChamp(const TypeEtude& type, double Etude::*membre) {
     return std::any_of(type.champs.begin(), type.champs.end(),
                        [membre](const ChampFichier& champ) { return champ.membre == membre; });
+}
+
+int DernierAngleDessin(const TypeEtude& type) {
+    return type.developpee && NombreTours() > 1 ? etude.NombrePoints / etude.PointsParDegre : 360;
 }
 
 double AngleExtreme(std::int16_t Etude::*repere) {

@@ -5,6 +5,7 @@
 #include "core/Etude.h"
 #include "planecams/DescriptionZones.h"
 #include "planecams/LimitesSaisie.h"
+#include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 
 #include <filesystem>
@@ -37,6 +38,8 @@ struct TypeEtude {
     bool developpee =
         false; ///< cut on a cylinder: heights for radii, and extremes that keep the subscript of their point
 
+    void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
+
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }
 };
@@ -55,6 +58,10 @@ std::string NomSansExtension(const std::string& nomFichier);
 
 /// True when the kind of study has that scalar.
 bool AChamp(const TypeEtude& type, double Etude::*membre);
+
+/// Last cam angle that the drawing of the present results can be brought to, in whole degrees: a plane cam turns once,
+/// a developed one is walked along to the end of its last turn.
+int DernierAngleDessin(const TypeEtude& type);
 
 /// Cam angle at which an extreme value of the present study stands, in whole degrees.
 double AngleExtreme(std::int16_t Etude::*repere);

@@ -154,7 +154,10 @@ void DessineGraduationsDeveloppee(Dessin& dessin, const PapierDeveloppee& papier
         dessin.Ligne(bord, papier({x, d.haut}), {Couleur::Graduation, 0.1});
         const std::string angle = std::to_string(degres) + "°", arc = Format(x, MasqueDeveloppee);
         if (debout) {
-            dessin.Texte({bord.x - cran, bord.y}, angle + "  " + arc, Ancrage::Droite, HauteurTexte * 0.8);
+            // The arc next to the edge, the angle outside it, each in its own column.
+            constexpr double colonne = 14;
+            dessin.Texte({bord.x - cran, bord.y}, arc, Ancrage::Droite, HauteurTexte * 0.8);
+            dessin.Texte({bord.x - cran - colonne, bord.y}, angle, Ancrage::Droite, HauteurTexte * 0.8);
         } else {
             dessin.Texte({bord.x, bord.y + ligne}, angle, Ancrage::Centre, HauteurTexte * 0.8);
             dessin.Texte({bord.x, bord.y + 2 * ligne}, arc, Ancrage::Centre, HauteurTexte * 0.8);

@@ -270,6 +270,20 @@ TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
     EXPECT_TRUE(Visible("DatoCama")) << "the data screen comes back";
 }
 
+TEST_F(Fenetre, UneCameCylindriqueOuverteRevientASonEcranDeSaisie) {
+    for (const auto& [fichier, ecran] : {std::pair{"Barillet.Cyl", "DoCyl"}, {"Balancier.Osc", "DoCylOsc"}}) {
+        mdi_.FermeEcrans();
+        mdi_.OuvreFichier(Exemple().parent_path() / fichier);
+        ASSERT_TRUE(Visible("Resultat")) << Etat();
+        Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
+        ASSERT_TRUE(Visible(ecran));
+        Clique(*mdi_.EcranOuvert(ecran), "Calculer");
+        EXPECT_TRUE(Visible("Resultat"));
+        EXPECT_FALSE(Visible(ecran));
+        EXPECT_EQ(etude.EtudeModifiee, Vrai);
+    }
+}
+
 TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
     mdi_.OuvreFichier(Exemple());
     Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");

@@ -272,7 +272,7 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
         }
         const auto tour = Format(Pi * etude.DiametreCame, "####.00");
         EXPECT_TRUE(std::any_of(page.etiquettes.begin(), page.etiquettes.end(), [&](const auto& etiquette) {
-            return etiquette.texte.find(tour) != std::string::npos;
+            return etiquette.texte == tour;
         })) << tour;
 
         imprimante = ImprimanteNotee();

@@ -10,7 +10,7 @@ git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
 cmake --preset release >/dev/null
 cmake --build --preset release -j "$(nproc)"
-git ls-files 'core/*.cpp' 'data/*.cpp' 'laws/*.cpp' 'planecams/*.cpp' 'studies/*.cpp' ':!*/screens/*' |
+git ls-files 'core/*.cpp' 'data/*.cpp' 'laws/*.cpp' 'planecams/*.cpp' 'cylindrical/*.cpp' 'studies/*.cpp' ':!*/screens/*' |
     xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/release 2>/dev/null
 ctest --preset release
 

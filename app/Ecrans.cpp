@@ -1,5 +1,7 @@
 #include "app/Ecrans.h"
 
+#include "cylindrical/screens/DoCyl.h"
+#include "cylindrical/screens/DoCylOsc.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -38,6 +40,8 @@ QWidget* CreeLoi(const char* nom, const DemandesEcran& demandes) {
 constexpr EcranEnfant LesEcrans[] = {
     {"DatoCama", "Retour", CreeSaisie<DatoCama>},
     {"DoProfil", "Retour", CreeSaisie<DoProfil>},
+    {"DoCyl", "Retour", CreeSaisie<DoCyl>},
+    {"DoCylOsc", "Retour", CreeSaisie<DoCylOsc>},
     {"Resultat", "Quitter", CreeResultat},
     {"LoiMouv", "Retour", CreeLoi},
     {"LoiHes", "Retour", CreeLoi},

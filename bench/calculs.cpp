@@ -17,11 +17,11 @@ namespace {
 
 constexpr long PasLoi = 3600;
 
-/// The worked example of the program, with `points` points around the cam.
-void PrepareEtude(long points) {
+/// A worked example of the program, with `points` points around the cam.
+void PrepareEtude(long points, const char* exemple = "Exemple.Ang") {
     etude = Etude{};
     ChargeLois();
-    LitFichierEtude(CheminAppli / NomDossierEtudes / "Exemple.Ang");
+    LitFichierEtude(CheminAppli / NomDossierEtudes / exemple);
     etude.PointsParDegre = Entier16(static_cast<double>(points) / 360.0);
 }
 
@@ -49,8 +49,8 @@ void PlancherLoi(benchmark::State& etat) {
         }
 }
 
-void MesureCameAngulaire(benchmark::State& etat) {
-    PrepareEtude(etat.range(0));
+void MesureCame(benchmark::State& etat, const char* exemple) {
+    PrepareEtude(etat.range(0), exemple);
     for (auto _ : etat) {
         CalculeEtude();
         benchmark::DoNotOptimize(etude.CoupleMax);
@@ -87,6 +87,33 @@ void PlancherCameAngulaire(benchmark::State& etat) {
                                std::sqrt(part + 1.0),
                                std::sqrt(part + 2.0)};
             benchmark::DoNotOptimize(autres);
+        }
+}
+
+/// A point of a cylindrical cam takes the pairs of the unit law and of the slope, an arctangent and two square roots
+/// for the roller speed and the radius of curvature, and the slope's pair again for the forces; on an arm the sine of
+/// its angle too.
+void PlancherCylindre(benchmark::State& etat, bool bras) {
+    const long points = etat.range(0);
+    for (auto _ : etat)
+        for (long i = 0; i <= points; ++i) {
+            const double part = static_cast<double>(i) / static_cast<double>(points);
+            for (const Plage& plage : {Plage{0, Pi / 2}, Plage{-0.5, 0.5}}) {
+                double angle = plage.debut + part * (plage.fin - plage.debut);
+                benchmark::DoNotOptimize(angle);
+                double sinus = std::sin(angle), cosinus = std::cos(angle);
+                benchmark::DoNotOptimize(sinus);
+                benchmark::DoNotOptimize(cosinus);
+            }
+            double angle = part - 0.5;
+            benchmark::DoNotOptimize(angle);
+            double autres[] = {std::sin(angle), std::cos(angle), std::atan(part), std::sqrt(part),
+                               std::sqrt(part + 1.0)};
+            benchmark::DoNotOptimize(autres);
+            if (bras) {
+                double sinus = std::sin(part - 0.25);
+                benchmark::DoNotOptimize(sinus);
+            }
         }
 }
 
@@ -139,14 +166,22 @@ BENCHMARK(MesureEcriturePoints)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(MesureAppliqueLoi, MS, "MS");
 BENCHMARK_CAPTURE(MesureAppliqueLoi, CYC, "CYC");
 BENCHMARK(PlancherLoi);
-BENCHMARK(MesureCameAngulaire)->Arg(3600)->Arg(32760)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MesureCame, Angulaire, "Exemple.Ang")->Arg(3600)->Arg(32760)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MesureCame, Cylindrique, "Barillet.Cyl")->Arg(3600)->Arg(32760)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MesureCame, Oscillation, "Balancier.Osc")->Arg(3600)->Arg(32760)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(PlancherCylindre, Cylindrique, false)->Arg(3600)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(PlancherCylindre, Oscillation, true)->Arg(3600)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PlancherCameAngulaire)->Arg(3600)->Unit(benchmark::kMicrosecond);
 
 constexpr Limite limites[] = {
     {"MesureAppliqueLoi/MS", "PlancherLoi", 1.5},
     {"MesureAppliqueLoi/CYC", "PlancherLoi", 1.5},
-    {"MesureCameAngulaire/3600", "PlancherCameAngulaire/3600", 2.0},
-    {"MesureCameAngulaire/32760", "MesureCameAngulaire/3600", 1.3, 32760.0 / 3600.0},
+    {"MesureCame/Angulaire/3600", "PlancherCameAngulaire/3600", 2.0},
+    {"MesureCame/Angulaire/32760", "MesureCame/Angulaire/3600", 1.3, 32760.0 / 3600.0},
+    {"MesureCame/Cylindrique/3600", "PlancherCylindre/Cylindrique/3600", 2.0},
+    {"MesureCame/Cylindrique/32760", "MesureCame/Cylindrique/3600", 1.3, 32760.0 / 3600.0},
+    {"MesureCame/Oscillation/3600", "PlancherCylindre/Oscillation/3600", 2.0},
+    {"MesureCame/Oscillation/32760", "MesureCame/Oscillation/3600", 1.3, 32760.0 / 3600.0},
     {"MesureFichierPoints", "PlancherTextes/Points", 2.0},
     {"MesureScript", "PlancherTextes/Script", 2.0},
 };

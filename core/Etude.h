@@ -28,8 +28,8 @@ struct Zone {
     double AngleFinal = 0;   ///< value at the end, degrees of the arm
     double AngleCame = 0;    ///< cam angle, degrees; in points while a pipeline runs
     double Temps = 0;        ///< duration, s
-    double RayonDepart = 0;  ///< roller centre radius at the start, mm
-    double RayonFinal = 0;   ///< roller centre radius at the end, mm
+    double RayonDepart = 0;  ///< roller centre radius at the start, or its height on a cylindrical cam, mm
+    double RayonFinal = 0;   ///< the same at the end, mm
     std::string NomLoi;      ///< key of the law, "Fichier", or a key with "_" and a percentage
     double CoefSymetrie = 0; ///< 0 to 1; 0.5 is symmetric
 };
@@ -58,9 +58,9 @@ struct PointLoi {
 
 /// What is known of one point of the cam.
 struct Point {
-    double Angle = 0;                ///< cam angle, degrees
-    double AngleBras = 0;            ///< arm angle, degrees
-    double Rayon = 0;                ///< cam centre to roller centre, mm
+    double Angle = 0;     ///< cam angle, degrees
+    double AngleBras = 0; ///< arm angle, degrees
+    double Rayon = 0;     ///< cam centre to roller centre, or height of the roller centre along a cylinder's axis, mm
     double VitesseRayon = 0;         ///< m/s
     double AccelRayon = 0;           ///< m/s²
     double XA = 0, YA = 0;           ///< point on the arm, mm
@@ -71,9 +71,12 @@ struct Point {
     double Couple = 0;               ///< cam torque, N m
 };
 
-/// The curves at one point of the cam. X and Y in mm; 1 and 2 mark first and second differences.
+/// The curves at one point of the cam. X and Y in mm; 1 and 2 mark first and second differences. On a cylindrical cam
+/// they are the flanks of the groove on the developed surface.
 struct PointProfil {
-    double AngleTangent = 0; ///< from the radius to the tangent of the pitch curve, radians; Pi / 2 means no pressure
+    /// From the radius to the tangent of the pitch curve, radians; Pi / 2 means no pressure. On a cylindrical cam the
+    /// slope of the track.
+    double AngleTangent = 0;
     double DeriveeRayon = 0, Derivee2Rayon = 0;
     double RayonCourbure = 0; ///< of the pitch curve, mm; 0 where it is straight
     double XInterieur = 0, XInterieur1 = 0, XInterieur2 = 0;
@@ -88,7 +91,7 @@ struct Etude {
     std::string TypeCame;   ///< "Angulaire", "Lineaire", "Cylindrique", "Oscillation" or "ConjuguesOscillation"
     std::string NomFichier; ///< file name of the study without its directory
 
-    double CoteA = 0, CoteB = 0;               ///< the arm pivot O1 relative to the cam centre, mm
+    double CoteA = 0, CoteB = 0;               ///< the arm pivot O1 relative to the cam centre or axis, mm
     double RayonO1A = 0;                       ///< O1 to the force point A, mm
     double RayonO1P = 0;                       ///< O1 to the roller centre P, mm
     double AnglePO1A = 0;                      ///< between the two arms, degrees
@@ -136,6 +139,7 @@ struct Etude {
     double ExcentriciteLiq = 0;             ///< coefficient A of the first rise of the law for liquids
     Booleen16 SortieEnDegres = Faux;        ///< the output is an angle
 
+    // The angle of a maximum is a cam angle in whole degrees; on a cylindrical cam it is the subscript of its point.
     double RayonMax = 0, RayonMin = 0; ///< mm
     double VitesseRayonMax = 0, AccelRayonMax = 0;
     std::int16_t VitesseRayonMaxAngle = 0, AccelRayonMaxAngle = 0;

@@ -36,7 +36,7 @@ std::optional<std::string> EnregistreLoi(const std::string& nom) {
     if (genre == nullptr) return {};
     // A reader takes the first 720 points and no more: a longer law would be cut without a word.
     if (genre->compose == ComposeFichierLoi && etude.NombrePoints > PointsLoiFichier) {
-        LesDialogues().Message(Icone::Avertissement, Texte(796));
+        LesDialogues().Message(Icone::Avertissement, Texte(800));
         return {};
     }
     const std::string motif = std::string("*.") + genre->extension;

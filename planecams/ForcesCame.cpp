@@ -1,16 +1,11 @@
-// Gravity 9.81 m/s²; the inertia term bears a dynamic factor of 1.4; the cam is of steel, 7.8 kg/dm³, and its outer
-// radius is taken as the largest radius of the roller centre plus one roller diameter.
+// The outer radius of a plane cam is taken as the largest radius of the roller centre plus one roller diameter.
 #include "planecams/ForcesCame.h"
 
-#include "core/Etude.h"
+#include "planecams/ParcoursZones.h"
 
 #include <cmath>
 
 namespace {
-
-constexpr double Gravite = 9.81;
-constexpr double FacteurDynamique = 1.4;
-constexpr double MasseVolumique = 7.8;
 
 /// Thickness and radius in dm for the mass, in m for the inertia.
 void CalculeMasseCame() {
@@ -19,29 +14,26 @@ void CalculeMasseCame() {
     etude.InertieCame = (rayon / 1000.0) * (rayon / 1000.0) * etude.MasseCame * 0.5;
 }
 
-/// Acceleration of gravity along the direction that the follower works in, m/s².
+} // namespace
+
 double GraviteProjetee() {
     const double g = (etude.AnglePesanteur - 90.0) * Pi / 180.0;
     return (std::cos(g) - std::sin(g)) * Gravite;
 }
 
-void SuitEfforts(const Point& p) {
-    if (std::abs(p.ForceGalet) > etude.ForceGaletMax) {
-        etude.ForceGaletMax = std::abs(p.ForceGalet);
-        etude.ForceGaletMaxAngle = Entier16(p.Angle);
-    }
-    if (std::abs(p.Couple) > etude.CoupleMax) {
-        etude.CoupleMax = std::abs(p.Couple);
-        etude.CoupleMaxAngle = Entier16(p.Angle);
-    }
+void RemetEfforts() {
+    etude.ForceGaletMax = 0;
+    etude.CoupleMax = 0;
 }
 
-} // namespace
+void SuitEfforts(const Point& p, double repere) {
+    SuitMaximum(p.ForceGalet, repere, etude.ForceGaletMax, etude.ForceGaletMaxAngle);
+    SuitMaximum(p.Couple, repere, etude.CoupleMax, etude.CoupleMaxAngle);
+}
 
 void CalculeForcesBras() {
     const double la = etude.RayonO1A / 1000.0, lp = etude.RayonO1P / 1000.0;
-    etude.ForceGaletMax = 0;
-    etude.CoupleMax = 0;
+    RemetEfforts();
     etude.InertieMasseA = la * la * etude.MasseA;
     etude.InertieBras = la * la * etude.MasseBrasO1A * (1.0 / 3.0) + lp * lp * etude.MasseBrasO1P * (1.0 / 3.0);
     const double J = etude.InertieBras + etude.InertieMasseA;
@@ -59,13 +51,12 @@ void CalculeForcesBras() {
         const double Mx = la * etude.ForceX * std::sin(theta);
         p.ForceGalet = Divise(m.Accel * (J * FacteurDynamique) - (M1 + M2) * gravite, lp);
         p.Couple = (p.Rayon / 1000.0) * p.ForceGalet * std::tan(etude.Profil[i].AngleTangent - Pi / 2.0) + Mx + My;
-        SuitEfforts(p);
+        SuitEfforts(p, p.Angle);
     }
 }
 
 void CalculeForcesLineaire() {
-    etude.ForceGaletMax = 0;
-    etude.CoupleMax = 0;
+    RemetEfforts();
     CalculeMasseCame();
     const double gravite = GraviteProjetee();
     for (long i = 0; i <= etude.NombrePoints; ++i) {
@@ -73,6 +64,6 @@ void CalculeForcesLineaire() {
         const double b = etude.Profil[i].AngleTangent - Pi / 2.0;
         p.ForceGalet = Divise(etude.MasseA * (FacteurDynamique * p.AccelRayon + gravite) + etude.ForceY, std::cos(b));
         p.Couple = (p.Rayon / 1000.0) * p.ForceGalet * std::tan(b);
-        SuitEfforts(p);
+        SuitEfforts(p, p.Angle);
     }
 }

@@ -2,29 +2,13 @@
 
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "planecams/DifferencesProfil.h"
 #include "platform/Dialogues.h"
 
 #include <cmath>
 #include <string>
 
 namespace {
-
-struct Difference {
-    double PointProfil::*de;
-    double PointProfil::*vers;
-};
-
-constexpr Difference premieres[] = {
-    {&PointProfil::XExterieur, &PointProfil::XExterieur1},
-    {&PointProfil::YExterieur, &PointProfil::YExterieur1},
-    {&PointProfil::XInterieur, &PointProfil::XInterieur1},
-    {&PointProfil::YInterieur, &PointProfil::YInterieur1},
-};
-constexpr Difference secondes[] = {
-    {&PointProfil::DeriveeRayon, &PointProfil::Derivee2Rayon}, {&PointProfil::XExterieur1, &PointProfil::XExterieur2},
-    {&PointProfil::YExterieur1, &PointProfil::YExterieur2},    {&PointProfil::XInterieur1, &PointProfil::XInterieur2},
-    {&PointProfil::YInterieur1, &PointProfil::YInterieur2},
-};
 
 /// Difference of two neighbours against the cam angle. The division by `PointsParDegre` is required as it stands, so
 /// that this is the true derivative with one point per degree only.
@@ -60,26 +44,16 @@ void CalculeCourbesDecalees() {
 }
 
 void CalculeDifferences() {
-    const long N = etude.NombrePoints;
     // Index of the last degree, not of the last point: with more than one point per degree the closing value lands in
     // mid-table and the last point keeps 0, as required.
-    const long M = Entier16(static_cast<double>(N) / etude.PointsParDegre);
-    for (long i = 0; i < N; ++i) {
-        PointProfil& ici = etude.Profil[i];
-        const PointProfil& suivant = etude.Profil[i + 1];
-        ici.DeriveeRayon = Derive(etude.Points[i].Rayon, etude.Points[i + 1].Rayon);
-        for (const auto& d : premieres) ici.*d.vers = Derive(ici.*d.de, suivant.*d.de);
-    }
+    const long M = Entier16(static_cast<double>(etude.NombrePoints) / etude.PointsParDegre);
+    CalculePremieresDifferences(Derive);
     PointProfil& fin = etude.Profil[M];
     const PointProfil& debut = etude.Profil[0];
     fin.DeriveeRayon = debut.DeriveeRayon;
     fin.YExterieur1 = debut.YExterieur1;
     fin.YInterieur1 = debut.YInterieur1;
-    for (long i = 0; i < N; ++i) {
-        PointProfil& ici = etude.Profil[i];
-        const PointProfil& suivant = etude.Profil[i + 1];
-        for (const auto& d : secondes) ici.*d.vers = Derive(ici.*d.de, suivant.*d.de);
-    }
+    CalculeSecondesDifferences(Derive);
     fin.Derivee2Rayon = debut.Derivee2Rayon;
     fin.YExterieur2 = debut.YExterieur2;
     fin.YInterieur2 = debut.YInterieur2;
@@ -121,6 +95,11 @@ void CalculeRayonsCourbure(bool developpee, bool conjuguees) {
     }
 }
 
+/// A radius of 0 stands for a straight curve, which no roller is too large for.
+bool TropPetit(double rayonCourbure) {
+    return rayonCourbure != 0.0 && std::abs(rayonCourbure) < etude.RayonGalet;
+}
+
 std::string LigneCourbure(long point, int texte) {
     return Texte(439) + " : " + std::to_string(point) + " => " + Texte(texte) + "\n";
 }
@@ -133,8 +112,16 @@ void CalculeProfil() {
     CalculeDifferences();
 }
 
+bool CameDeveloppee() {
+    return etude.TypeCame == "Oscillation" || etude.TypeCame == "Cylindrique";
+}
+
+double Pente(double angleTangent) {
+    return angleTangent * 180.0 / Pi - (CameDeveloppee() ? 0.0 : 90.0);
+}
+
 double PenteMaxi() {
-    return etude.AngleTangentMax * 180.0 / Pi - 90.0;
+    return Pente(etude.AngleTangentMax);
 }
 
 void ControleBrasCentre() {
@@ -148,22 +135,20 @@ void ControleBrasCentre() {
 }
 
 void ControleCourbure() {
-    const bool developpee = etude.TypeCame == "Oscillation" || etude.TypeCame == "Cylindrique";
     const bool conjuguees = etude.TypeCame == "ConjuguesOscillation";
-    CalculeRayonsCourbure(developpee, conjuguees);
+    CalculeRayonsCourbure(CameDeveloppee(), conjuguees);
 
-    const double G = etude.RayonGalet;
     int nombre = 0;
     std::string pitch, exterieur;
     for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
         const PointProfil& c = etude.Profil[i];
         if (c.RayonCourbure < 0.0) {
-            if (std::abs(c.RayonCourbureInterieur) < G) {
+            if (TropPetit(c.RayonCourbureInterieur)) {
                 ++nombre;
                 pitch += LigneCourbure(i, 632);
             }
-            if (!conjuguees && std::abs(c.RayonCourbureExterieur) < G) exterieur += LigneCourbure(i, 633);
-        } else if (c.RayonCourbure > 0.0 && c.RayonCourbure < G) {
+            if (!conjuguees && TropPetit(c.RayonCourbureExterieur)) exterieur += LigneCourbure(i, 633);
+        } else if (c.RayonCourbure > 0.0 && TropPetit(c.RayonCourbure)) {
             ++nombre;
             pitch += LigneCourbure(i, 631);
         }

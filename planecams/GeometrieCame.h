@@ -5,7 +5,14 @@
 /// `Points.Rayon` to `Profil`: tangent angle, inner and outer offset curves, first and second differences.
 void CalculeProfil();
 
-/// Largest slope of the profile in degrees, signed: 0 where the tangent is square to the radius.
+/// True for a cam cut on a cylinder, whose curves are those of the developed surface.
+bool CameDeveloppee();
+
+/// Slope of the profile in degrees that a tangent angle (radians) stands for, signed: 0 where the follower rests. A
+/// plane cam's angle is counted from the radius, a developed one's from the circumference.
+double Pente(double angleTangent);
+
+/// Largest slope of the profile in degrees, signed.
 double PenteMaxi();
 
 /// The arm must not cross the line from the cam centre to the pivot: sets `Erreur` and says so when it does.

@@ -5,39 +5,22 @@
 
 #include <algorithm>
 
-namespace {
-
-/// What a scalar must not be.
-struct Limite {
-    FauteDonnee faute;
-    bool (*interdit)(double valeur);
-};
-
-bool Nul(double valeur) {
-    return valeur == 0.0;
-}
-bool NulOuNegatif(double valeur) {
-    return !(valeur > 0.0);
-}
-
-std::optional<FauteDonnee> ChercheFaute(std::span<const Limite> limites) {
+std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites) {
     for (const auto& limite : limites)
         if (limite.interdit(etude.*limite.faute.membre)) return limite.faute;
     return {};
 }
 
-} // namespace
-
 std::optional<FauteDonnee> ChercheFauteAngulaire() {
-    constexpr Limite limites[] = {{{&Etude::CoteA, 197}, Nul},
-                                  {{&Etude::RayonO1P, 202}, Nul},
-                                  {{&Etude::RayonGalet, 201}, NulOuNegatif},
-                                  {{&Etude::VitesseCame, 200}, Nul}};
+    constexpr LimiteSaisie limites[] = {{{&Etude::CoteA, 197}, Nul},
+                                        {{&Etude::RayonO1P, 202}, Nul},
+                                        {{&Etude::RayonGalet, 201}, NulOuNegatif},
+                                        {{&Etude::VitesseCame, 200}, Nul}};
     return ChercheFaute(limites);
 }
 
 std::optional<FauteDonnee> ChercheFauteLineaire() {
-    constexpr Limite limites[] = {{{&Etude::RayonGalet, 201}, NulOuNegatif}, {{&Etude::VitesseCame, 200}, Nul}};
+    constexpr LimiteSaisie limites[] = {{{&Etude::RayonGalet, 201}, NulOuNegatif}, {{&Etude::VitesseCame, 200}, Nul}};
     return ChercheFaute(limites);
 }
 

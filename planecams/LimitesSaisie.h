@@ -14,6 +14,22 @@ struct FauteDonnee {
     int texte;
 };
 
+/// What a scalar must not be.
+struct LimiteSaisie {
+    FauteDonnee faute;
+    bool (*interdit)(double valeur);
+};
+
+inline bool Nul(double valeur) {
+    return valeur == 0.0;
+}
+inline bool NulOuNegatif(double valeur) {
+    return !(valeur > 0.0);
+}
+
+/// The first scalar that is what it must not be; none when all will do.
+std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites);
+
 /// The first scalar of the arm cam at which the calculation could not but divide by zero; none when all will do.
 std::optional<FauteDonnee> ChercheFauteAngulaire();
 

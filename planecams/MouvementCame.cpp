@@ -1,20 +1,12 @@
 #include "planecams/MouvementCame.h"
 
 #include "data/Textes.h"
-#include "laws/CalculLois.h"
+#include "planecams/ParcoursZones.h"
 #include "platform/Dialogues.h"
 
 #include <cmath>
 
 namespace {
-
-/// Follows the largest magnitude, and the cam angle at which it stands, in whole degrees.
-void SuitMaximum(double valeur, double angle, double& maximum, std::int16_t& angleMaximum) {
-    if (std::abs(valeur) > maximum) {
-        maximum = std::abs(valeur);
-        angleMaximum = Entier16(angle);
-    }
-}
 
 /// The points whose radius is too small for the roller, told in one box at the end.
 struct PointsTropPetits {
@@ -31,30 +23,9 @@ struct PointsTropPetits {
     }
 };
 
-void RemetExtremes() {
-    // The maxima of the law and of the roller speed go on growing from one calculation to the next while the program
-    // runs.
-    etude.RayonMax = 0;
-    etude.RayonMin = 1e18;
-    etude.VitesseRayonMax = 0;
-    etude.AccelRayonMax = 0;
-}
-
-void SuitRayon(double rayon) {
-    if (rayon > etude.RayonMax) etude.RayonMax = rayon;
-    if (rayon < etude.RayonMin) etude.RayonMin = rayon;
-}
-
 /// Roller speed in Tr/min, rounded down: the roller runs on the profile at the radius of the cam there.
 void CalculeVitesseGalet(Point& p) {
     p.VitesseGalet = Int(Divise((p.Rayon - etude.RayonGalet) * etude.VitesseCame, etude.RayonGalet));
-    if (p.VitesseGalet > etude.VitesseGaletMax) etude.VitesseGaletMax = p.VitesseGalet;
-}
-
-void CalculeVitesseGaletMoyenne() {
-    double somme = 0;
-    for (long k = 1; k <= etude.NombrePoints; ++k) somme += etude.Points[k].VitesseGalet;
-    etude.VitesseGaletMoyenne = Int(Divise(somme, etude.NombrePoints));
 }
 
 /// Speed and acceleration of the radius, from those of the arm. phi is the direction of O1-P; metres and seconds.
@@ -83,13 +54,6 @@ void CalculePointA(Point& p, const PointLoi& m) {
     p.AA = 0.001 * etude.CoteA * std::sqrt(A * A + V * V * V * V);
 }
 
-/// What a zone gives to each of its points.
-struct Parcours {
-    double course; ///< signed travel, degrees or mm
-    double depart; ///< value at its start: the end of the zone before
-    double T;      ///< duration, s
-};
-
 void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcours& zone) {
     const double course = zone.course, T = zone.T;
     m.Course = course * unite.Course + zone.depart;
@@ -109,44 +73,6 @@ void CalculePointLineaire(Point& p, const PointLoi& unite, const Parcours& zone)
     p.Rayon = unite.Course * zone.course + zone.depart;
     p.VitesseRayon = unite.Vitesse * C / zone.T;
     p.AccelRayon = unite.Accel * C / (zone.T * zone.T);
-}
-
-/// Walks the zones and calculates each point, from the unit law of its zone and from where the zone before ended.
-/// @param calcule called with the subscript of the point, its row of the unit law and its zone; it sets radius, speed
-/// and
-///        acceleration of the point
-template <class Calcule>
-void DerouleZones(double Zone::*valeurDepart, double Zone::*valeurFinale, bool loiDeFichier, Calcule calcule) {
-    RemetExtremes();
-    PointsTropPetits tropPetits;
-    std::int16_t decalage = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        if (!loiDeFichier) AppliqueLoi(z);
-        const Zone& zone = etude.Zones[z];
-        if (z == 1) etude.Zones[0].*valeurFinale = zone.*valeurDepart;
-        const Parcours parcours{CourseSignee(zone.*valeurDepart, zone.*valeurFinale), etude.Zones[z - 1].*valeurFinale,
-                                zone.Temps};
-        if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
-        // The last point of a zone is written again by the first of the next.
-        for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
-            const long k = decalage + j;
-            Point& p = etude.Points[k];
-            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
-            calcule(k, etude.LoiUnite[j], parcours);
-            if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon))
-                throw ErreurExecution(NumeroErreur::ResultatNonFini);
-            tropPetits.Controle(p.Rayon, k);
-            SuitRayon(p.Rayon);
-            SuitMaximum(p.VitesseRayon, p.Angle, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
-            SuitMaximum(p.AccelRayon, p.Angle, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
-            CalculeVitesseGalet(p);
-        }
-        decalage = Entier16(decalage + zone.AngleCame);
-    }
-    // Rounding may have made room for a point that no zone reached.
-    if (etude.Points[etude.NombrePoints].Rayon == 0.0) throw ErreurExecution(NumeroErreur::PointsIncomplets);
-    CalculeVitesseGaletMoyenne();
-    tropPetits.Annonce();
 }
 
 } // namespace
@@ -189,36 +115,29 @@ void CompleteZones(bool bras) {
     etude.Erreur = atteintes ? Faux : Vrai;
 }
 
+// The maxima of the law and of the roller speed are not cleared: they go on growing from one calculation to the next
+// while the program runs.
+
 void CalculeMouvementBras() {
-    // A law file has filled the unit law already, and left the catalogue with its one row.
-    const bool loiDeFichier = etude.ListeLois[1].NomLoi == NomLoiFichier;
-    DerouleZones(&Zone::AngleDepart, &Zone::AngleFinal, loiDeFichier,
-                 [](long k, const PointLoi& unite, const Parcours& zone) {
-                     CalculePointBras(etude.Points[k], etude.Mouvement[k], unite, zone);
+    PointsTropPetits tropPetits;
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false},
+                 [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                     Point& p = etude.Points[lieu.k];
+                     CalculePointBras(p, etude.Mouvement[lieu.k], unite, zone);
+                     tropPetits.Controle(p.Rayon, lieu.k);
+                     CalculeVitesseGalet(p);
                  });
+    tropPetits.Annonce();
 }
 
 void CalculeMouvementLineaire() {
-    DerouleZones(&Zone::RayonDepart, &Zone::RayonFinal, false, [](long k, const PointLoi& unite, const Parcours& zone) {
-        CalculePointLineaire(etude.Points[k], unite, zone);
-    });
-}
-
-ZonesEnPoints::ZonesEnPoints() {
-    for (const Zone& zone : etude.Zones) degres_.push_back(zone.AngleCame);
-}
-
-ZonesEnPoints::~ZonesEnPoints() {
-    std::size_t z = 0;
-    for (Zone& zone : etude.Zones)
-        if (z < degres_.size()) zone.AngleCame = degres_[z++];
-}
-
-void ZonesEnPoints::Passe() {
-    etude.NombrePoints = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        Zone& zone = etude.Zones[z];
-        zone.AngleCame = zone.AngleCame * etude.PointsParDegre;
-        etude.NombrePoints = Entier16(etude.NombrePoints + Arrondi(zone.AngleCame));
-    }
+    PointsTropPetits tropPetits;
+    DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, false, false, false},
+                 [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                     Point& p = etude.Points[lieu.k];
+                     CalculePointLineaire(p, unite, zone);
+                     tropPetits.Controle(p.Rayon, lieu.k);
+                     CalculeVitesseGalet(p);
+                 });
+    tropPetits.Annonce();
 }

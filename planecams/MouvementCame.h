@@ -40,20 +40,3 @@ void CalculeMouvementBras();
 /// Zones to `Points` of the cam with a translating follower, with the extreme values. The zones give radii, and every
 /// zone is evaluated by its law: a law file has no place here.
 void CalculeMouvementLineaire();
-
-/// Holds the extents of the zones in points for the length of a calculation. They are back in degrees when it is over,
-/// on every way out.
-class ZonesEnPoints {
-public:
-    ZonesEnPoints();
-    ~ZonesEnPoints();
-    ZonesEnPoints(const ZonesEnPoints&) = delete;
-    ZonesEnPoints& operator=(const ZonesEnPoints&) = delete;
-
-    /// Multiplies the extents by `PointsParDegre` and sums the rounded extents into `NombrePoints`.
-    /// @throws ErreurExecution overflow above 32767 points.
-    void Passe();
-
-private:
-    std::vector<double> degres_;
-};

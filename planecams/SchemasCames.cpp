@@ -1,56 +1,13 @@
 #include "planecams/SchemasCames.h"
 
 #include "core/Etude.h"
+#include "planecams/PlanDessin.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
 namespace {
-
-/// A plane in mechanism units, y up, fitted into the middle of the surface.
-class Plan {
-public:
-    Plan(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge)
-        : dessin_(dessin), echelle_(std::min((dessin.Largeur() - 2 * marge) / (coinHaut.x - coinBas.x),
-                                             (dessin.Hauteur() - 2 * marge) / (coinHaut.y - coinBas.y))),
-          x0_(dessin.Largeur() / 2 - echelle_ * (coinBas.x + coinHaut.x) / 2),
-          y0_(dessin.Hauteur() / 2 + echelle_ * (coinBas.y + coinHaut.y) / 2) {}
-
-    PointDessin operator()(PointDessin p) const { return {x0_ + echelle_ * p.x, y0_ - echelle_ * p.y}; }
-    void Ligne(PointDessin a, PointDessin b, const Trait& t) { dessin_.Ligne((*this)(a), (*this)(b), t); }
-    void Cercle(PointDessin c, double r, const Trait& t) { dessin_.Cercle((*this)(c), r * echelle_, t); }
-    void Disque(PointDessin c, double r, const Trait& t) { dessin_.Disque((*this)(c), r * echelle_, t); }
-    void Nom(PointDessin p, const std::string& nom, Ancrage ancrage, bool accent) {
-        dessin_.Texte((*this)(p), nom, ancrage, 13, accent ? Couleur::Repere : Couleur::Texte);
-    }
-    void Contour(std::vector<PointDessin> points, const Trait& t, bool plein) {
-        for (auto& p : points) p = (*this)(p);
-        plein ? dessin_.Surface(points, t) : dessin_.Polyligne(points, t);
-    }
-    void Fleche(PointDessin de, PointDessin vers, const Trait& t);
-
-private:
-    Dessin& dessin_;
-    double echelle_, x0_, y0_;
-};
-
-PointDessin Polaire(PointDessin centre, double rayon, double degres) {
-    return {centre.x + rayon * std::cos(degres / RadDeg), centre.y + rayon * std::sin(degres / RadDeg)};
-}
-
-void Plan::Fleche(PointDessin de, PointDessin vers, const Trait& t) {
-    Ligne(de, vers, t);
-    const double angle = std::atan2(vers.y - de.y, vers.x - de.x) * RadDeg;
-    const double longueur = 7.0 / echelle_;
-    for (const double ecart : {160.0, -160.0}) Ligne(vers, Polaire(vers, longueur, angle + ecart), t);
-}
-
-std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a) {
-    std::vector<PointDessin> points;
-    for (int i = 0; i <= 40; ++i) points.push_back(Polaire(centre, rayon, de + (a - de) * i / 40));
-    return points;
-}
 
 /// A cam that touches the roller of radius `galet` at `P`, and swells on the far side.
 std::vector<PointDessin> ContourCame(PointDessin P, double galet) {
@@ -75,7 +32,7 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
     const auto trait = [&](const char* nom, Trait ordinaire) {
         return accent == nom ? Trait{Couleur::Repere, ordinaire.epaisseur + 1} : ordinaire;
     };
-    Plan plan(dessin, {-118, -140}, {72, 62}, 10);
+    PlanDessin plan(dessin, {-118, -140}, {72, 62}, 10);
 
     plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
     plan.Ligne({-100, 0}, {66, 0}, axe);
@@ -86,11 +43,9 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
     plan.Disque(P, galet, trait("galet", {Couleur::Galet, 1.6}));
     for (const auto& pivot : {O, O1, P, A}) plan.Disque(pivot, 2.6, {Couleur::Axe, 1.4});
 
-    plan.Fleche({(O.x + O1.x) / 2, -128}, {O1.x, -128}, trait("a", cote));
-    plan.Fleche({(O.x + O1.x) / 2, -128}, {O.x, -128}, trait("a", cote));
+    plan.Cote({O1.x, -128}, {O.x, -128}, trait("a", cote));
     plan.Ligne(O1, {O1.x, -132}, cote);
-    plan.Fleche({-104, O1.y / 2}, {-104, O1.y}, trait("b", cote));
-    plan.Fleche({-104, O1.y / 2}, {-104, 0}, trait("b", cote));
+    plan.Cote({-104, O1.y}, {-104, 0}, trait("b", cote));
     plan.Ligne({O1.x, O1.y}, {-108, O1.y}, cote);
     plan.Contour(Arc(O1, 38, AngleBras, AngleBras + AnglePO1A), trait("P-O1-A", cote), false);
     plan.Contour(Arc(O1, 78, 0, AngleBras), cote, false);
@@ -108,21 +63,20 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
     plan.Nom({O1.x + 81, O1.y + 6}, "(a)", Ancrage::Gauche, false);
 }
 
-void DessineSchemaTranslation(Dessin& dessin) {
+void DessineSchemaTranslation(Dessin& dessin, const std::string& accent) {
     constexpr double galet = 13;
     const PointDessin O{0, 0}, P{0, 66};
     const Trait cote{Couleur::TexteDiscret, 1.0}, axe{Couleur::Graduation, 1.0, true};
-    Plan plan(dessin, {-90, -84}, {98, 140}, 10);
+    PlanDessin plan(dessin, {-90, -84}, {98, 140}, 10);
     plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
     plan.Ligne({-86, 0}, {86, 0}, axe);
     plan.Ligne({0, -80}, {0, 136}, axe);
     plan.Ligne(P, {0, 118}, {Couleur::Bras, 2.2});
     for (const double x : {-9.0, 9.0}) plan.Ligne({x, 96}, {x, 128}, {Couleur::Axe, 1.4});
-    plan.Disque(P, galet, {Couleur::Galet, 1.6});
+    plan.Disque(P, galet, {accent == "galet" ? Couleur::Repere : Couleur::Galet, 1.6});
     for (const auto& centre : {O, P}) plan.Disque(centre, 2.6, {Couleur::Axe, 1.4});
     plan.Ligne(P, {84, P.y}, cote);
-    plan.Fleche({78, P.y / 2}, {78, 0}, cote);
-    plan.Fleche({78, P.y / 2}, {78, P.y}, cote);
+    plan.Cote({78, 0}, {78, P.y}, cote);
     plan.Nom({83, P.y / 2}, "R", Ancrage::Gauche, false);
     plan.Nom({7, -9}, "O", Ancrage::Gauche, false);
     plan.Nom({-17, P.y + 4}, "P", Ancrage::Droite, false);
@@ -131,7 +85,7 @@ void DessineSchemaTranslation(Dessin& dessin) {
 }
 
 void DessinePesanteur(Dessin& dessin, double angle) {
-    Plan plan(dessin, {-50, -50}, {50, 50}, 4);
+    PlanDessin plan(dessin, {-50, -50}, {50, 50}, 4);
     plan.Cercle({0, 0}, 48, {Couleur::Graduation, 1.0});
     plan.Ligne({-48, 0}, {48, 0}, {Couleur::Graduation, 1.0, true});
     plan.Ligne({0, -48}, {0, 48}, {Couleur::Graduation, 1.0, true});

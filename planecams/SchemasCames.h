@@ -10,7 +10,8 @@
 void DessineSchemaBras(Dessin& dessin, const std::string& accent);
 
 /// The translating follower on its radial line, not to scale, with the radius of its roller centre named.
-void DessineSchemaTranslation(Dessin& dessin);
+/// @param accent "galet" or empty
+void DessineSchemaTranslation(Dessin& dessin, const std::string& accent);
 
 /// The direction of gravity: an arrow at `angle` degrees from the x axis, counter-clockwise.
 void DessinePesanteur(Dessin& dessin, double angle);

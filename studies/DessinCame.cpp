@@ -23,7 +23,7 @@ PointDessin Pivot() {
 
 bool ABras() {
     const TypeEtude* type = TrouveType(etude.TypeCame);
-    return type != nullptr && type->bras;
+    return type != nullptr && type->zones->rayonsBras;
 }
 
 PointDessin CentreGalet(long i) {

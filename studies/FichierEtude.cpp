@@ -24,8 +24,8 @@ bool LoiConnue(const std::string& nomLoi) {
 
 void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
     lignes.Suivante();
-    zone.*type.valeurDepart = LitNombre(lignes);
-    zone.*type.valeurFinale = LitNombre(lignes);
+    zone.*type.zones->valeurDepart = LitNombre(lignes);
+    zone.*type.zones->valeurFinale = LitNombre(lignes);
     zone.AngleCame = LitNombre(lignes);
     zone.NomLoi = lignes.Suivante();
     zone.CoefSymetrie = LitNombre(lignes);
@@ -66,7 +66,7 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
                                    Texte(521) + " ' " + zone.NomLoi + " ' " + Texte(103) + "\n" + Texte(509));
             return false;
         }
-        CompleteZone(z, type.bras);
+        CompleteZone(z, type.zones->rayonsBras);
     }
     if (type.conjuguees) etude.ZonesConjuguees = etude.Zones;
     etude.PointsParDegre = Entier16(LitNombre(lignes));
@@ -97,8 +97,8 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
         const Zone& zone = etude.Zones[z];
         ligne(Texte(187) + Format(z, "##"));
-        nombre(Format(zone.*type.valeurDepart, type.masqueValeur));
-        nombre(Format(zone.*type.valeurFinale, type.masqueValeur));
+        nombre(Format(zone.*type.zones->valeurDepart, type.masqueValeur));
+        nombre(Format(zone.*type.zones->valeurFinale, type.masqueValeur));
         nombre(Format(zone.AngleCame, type.masqueAngleCame));
         const Zone& loi = type.conjuguees ? etude.ZonesConjuguees[z] : zone;
         ligne(loi.NomLoi);

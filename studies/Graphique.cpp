@@ -1,7 +1,10 @@
 #include "studies/Graphique.h"
 
 #include "core/Etude.h"
+#include "cylindrical/DonneesCyl.h"
+#include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
+#include "planecams/GeometrieCame.h"
 #include "reports/Graduations.h"
 
 #include <algorithm>
@@ -75,14 +78,17 @@ void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double 
 } // namespace
 
 std::vector<Courbe> CourbesGalet() {
-    return {{281, etude.RayonMax, [](long i) { return etude.Points[i].Rayon; }},
+    // Heights may lie below 0 further than above it.
+    const bool hauteurs = CameDeveloppee();
+    const double maximum = hauteurs ? std::max(etude.RayonMax, -etude.RayonMin) : etude.RayonMax;
+    return {{hauteurs ? TexteHauteurMm : 281, maximum, [](long i) { return etude.Points[i].Rayon; }},
             {282, etude.VitesseRayonMax, [](long i) { return etude.Points[i].VitesseRayon; }},
             {283, etude.AccelRayonMax, [](long i) { return etude.Points[i].AccelRayon; }}};
 }
 
 std::vector<Courbe> CourbesBras() {
     // The angle of the arm is drawn to the scale of the radius, so that both graphs compare.
-    return {{284, etude.RayonMax, [](long i) { return etude.Mouvement[i].Course; }},
+    return {{284, std::max(etude.RayonMax, AngleBrasExtreme()), [](long i) { return etude.Mouvement[i].Course; }},
             {285, etude.LoiVitesseMax, [](long i) { return etude.Mouvement[i].Vitesse; }},
             {286, etude.LoiAccelMax, [](long i) { return etude.Mouvement[i].Accel; }}};
 }

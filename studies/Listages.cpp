@@ -1,6 +1,7 @@
 #include "studies/Listages.h"
 
 #include "core/Etude.h"
+#include "planecams/GeometrieCame.h"
 
 namespace {
 
@@ -18,16 +19,16 @@ template <double PointProfil::*membre> double DuProfil(long i) {
     return etude.Profil[i].*membre;
 }
 
-/// Pressure angle in degrees: 0 where the tangent is square to the radius.
+/// Pressure angle in degrees: 0 where the follower rests.
 double AnglePression(long i) {
-    return etude.Profil[i].AngleTangent * 180.0 / Pi - 90.0;
+    return Pente(etude.Profil[i].AngleTangent);
 }
 
 constexpr Colonne angle = {245, 19, DuPoint<&Point::Angle>, "##0"};
 
 const Colonne galet[] = {
     angle,
-    {247, 18, DuPoint<&Point::Rayon>, M3},
+    {247, 18, DuPoint<&Point::Rayon>, M3, 244},
     {225, 27, DuPoint<&Point::VitesseRayon>, M3Court},
     {226, 28, DuPoint<&Point::AccelRayon>, M2},
     {261, 21, DuPoint<&Point::VitesseGalet>, M2},
@@ -69,14 +70,19 @@ const Colonne came[] = {
 std::span<const Colonne> ColonnesGalet() {
     return galet;
 }
-std::span<const Colonne> ColonnesBras() {
-    return bras;
+std::span<const Colonne> ColonnesBras(bool pointA) {
+    constexpr std::size_t mouvement = 4; // the cam angle and the motion of the arm
+    return std::span<const Colonne>(bras).first(pointA ? std::size(bras) : mouvement);
 }
 std::span<const Colonne> ColonnesEfforts() {
     return efforts;
 }
 std::span<const Colonne> ColonnesCame() {
     return came;
+}
+
+int TexteColonne(const Colonne& colonne) {
+    return colonne.texteDeveloppee != 0 && CameDeveloppee() ? colonne.texteDeveloppee : colonne.texte;
 }
 
 int LignesListage() {

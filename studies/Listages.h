@@ -9,10 +9,15 @@ struct Colonne {
     int unite; ///< text number of the unit, below the heading
     double (*valeur)(long point);
     const char* masque;
+    int texteDeveloppee = 0; ///< the heading on a developed cam, where it is another
 };
 
+/// Text number of a column's heading for the present study.
+int TexteColonne(const Colonne& colonne);
+
 std::span<const Colonne> ColonnesGalet(); ///< motion of the roller centre
-std::span<const Colonne> ColonnesBras();  ///< motion of the arm and of the point A
+/// Motion of the arm. @param pointA with that of the point A
+std::span<const Colonne> ColonnesBras(bool pointA);
 std::span<const Colonne> ColonnesEfforts();
 std::span<const Colonne> ColonnesCame(); ///< tangent angle, radii of curvature, both profiles
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view Angulaire[] = {"Angulaire"}, Lineaire[] = {"Lineaire"}, Cylindrique[] = {"Cylindrique"},
                            Oscillation[] = {"Oscillation"};
-constexpr std::string_view Plates[] = {"Angulaire", "Lineaire"};
+constexpr std::string_view Plates[] = {"Angulaire", "Lineaire"}, Cylindres[] = {"Cylindrique", "Oscillation"};
 constexpr std::string_view Simples[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation"};
 constexpr std::string_view ABras[] = {"Angulaire", "Oscillation", "ConjuguesOscillation"};
 constexpr std::string_view Toutes[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation", "ConjuguesOscillation"};
@@ -30,6 +30,7 @@ constexpr Rapport rapports[] = {
     {MarqueImpression::Donnees, Oscillation, ImprimeDonneesOscillation},
     {MarqueImpression::PointsRemarquables, Toutes, ImprimePointsRemarquables},
     {MarqueImpression::Profil, Plates, ImprimeProfilPlat},
+    {MarqueImpression::Profil, Cylindres, ImprimeProfilCylindre},
     {MarqueImpression::GraphiqueMouvement, Simples, ImprimeGraphiqueLineaire},
     {MarqueImpression::GraphiqueMouvement, ABras, ImprimeGraphiqueBras},
     {MarqueImpression::GraphiqueForces, Toutes, ImprimeGraphiqueForces},

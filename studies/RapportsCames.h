@@ -46,6 +46,9 @@ void ImprimePointsRemarquables();
 /// states the scale, in paper millimetres a millimetre of the cam.
 void ImprimeProfilPlat();
 
+/// The same of a cylindrical cam's developed surface, with cam angles, lengths of arc and heights along its edges.
+void ImprimeProfilCylindre();
+
 void ImprimeGraphiqueLineaire(); ///< radius, speed and acceleration of the roller centre
 void ImprimeGraphiqueBras();     ///< angle, speed and acceleration of the arm
 void ImprimeGraphiqueForces();   ///< roller force and cam torque

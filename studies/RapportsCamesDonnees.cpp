@@ -47,16 +47,6 @@ std::vector<Groupe> GroupesDonnees(const TypeEtude& type) {
     return {geometrie, masse, force};
 }
 
-/// What start and end value of a zone are called, and their unit.
-struct LegendeZone {
-    int depart, final, unite;
-};
-
-LegendeZone LegendesZone(const TypeEtude& type) {
-    if (type.valeurDepart == &Zone::AngleDepart) return {175, 176, UniteDegres};
-    return AChamp(type, "DiametreCame") ? LegendeZone{397, 398, UniteMm} : LegendeZone{183, 184, UniteMm};
-}
-
 void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const Groupe& groupe) {
     if (groupe.champs.empty()) return;
     bool titreForces = false;
@@ -64,7 +54,7 @@ void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, cons
     for (const ChampFichier* champ : groupe.champs) {
         // "x" and "y" alone would not say what they are.
         if (champ->unite == UniteN && !titreForces) {
-            lignes.push_back({Espaces(RetraitLigne) + Texte(type.bras ? 165 : 392)});
+            lignes.push_back({Espaces(RetraitLigne) + Texte(type.Bras() ? 165 : 392)});
             titreForces = true;
         }
         const char* masque = champ->unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
@@ -76,14 +66,14 @@ void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, cons
 
 void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::int16_t z) {
     const Zone& zone = etude.Zones[z];
-    const LegendeZone legendes = LegendesZone(type);
+    const DescriptionZones& zones = *type.zones;
     const auto ligne = [&](int texte, int unite, const std::string& valeur) {
         lignes.push_back({LigneValeur(Texte(texte), unite == 0 ? SansUnite : UniteTexte(unite), valeur)});
     };
     lignes.push_back({Texte(187) + std::to_string(z), true});
-    ligne(legendes.depart, legendes.unite, Format(zone.*type.valeurDepart, MasqueDonnee));
-    ligne(legendes.final, legendes.unite, Format(zone.*type.valeurFinale, MasqueDonnee));
-    ligne(177, UniteDegres, Format(zone.AngleCame, MasqueDonnee));
+    ligne(zones.texteDepart, zones.unite, Format(zone.*zones.valeurDepart, MasqueDonnee));
+    ligne(zones.texteFinale, zones.unite, Format(zone.*zones.valeurFinale, MasqueDonnee));
+    ligne(zones.texteCame, UniteDegres, Format(zone.AngleCame, MasqueDonnee));
     ligne(105, 0, zone.NomLoi == NomLoiFichier ? Texte(186) : zone.NomLoi);
     ligne(178, 0, Format(zone.CoefSymetrie, MasqueDonnee));
     ligne(704, 0, Format(zone.Temps, MasqueDonnee) + " S.");

@@ -1,6 +1,7 @@
 // The printed graphs: one box below the other over the same cam angle, each curve to its own vertical scale, zero at
 // mid-height.
 #include "core/Etude.h"
+#include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "reports/CadrePages.h"
@@ -118,7 +119,7 @@ void ImprimeGraphiqueLineaire() {
 
 void ImprimeGraphiqueBras() {
     std::vector<Courbe> courbes = CourbesBras();
-    courbes.front().maximum = etude.LoiCourseMax; // alone in its box, the angle has its own scale
+    courbes.front().maximum = AngleBrasExtreme(); // alone in its box, the angle has its own scale
     ImprimeGraphiques(courbes, {{MasqueAngle, ""}, {MasqueValeur, " rad/sec"}, {MasqueValeur, " rad/sec²"}});
 }
 

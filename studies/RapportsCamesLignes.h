@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 
 inline constexpr int RetraitLigne = 5;
 inline constexpr const char* SansUnite = " : ";
@@ -22,9 +21,4 @@ inline std::string LigneValeur(const std::string& libelle, const std::string& un
     const std::string debut = Espaces(RetraitLigne) + libelle + " ";
     return debut + CadreADroite(unite, std::max(NombreCaracteres(unite), colonneValeur - NombreCaracteres(debut))) +
            valeur;
-}
-
-/// True when the kind of study has a scalar of that name.
-inline bool AChamp(const TypeEtude& type, std::string_view nom) {
-    return std::any_of(type.champs.begin(), type.champs.end(), [nom](const ChampFichier& c) { return nom == c.nom; });
 }

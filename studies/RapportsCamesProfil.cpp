@@ -1,6 +1,8 @@
-// The profile of a plane cam drawn to scale: both profiles, the pitch curve, the roller at the start of the cam.
-// Cam millimetres have their origin in the cam centre and y up; paper millimetres run down.
+// The profile drawn to scale: both profiles, the pitch curve, the roller at the start of the cam; of a cylindrical cam
+// the developed surface. Cam millimetres have their origin in the cam centre, or at the start of the development, and y
+// up; paper millimetres run down.
 #include "core/Etude.h"
+#include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "reports/CadrePages.h"
@@ -108,9 +110,88 @@ double DessineProfil(Dessin& dessin) {
     return echelle;
 }
 
-} // namespace
+/// The developed cam on paper: across the page, or down it where that leaves a larger scale.
+class PapierDeveloppee {
+public:
+    PapierDeveloppee(const Dessin& dessin, const Developpee& d, double bande) {
+        // Room for the graduations outside the cylinder, mm.
+        constexpr double chiffres = 16;
+        const double largeur = dessin.Largeur() - 2 * chiffres, hauteur = dessin.Hauteur() - 2 * bande - 2 * chiffres;
+        const Etendue couchee{0, 0, d.largeur, d.haut - d.bas}, debout{0, 0, d.haut - d.bas, d.largeur};
+        echelle = ChoisitEchelle(couchee, largeur, hauteur);
+        debout_ = ChoisitEchelle(debout, largeur, hauteur) > echelle;
+        if (debout_) echelle = ChoisitEchelle(debout, largeur, hauteur);
+        const double milieu = echelle * (d.bas + d.haut) / 2, demi = echelle * d.largeur / 2;
+        x0_ = dessin.Largeur() / 2 - (debout_ ? milieu : demi);
+        y0_ = dessin.Hauteur() / 2 + (debout_ ? -demi : milieu);
+    }
+    PointDessin operator()(PointDessin p) const {
+        if (debout_) return {x0_ + echelle * p.y, y0_ + echelle * p.x};
+        return {x0_ + echelle * p.x, y0_ - echelle * p.y};
+    }
+    std::vector<PointDessin> operator()(std::vector<PointDessin> courbe) const {
+        std::transform(courbe.begin(), courbe.end(), courbe.begin(), *this);
+        return courbe;
+    }
+    bool Debout() const { return debout_; }
 
-void ImprimeProfilPlat() {
+    double echelle;
+
+private:
+    bool debout_;
+    double x0_, y0_;
+};
+
+constexpr const char* MasqueDeveloppee = "####.00";
+
+/// Cam angle and length of arc along the lower edge, heights along the edge where the development starts.
+void DessineGraduationsDeveloppee(Dessin& dessin, const PapierDeveloppee& papier, const Developpee& d) {
+    constexpr double cran = 1.5, ligne = HauteurTexte + 0.6;
+    const bool debout = papier.Debout();
+    for (int degres = 0; degres <= 360; degres += 30) {
+        const double x = d.largeur * degres / 360;
+        const PointDessin bord = papier({x, d.bas});
+        dessin.Ligne(bord, papier({x, d.haut}), {Couleur::Graduation, 0.1});
+        const std::string angle = std::to_string(degres) + "°", arc = Format(x, MasqueDeveloppee);
+        if (debout) {
+            // The arc next to the edge, the angle outside it, each in its own column.
+            constexpr double colonne = 14;
+            dessin.Texte({bord.x - cran, bord.y}, arc, Ancrage::Droite, HauteurTexte * 0.8);
+            dessin.Texte({bord.x - cran - colonne, bord.y}, angle, Ancrage::Droite, HauteurTexte * 0.8);
+        } else {
+            dessin.Texte({bord.x, bord.y + ligne}, angle, Ancrage::Centre, HauteurTexte * 0.8);
+            dessin.Texte({bord.x, bord.y + 2 * ligne}, arc, Ancrage::Centre, HauteurTexte * 0.8);
+        }
+    }
+    const double galet = papier.echelle * etude.RayonGalet;
+    for (const double y : {d.hauteurMini, d.hauteurMaxi}) {
+        const PointDessin bord = papier({0, y});
+        const std::string hauteur = Format(y, MasqueDeveloppee);
+        if (debout)
+            dessin.Texte({bord.x, bord.y - galet - ligne}, hauteur, Ancrage::Centre, HauteurTexte * 0.8);
+        else
+            dessin.Texte({bord.x - galet - cran, bord.y}, hauteur, Ancrage::Droite, HauteurTexte * 0.8);
+    }
+}
+
+/// Draws the developed cam into the surface, below the legend and above the bar. Gives the scale.
+double DessineDeveloppee(Dessin& dessin) {
+    constexpr double bande = 2.5 * HauteurTexte;
+    const Developpee d = CalculeDeveloppee();
+    const PapierDeveloppee papier(dessin, d, bande);
+    dessin.Polyligne(papier({{0, d.bas}, {d.largeur, d.bas}, {d.largeur, d.haut}, {0, d.haut}, {0, d.bas}}), traitAxe);
+    DessineGraduationsDeveloppee(dessin, papier, d);
+    for (const TourDeveloppe& tour : d.tours) {
+        dessin.Polyligne(papier(tour.primitif), traitPrimitif);
+        dessin.Polyligne(papier(tour.interieur), traitProfil);
+        dessin.Polyligne(papier(tour.exterieur), traitProfil);
+    }
+    dessin.Cercle(papier(CentreGaletDeveloppe(0)), papier.echelle * etude.RayonGalet, traitGalet);
+    return papier.echelle;
+}
+
+/// A page of its own for a drawing to scale, whose last line states the scale.
+void ImprimeProfil(double (*dessine)(Dessin&)) {
     Imprimante& imprimante = ImprimanteEnCours();
     DebutPageCames(Texte(TitreProfil));
     const double haut = imprimante.Tete(), derniereLigne = imprimante.Hauteur() - 8;
@@ -118,10 +199,20 @@ void ImprimeProfilPlat() {
     {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
         DessineLegende(*dessin);
-        echelle = DessineProfil(*dessin);
+        echelle = dessine(*dessin);
         DessineRegle(*dessin);
     }
     imprimante.PlaceTete(derniereLigne);
     ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));
     imprimante.NouvellePage();
+}
+
+} // namespace
+
+void ImprimeProfilPlat() {
+    ImprimeProfil(DessineProfil);
+}
+
+void ImprimeProfilCylindre() {
+    ImprimeProfil(DessineDeveloppee);
 }

@@ -1,5 +1,6 @@
 // The point-to-point tables. Their units are the same in every language.
 #include "core/Etude.h"
+#include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
 #include "reports/TableRapport.h"
 #include "studies/RapportsCames.h"
@@ -46,11 +47,12 @@ constexpr ColonneRapport colonnesLineaire[] = {
     {Vitesse, "m/sec", DuPoint<&Point::VitesseRayon>, MasqueMouvement, 11},
     {Accel, "m/sec²", DuPoint<&Point::AccelRayon>, MasqueMouvement, 11},
 };
-constexpr ColonneRapport colonnesCylindrique[] = {colonneAngle, colonneRayon, colonneVitesse, colonneAccel};
+constexpr ColonneRapport colonneHauteur{TexteHauteurCourte, "mm", DuPoint<&Point::Rayon>, MasqueMouvement, 7};
+constexpr ColonneRapport colonnesCylindrique[] = {colonneAngle, colonneHauteur, colonneVitesse, colonneAccel};
 // Kept on purpose: the heading names the arm, the rows end before it.
 constexpr ColonneRapport colonnesOscillation[] = {
     colonneAngle,
-    colonneRayon,
+    colonneHauteur,
     colonneVitesse,
     colonneAccel,
     {Bras, "", nullptr, "", 8},

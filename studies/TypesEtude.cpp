@@ -1,8 +1,13 @@
 #include "studies/TypesEtude.h"
 
+#include "cylindrical/CamesCylindriques.h"
+#include "cylindrical/DessinProfilCyl.h"
+#include "cylindrical/DeveloppeeCyl.h"
+#include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "planecams/CamesPlates.h"
+#include "studies/DessinCame.h"
 
 #include <algorithm>
 #include <cctype>
@@ -45,7 +50,7 @@ const ChampFichier champsCylindrique[] = {
     {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
     {"AnglePesanteur", &Etude::AnglePesanteur, M2, 169, UniteDegres},
     {"DiametreCame", &Etude::DiametreCame, M2, 394, UniteMm},
-    {"MasseA", &Etude::MasseA, M2, 163, UniteKg},
+    {"MasseA", &Etude::MasseA, M2, 395, UniteKg},
     {"ForceY", &Etude::ForceY, M2Large, 167, UniteN},
 };
 
@@ -53,7 +58,7 @@ const ChampFichier champsOscillation[] = {
     {"RayonGalet", &Etude::RayonGalet, M2, 123, UniteMm},
     {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
     {"DiametreCame", &Etude::DiametreCame, M2, 394, UniteMm},
-    {"CoteA", &Etude::CoteA, M2, 152, UniteMm},
+    {"CoteA", &Etude::CoteA, M2, 400, UniteMm},
     {"RayonO1P", &Etude::RayonO1P, M2, 155, UniteMm},
     {"InertieMasseA", &Etude::InertieMasseA, M2, 239, UniteKgM2},
     {"CoupleConstantO1", &Etude::CoupleConstantO1, M2, 240, UniteNm},
@@ -71,18 +76,19 @@ const ChampFichier champsConjuguees[] = {
     {"InertieO1", &Etude::InertieO1, M3Large, 475, UniteKgM2},
 };
 
-constexpr auto angleDepart = &Zone::AngleDepart, angleFinal = &Zone::AngleFinal;
-constexpr auto rayonDepart = &Zone::RayonDepart, rayonFinal = &Zone::RayonFinal;
+constexpr DescriptionZones zonesConjuguees{
+    &Zone::AngleDepart, &Zone::AngleFinal, 478, 479, 177, UniteDegres, false, false};
 
 const TypeEtude types[] = {
-    {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, angleDepart, angleFinal, M2, M2, true, false,
-     CalculeCameAngulaire, ChercheFauteAngulaire},
-    {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, rayonDepart, rayonFinal, M2Large, M2Large, false, false,
-     CalculeCameLineaire, ChercheFauteLineaire},
-    {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, rayonDepart, rayonFinal, M2Large, M2Large, false},
-    {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, angleDepart, angleFinal, M2, M2, false},
-    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, angleDepart, angleFinal, M2, M2, false,
-     true},
+    {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, &ZonesAngulaire, M2, M2, false, CalculeCameAngulaire,
+     ChercheFauteAngulaire, false, DessineCamePlate},
+    {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, &ZonesLineaire, M2Large, M2Large, false,
+     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate},
+    {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, &ZonesCylindrique, M2Large, M2Large, false,
+     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl},
+    {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, &ZonesOscillation, M2, M2, false,
+     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl},
+    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true},
 };
 
 std::string Minuscules(std::string_view texte) {
@@ -120,6 +126,21 @@ FiltreFichier FiltreEtude(const TypeEtude& type) {
 std::string NomSansExtension(const std::string& nomFichier) {
     const std::filesystem::path nom(nomFichier);
     return TrouveTypeFichier(nom) == nullptr ? nomFichier : nom.stem().string();
+}
+
+bool AChamp(const TypeEtude& type, double Etude::*membre) {
+    return std::any_of(type.champs.begin(), type.champs.end(),
+                       [membre](const ChampFichier& champ) { return champ.membre == membre; });
+}
+
+int DernierAngleDessin(const TypeEtude& type) {
+    return type.developpee && NombreTours() > 1 ? etude.NombrePoints / etude.PointsParDegre : 360;
+}
+
+double AngleExtreme(std::int16_t Etude::*repere) {
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    const double place = etude.*repere;
+    return type != nullptr && type->developpee ? Arrondi(place / etude.PointsParDegre) : place;
 }
 
 void CalculeEtude() {

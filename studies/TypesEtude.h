@@ -3,7 +3,9 @@
 #pragma once
 
 #include "core/Etude.h"
+#include "planecams/DescriptionZones.h"
 #include "planecams/LimitesSaisie.h"
+#include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 
 #include <filesystem>
@@ -27,16 +29,19 @@ struct TypeEtude {
     const char* suffixeTitre; ///< what follows the name in the first line of a file
     std::span<const ChampFichier> champs;
     const char* masqueNombreZones;
-    double Zone::*valeurDepart; ///< start and end value of a zone in the file
-    double Zone::*valeurFinale;
+    const DescriptionZones* zones;
     const char* masqueValeur;
     const char* masqueAngleCame;
-    bool bras;                   ///< the roller sits on an arm, whose ends give the radii of a zone
-    bool conjuguees = false;     ///< a pair of cams, whose laws stand with the second
-    void (*calcule)() = nullptr; ///< the pipeline; none while this kind cannot be calculated
+    bool conjuguees = false;                                ///< a pair of cams, whose laws stand with the second
+    void (*calcule)() = nullptr;                            ///< the pipeline; none while this kind cannot be calculated
     std::optional<FauteDonnee> (*chercheFaute)() = nullptr; ///< the first scalar that cannot be calculated with
+    bool developpee =
+        false; ///< cut on a cylinder: heights for radii, and extremes that keep the subscript of their point
+
+    void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
 
     bool Disponible() const { return calcule != nullptr; }
+    bool Bras() const { return zones->Bras(); }
 };
 
 std::span<const TypeEtude> LesTypesEtude();
@@ -50,6 +55,16 @@ FiltreFichier FiltreEtude(const TypeEtude& type);
 
 /// Name of a study without its extension, on which the names of its exports are built.
 std::string NomSansExtension(const std::string& nomFichier);
+
+/// True when the kind of study has that scalar.
+bool AChamp(const TypeEtude& type, double Etude::*membre);
+
+/// Last cam angle that the drawing of the present results can be brought to, in whole degrees: a plane cam turns once,
+/// a developed one is walked along to the end of its last turn.
+int DernierAngleDessin(const TypeEtude& type);
+
+/// Cam angle at which an extreme value of the present study stands, in whole degrees.
+double AngleExtreme(std::int16_t Etude::*repere);
 
 /// Runs the pipeline of the present study's kind.
 /// @throws ErreurExecution whatever stops the pipeline; the zones are back in degrees.

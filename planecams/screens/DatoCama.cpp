@@ -1,18 +1,12 @@
 #include "planecams/screens/DatoCama.h"
 
-#include "data/Textes.h"
 #include "data/Unites.h"
 #include "planecams/CamesPlates.h"
 #include "planecams/SchemasCames.h"
 #include "planecams/screens/PanneauPesanteur.h"
-#include "widgets/Chaines.h"
+#include "planecams/screens/PanneauSchema.h"
 #include "widgets/ChampNombre.h"
-#include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
-#include "widgets/ZoneDessin.h"
-
-#include <QEvent>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -43,38 +37,22 @@ constexpr struct {
              {"Text4", "O1-P"}, {"Text5", "P-O1-A"}, {"Text6", "galet"}};
 
 constexpr DescriptionSaisie description{"DatoCama",
-                                        {&Zone::AngleDepart, &Zone::AngleFinal, 175, 176, 177, UniteDegres, true, true},
+                                        ZonesAngulaire,
+                                        {"Text13", "Text14", "Text15", "Text16", "Text19"},
+                                        ChercheFauteAngulaire,
                                         ChercheFauteAngulaire,
                                         CalculeCameAngulaire};
 
 } // namespace
 
 DatoCama::DatoCama(QWidget* parent) : SaisieCame(description, parent) {
-    geometrie_ = new PanneauChamps("Picture2", 151, champsGeometrie);
+    auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
+    auto* schema = new PanneauSchema(DessineSchemaBras);
     auto* masses = new PanneauChamps("Picture3", 158, champsMasses);
     auto* forces = new PanneauChamps("Picture4", 162, champsForces);
     auto* exterieures = new PanneauChamps("Exterieures", 165, champsExterieurs);
     auto* pesanteur = new PanneauPesanteur("Text17");
-    Compose(
-        {EmpilePanneaux({geometrie_, FaitSchema()}, 1), EmpilePanneaux({masses, forces, exterieures, pesanteur}, 3)},
-        {geometrie_, masses, forces, exterieures}, pesanteur);
-    for (const auto& cote : cotes) geometrie_->Champ(cote.champ)->installEventFilter(this);
-}
-
-QWidget* DatoCama::FaitSchema() {
-    auto* cadre = new QGroupBox(QTexte(189));
-    schema_ = Nomme(new ZoneDessin, "Schema");
-    schema_->setMinimumSize(250, 240);
-    schema_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    schema_->Peint([](Dessin& dessin) { DessineSchemaBras(dessin, {}); });
-    (new QVBoxLayout(cadre))->addWidget(schema_);
-    return cadre;
-}
-
-bool DatoCama::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::FocusIn)
-        for (const auto& cote : cotes)
-            if (objet == geometrie_->Champ(cote.champ))
-                schema_->Peint([nom = cote.cote](Dessin& dessin) { DessineSchemaBras(dessin, nom); });
-    return QWidget::eventFilter(objet, evenement);
+    Compose({EmpilePanneaux({geometrie, schema}, 1), EmpilePanneaux({masses, forces, exterieures, pesanteur}, 3)},
+            {geometrie, masses, forces, exterieures}, pesanteur);
+    for (const auto& cote : cotes) schema->Suit(geometrie->Champ(cote.champ), cote.cote);
 }

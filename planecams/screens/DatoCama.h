@@ -4,21 +4,10 @@
 
 #include "planecams/screens/SaisieCame.h"
 
-class ZoneDessin;
-
 class DatoCama : public SaisieCame {
     Q_OBJECT
 
 public:
     /// Opens on the study record: empty for a new study, filled with the data of one that was read.
     explicit DatoCama(QWidget* parent = nullptr);
-
-protected:
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
-
-private:
-    QWidget* FaitSchema();
-
-    PanneauChamps* geometrie_;
-    ZoneDessin* schema_;
 };

@@ -5,14 +5,10 @@
 #include "planecams/CamesPlates.h"
 #include "planecams/SchemasCames.h"
 #include "planecams/screens/PanneauPesanteur.h"
+#include "planecams/screens/PanneauSchema.h"
 #include "platform/Dialogues.h"
-#include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
-#include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
-#include "widgets/ZoneDessin.h"
-
-#include <QVBoxLayout>
 
 namespace {
 
@@ -28,29 +24,20 @@ constexpr ChampSaisie champsForces[] = {
     {"Text5", 167, UniteN, &Etude::ForceY},
 };
 
-QWidget* FaitSchema() {
-    auto* cadre = new QGroupBox(QTexte(189));
-    auto* schema = Nomme(new ZoneDessin, "Schema");
-    schema->setMinimumSize(250, 240);
-    schema->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    schema->Peint(DessineSchemaTranslation);
-    (new QVBoxLayout(cadre))->addWidget(schema);
-    return cadre;
-}
-
-constexpr DescriptionSaisie description{"DoProfil",
-                                        {&Zone::RayonDepart, &Zone::RayonFinal, 183, 184, 177, UniteMm, false, false},
-                                        ChercheFauteLineaire,
-                                        CalculeCameLineaire};
+constexpr DescriptionSaisie description{
+    "DoProfil",           ZonesLineaire,        {"Text13", "Text14", "Text15", "Text16", "Text19"},
+    ChercheFauteLineaire, ChercheFauteLineaire, CalculeCameLineaire};
 
 } // namespace
 
 DoProfil::DoProfil(QWidget* parent) : SaisieCame(description, parent) {
     auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
+    auto* schema = new PanneauSchema(DessineSchemaTranslation);
+    schema->Suit(geometrie->Champ("Text1"), "galet");
     auto* masse = new PanneauChamps("Picture3", 162, champsMasse);
     auto* forces = new PanneauChamps("Picture4", 392, champsForces);
     auto* pesanteur = new PanneauPesanteur("Text17");
-    Compose({EmpilePanneaux({geometrie, FaitSchema()}, 1), EmpilePanneaux({masse, forces, pesanteur}, 2)},
+    Compose({EmpilePanneaux({geometrie, schema}, 1), EmpilePanneaux({masse, forces, pesanteur}, 2)},
             {geometrie, masse, forces}, pesanteur);
 }
 

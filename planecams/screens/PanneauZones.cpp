@@ -42,18 +42,19 @@ QComboBox* FaitListe(const char* nom) {
 
 } // namespace
 
-PanneauZones::PanneauZones(const DescriptionZones& description, std::function<bool(Zone&)> acheve, QWidget* parent)
+PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZones& champs,
+                           std::function<bool(Zone&)> acheve, QWidget* parent)
     : QGroupBox(QTexte(170), parent), description_(description), acheve_(std::move(acheve)) {
     setObjectName("Picture5");
     auto* disposition = new QVBoxLayout(this);
     auto* tete = new QGridLayout;
-    nombreZones_ = AjouteLigneChamp(*tete, 0, "Text13", 172, 0);
+    nombreZones_ = AjouteLigneChamp(*tete, 0, champs.nombre, 172, 0);
     pointsParDegre_ = FaitListe("Combo2");
     for (const auto points : PointsParDegrePermis) pointsParDegre_->addItem(QString::number(points));
     tete->addWidget(FaitEtiquette("EtiquetteCombo2", pointsParDegre_), 1, 0);
     tete->addWidget(pointsParDegre_, 1, 1);
     disposition->addLayout(tete);
-    disposition->addWidget(FaitCadreZone());
+    disposition->addWidget(FaitCadreZone(champs));
     grille_ = Nomme(new Grille, "Grille");
     grille_->setMinimumSize(630, 200);
     disposition->addWidget(FaitEtiquette("TitreGrille", grille_));
@@ -72,18 +73,18 @@ PanneauZones::PanneauZones(const DescriptionZones& description, std::function<bo
     RemplitGrille();
 }
 
-QWidget* PanneauZones::FaitCadreZone() {
+QWidget* PanneauZones::FaitCadreZone(const ChampsZones& noms) {
     cadreZone_ = Nomme(new QGroupBox, "Frame1");
     auto* champs = new QGridLayout(cadreZone_);
-    valeurDepart_ = AjouteLigneChamp(*champs, 0, "Text14", description_.texteDepart, description_.unite);
-    valeurFinale_ = AjouteLigneChamp(*champs, 1, "Text15", description_.texteFinale, description_.unite);
-    angleCame_ = AjouteLigneChamp(*champs, 2, "Text16", description_.texteCame, UniteDegres);
+    valeurDepart_ = AjouteLigneChamp(*champs, 0, noms.depart, description_.texteDepart, description_.unite);
+    valeurFinale_ = AjouteLigneChamp(*champs, 1, noms.finale, description_.texteFinale, description_.unite);
+    angleCame_ = AjouteLigneChamp(*champs, 2, noms.came, description_.texteCame, UniteDegres);
     loi_ = FaitListe("Combo1");
     loi_->setMinimumContentsLength(11);
     for (const auto& nom : NomsLoisZones()) loi_->addItem(Q(nom));
     champs->addWidget(FaitEtiquette("EtiquetteCombo1", loi_), 3, 0);
     champs->addWidget(loi_, 3, 1);
-    symetrie_ = AjouteLigneChamp(*champs, 4, "Text19", 178, 0);
+    symetrie_ = AjouteLigneChamp(*champs, 4, noms.symetrie, 178, 0);
     suivante_ = Nomme(new QPushButton, "Suivante");
     suivante_->setAutoDefault(true);
     champs->addWidget(suivante_, 5, 0, 1, 3, Qt::AlignRight);
@@ -176,11 +177,11 @@ void PanneauZones::MontreBoutons() {
 }
 
 void PanneauZones::RemplitGrille() {
-    const bool bras = description_.bras;
-    grille_->Remplit(
-        {EntetesZones(bras), etude.NombreZones,
-         [bras, entrees = zonesEntrees_](int ligne, int colonne) { return CelluleZone(bras, ligne, colonne, entrees); },
-         ColonnesTexteZones(bras)});
+    grille_->Remplit({EntetesZones(description_), etude.NombreZones,
+                      [&zones = description_, entrees = zonesEntrees_](int ligne, int colonne) {
+                          return CelluleZone(zones, ligne, colonne, entrees);
+                      },
+                      ColonnesTexteZones(description_)});
     double somme = 0;
     for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.Zones[z].AngleCame;
     somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));

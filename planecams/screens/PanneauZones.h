@@ -2,7 +2,7 @@
 // zone, and the summary table. What differs from one kind of cam to another is said by a description.
 #pragma once
 
-#include "core/Etude.h"
+#include "planecams/DescriptionZones.h"
 
 #include <QGroupBox>
 
@@ -14,13 +14,9 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 
-struct DescriptionZones {
-    double Zone::*valeurDepart;
-    double Zone::*valeurFinale;
-    int texteDepart, texteFinale, texteCame; ///< text numbers of the captions
-    int unite;                               ///< text number of the unit of both values
-    bool bras;                               ///< the values are angles of an arm, which give radii
-    bool loiDeFichier;                       ///< a one-zone study may take its law from a file
+/// The control names of the fields.
+struct ChampsZones {
+    const char *nombre, *depart, *finale, *came, *symetrie;
 };
 
 class PanneauZones : public QGroupBox {
@@ -30,7 +26,8 @@ public:
     /// @param acheve completes a zone whose law and symmetry are accepted, from the data of the screen; false when it
     /// cannot,
     ///        after the box that says so.
-    PanneauZones(const DescriptionZones& description, std::function<bool(Zone&)> acheve, QWidget* parent = nullptr);
+    PanneauZones(const DescriptionZones& description, const ChampsZones& champs, std::function<bool(Zone&)> acheve,
+                 QWidget* parent = nullptr);
 
     /// Leaving the number of zones for this control is always free.
     void LaisseAller(const QWidget* retour) { retour_ = retour; }
@@ -52,7 +49,7 @@ protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 
 private:
-    QWidget* FaitCadreZone();
+    QWidget* FaitCadreZone(const ChampsZones& champs);
     void RelieChamps();
     void MontreZone();
     void MontreBoutons();

@@ -41,7 +41,8 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
                          PanneauPesanteur* pesanteur) {
     panneaux_ = panneaux;
     pesanteur_ = pesanteur;
-    zones_ = new PanneauZones(description_.zones, [this](Zone& zone) { return AcheveZone(zone); });
+    zones_ =
+        new PanneauZones(description_.zones, description_.champsZones, [this](Zone& zone) { return AcheveZone(zone); });
     auto* contenu = new QWidget;
     auto* rangee = new QHBoxLayout(contenu);
     rangee->setContentsMargins({});
@@ -74,10 +75,12 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
             connect(panneaux_[i], &PanneauChamps::Termine, zones_, &PanneauZones::PrendFocus);
         }
     }
-    connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);
     connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
     connect(zones_, &PanneauZones::Modifie, this, &SaisieCame::PerimeResultats);
-    connect(pesanteur_, &PanneauPesanteur::Modifie, this, &SaisieCame::PerimeResultats);
+    if (pesanteur_ != nullptr) {
+        connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);
+        connect(pesanteur_, &PanneauPesanteur::Modifie, this, &SaisieCame::PerimeResultats);
+    }
     connect(zones_, &PanneauZones::Termine, calculer_, [this] { calculer_->setFocus(Qt::TabFocusReason); });
     connect(calculer_, &QPushButton::clicked, this, &SaisieCame::Calculer);
     connect(retour_, &QPushButton::clicked, this, &SaisieCame::Retour);
@@ -102,11 +105,11 @@ void SaisieCame::LitPanneau(PanneauChamps& panneau) {
 
 void SaisieCame::LitDonnees() {
     for (auto* panneau : panneaux_) LitPanneau(*panneau);
-    pesanteur_->Lit();
+    if (pesanteur_ != nullptr) pesanteur_->Lit();
 }
 
-bool SaisieCame::FauteDeDonnee() {
-    const auto faute = description_.chercheFaute();
+bool SaisieCame::FauteDeDonnee(std::optional<FauteDonnee> (*cherche)()) {
+    const auto faute = cherche();
     if (!faute) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
     MontreFaute(faute->membre);
@@ -120,11 +123,13 @@ void SaisieCame::MontreFaute(double Etude::*membre) {
 
 void SaisieCame::showEvent(QShowEvent* evenement) {
     // Some data may have been changed among the results meanwhile.
-    if (!evenement->spontaneous()) {
-        for (auto* panneau : panneaux_) panneau->Charge();
-        pesanteur_->Montre();
-    }
+    if (!evenement->spontaneous()) ChargeDonnees();
     QWidget::showEvent(evenement);
+}
+
+void SaisieCame::ChargeDonnees() {
+    for (auto* panneau : panneaux_) panneau->Charge();
+    if (pesanteur_ != nullptr) pesanteur_->Montre();
 }
 
 bool SaisieCame::HorsDePortee() {
@@ -136,9 +141,9 @@ bool SaisieCame::HorsDePortee() {
 
 bool SaisieCame::AcheveZone(Zone& zone) {
     LitDonnees();
-    if (FauteDeDonnee() || !ControleZone(zone)) return false;
+    if (FauteDeDonnee(description_.chercheFauteZone) || !ControleZone(zone)) return false;
     std::swap(etude.Zones[etude.ZoneCourante], zone);
-    CompleteZone(etude.ZoneCourante, description_.zones.bras);
+    CompleteZone(etude.ZoneCourante, description_.zones.rayonsBras);
     std::swap(etude.Zones[etude.ZoneCourante], zone);
     return !HorsDePortee();
 }
@@ -146,9 +151,10 @@ bool SaisieCame::AcheveZone(Zone& zone) {
 void SaisieCame::Calculer() {
     if (!zones_->LitPointsParDegre()) return;
     LitDonnees();
-    if (FauteDeDonnee()) return;
+    if (FauteDeDonnee(description_.chercheFaute)) return;
+    ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
-    CompleteZones(description_.zones.bras);
+    CompleteZones(description_.zones.rayonsBras);
     if (HorsDePortee()) return;
     const Sablier sablier;
     etude.ResultatsPrets = Faux;

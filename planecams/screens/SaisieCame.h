@@ -16,8 +16,10 @@ class QPushButton;
 
 struct DescriptionSaisie {
     const char* nom; ///< of the screen
-    DescriptionZones zones;
-    std::optional<FauteDonnee> (*chercheFaute)();
+    const DescriptionZones& zones;
+    ChampsZones champsZones;
+    std::optional<FauteDonnee> (*chercheFauteZone)(); ///< the first scalar without which no zone can be completed
+    std::optional<FauteDonnee> (*chercheFaute)();     ///< the first that cannot be calculated with
     void (*calcule)();
 };
 
@@ -37,11 +39,18 @@ protected:
 
     /// Lays out the screen: the columns from the left, the entry of the zones behind them, the buttons below.
     /// @param panneaux in the order of entry
+    /// @param pesanteur none where gravity does not work on the follower
     void Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
                  PanneauPesanteur* pesanteur);
 
     /// What this kind of cam asks of a zone besides its law; false after a box.
     virtual bool ControleZone(const Zone&) { return true; }
+
+    /// What this kind of cam asks the user about its data before it is calculated.
+    virtual void ProposeDonnees() {}
+
+    /// From the record to the fields.
+    void ChargeDonnees();
 
     void showEvent(QShowEvent* evenement) override;
 
@@ -50,7 +59,7 @@ private:
     void PerimeResultats();
     void LitPanneau(PanneauChamps& panneau);
     void LitDonnees();
-    bool FauteDeDonnee();
+    bool FauteDeDonnee(std::optional<FauteDonnee> (*cherche)());
     void MontreFaute(double Etude::*membre);
     bool HorsDePortee();
     void MontreBoutons();

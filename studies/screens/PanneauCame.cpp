@@ -1,7 +1,8 @@
 #include "studies/screens/PanneauCame.h"
 
 #include "core/Etude.h"
-#include "studies/DessinCame.h"
+#include "planecams/GeometrieCame.h"
+#include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Icones.h"
@@ -110,23 +111,27 @@ void PanneauCame::FaitCommandes(QBoxLayout& disposition) {
 }
 
 void PanneauCame::Montre() {
-    angle_->setRange(0, 360);
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    angle_->setRange(0, type == nullptr ? 360 : DernierAngleDessin(*type));
     MontreAngle(angle_->value());
 }
 
 void PanneauCame::MontreAngle(int angle) {
     texteAngle_->Montre(angle);
-    etude.AngleRotation = angle / RadDeg;
+    const TypeEtude* type = TrouveType(etude.TypeCame);
+    if (type == nullptr || type->dessine == nullptr) return;
+    // A developed cam lies still: what moves over it is the roller.
+    etude.AngleRotation = type->developpee ? 0.0 : angle / RadDeg;
     const long point = static_cast<long>(etude.PointsParDegre) * angle;
     const bool present = point <= etude.Profil.BorneHaute();
-    pression_->setText(present ? Q(Format(etude.Profil[point].AngleTangent * 180.0 / Pi - 90.0, "0.00")) : QString());
-    dessin_->Peint([angle](Dessin& dessin) { DessineCamePlate(dessin, angle); });
+    pression_->setText(present ? Q(Format(Pente(etude.Profil[point].AngleTangent), "0.00")) : QString());
+    dessin_->Peint([type, angle](Dessin& dessin) { type->dessine(dessin, angle); });
 }
 
 void PanneauCame::EntreAngle() {
     const double angle = texteAngle_->Valeur();
-    // Only an angle of the cam's turn can be shown.
-    if (angle < 0.0 || angle > 360.0) texteAngle_->Montre(0);
+    // Only an angle of the cam's turns can be shown.
+    if (angle < 0.0 || angle > angle_->maximum()) texteAngle_->Montre(0);
     angle_->setValue(static_cast<int>(Arrondi(texteAngle_->Valeur())));
     texteAngle_->Montre(angle_->value());
 }
@@ -140,7 +145,6 @@ void PanneauCame::Tourne() {
     tourner_->setEnabled(false);
     arret_->setFocus();
     etude.RotationEnCours = Vrai;
-    angle_->setRange(0, 360);
     ArmePas();
 }
 

@@ -3,13 +3,12 @@
 #include "core/Etude.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
-#include "planecams/GeometrieCame.h"
 #include "planecams/ListeZones.h"
 #include "planecams/MouvementCame.h"
 #include "platform/Dialogues.h"
 #include "studies/Graphique.h"
 #include "studies/Listages.h"
-#include "studies/TypesEtude.h"
+#include "studies/ValeursRemarquables.h"
 #include "studies/screens/PanneauCame.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
@@ -33,48 +32,23 @@
 namespace {
 
 constexpr int OngletRotation = 4;
-/// A remarkable value: the group it stands in, its caption, value, mask and unit, and the cam angle at which it occurs.
-struct LigneValeur {
-    const char* groupe;
-    const char* controle;
-    int texte;
-    double (*valeur)();
-    const char* masque;
-    int unite;
-    std::int16_t Etude::*angle = nullptr;
-};
-
-template <double Etude::*membre> double De() {
-    return etude.*membre;
-}
-
-const LigneValeur valeurs[] = {
-    {"GroupeCame", "RayonMin", 220, De<&Etude::RayonMin>, "###.###", UniteMm},
-    {"GroupeCame", "RayonMax", 221, De<&Etude::RayonMax>, "###.###", UniteMm},
-    {"GroupeCame", "RayonCourbureMin", 222, De<&Etude::RayonCourbureMin>, "##.##", UniteMm},
-    {"GroupeCame", "AngleTangentMax", 223, PenteMaxi, "##.##", UniteDegres},
-    {"GroupeCame", "CoupleMax", 232, De<&Etude::CoupleMax>, "###.##", UniteNm, &Etude::CoupleMaxAngle},
-    {"GroupeCame", "MasseCame", 234, De<&Etude::MasseCame>, "##.##", UniteKg},
-    {"GroupeCame", "InertieCame", 233, De<&Etude::InertieCame>, "##.##", UniteKgM2},
-    {"GroupeGalet", "VitesseRayonMax", 225, De<&Etude::VitesseRayonMax>, "##.##", UniteMS,
-     &Etude::VitesseRayonMaxAngle},
-    {"GroupeGalet", "AccelRayonMax", 226, De<&Etude::AccelRayonMax>, "##.##", UniteMS2, &Etude::AccelRayonMaxAngle},
-    {"GroupeGalet", "VitesseGaletMoyenne", 229, De<&Etude::VitesseGaletMoyenne>, "###.##", UniteTours},
-    {"GroupeGalet", "VitesseGaletMax", 230, De<&Etude::VitesseGaletMax>, "###.##", UniteTours},
-    {"GroupeGalet", "ForceGaletMax", 231, De<&Etude::ForceGaletMax>, "####.##", UniteN, &Etude::ForceGaletMaxAngle},
-    {"GroupeBras", "LoiVitesseMax", 225, De<&Etude::LoiVitesseMax>, "##.##", UniteRadS, &Etude::LoiVitesseMaxAngle},
-    {"GroupeBras", "LoiAccelMax", 226, De<&Etude::LoiAccelMax>, "##.##", UniteRadS2, &Etude::LoiAccelMaxAngle},
-    {"GroupeBras", "LoiCourseMax", 237, De<&Etude::LoiCourseMax>, "###.##", UniteDegres},
-    {"GroupeBras", "InertieBras", 235, De<&Etude::InertieBras>, "##.#####", UniteKgM2},
-    {"GroupeBras", "InertieMasseA", 236, De<&Etude::InertieMasseA>, "##.#####", UniteKgM2},
-};
-
 /// What may be changed here and calculated again.
 constexpr ChampSaisie champsRecalcul[] = {
-    {"Text2", 164, UniteKg, &Etude::MasseA},         {"Text3", 166, UniteN, &Etude::ForceX},
-    {"Text4", 167, UniteN, &Etude::ForceY},          {"Text5", 123, UniteMm, &Etude::RayonGalet},
+    {"Text2", 164, UniteKg, &Etude::MasseA},
+    {"Text3", 166, UniteN, &Etude::ForceX},
+    {"Text4", 167, UniteN, &Etude::ForceY},
+    {"Text5", 123, UniteMm, &Etude::RayonGalet},
     {"Text6", 157, UniteTours, &Etude::VitesseCame},
+    {"Text7", 239, UniteKgM2, &Etude::InertieMasseA},
+    {"Text8", 240, UniteNm, &Etude::CoupleConstantO1},
 };
+
+/// The groups of remarkable values and their places on the sheet.
+constexpr struct {
+    GroupeValeurs groupe;
+    const char* controle;
+    int rang, colonne;
+} groupes[] = {{GroupeCame, "GroupeCame", 0, 1}, {GroupeGalet, "GroupeGalet", 0, 2}, {GroupeBras, "GroupeBras", 1, 2}};
 
 constexpr Legende legendes[] = {
     {"SSTab1", 0, 209},        {"SSTab1", 1, 210},         {"SSTab1", 2, 776},        {"SSTab1", 3, 214},
@@ -106,6 +80,15 @@ void MontreNombre(QLabel& etiquette, double valeur, const char* masque) {
     etiquette.setToolTip(QTexte(777) + " " + Q(StrTrim(valeur)));
 }
 
+/// Shows or hides the row of a grid that holds a control.
+void MontreRang(QWidget& controle, bool montre) {
+    auto* grille = qobject_cast<QGridLayout*>(controle.parentWidget()->layout());
+    int rang = 0, colonne = 0, etendueRang = 0, etendueColonne = 0;
+    grille->getItemPosition(grille->indexOf(&controle), &rang, &colonne, &etendueRang, &etendueColonne);
+    for (int c = 0; c < grille->columnCount(); ++c)
+        if (auto* element = grille->itemAtPosition(rang, c)) element->widget()->setVisible(montre);
+}
+
 bool EstRecalculable(double Etude::*membre) {
     return std::any_of(std::begin(champsRecalcul), std::end(champsRecalcul),
                        [&](const ChampSaisie& champ) { return champ.membre == membre; });
@@ -113,7 +96,8 @@ bool EstRecalculable(double Etude::*membre) {
 
 void RemplitListage(Grille& grille, std::span<const Colonne> colonnes) {
     Grille::Contenu contenu;
-    for (const auto& colonne : colonnes) contenu.entetes.push_back(Texte(colonne.texte) + "\n" + Texte(colonne.unite));
+    for (const auto& colonne : colonnes)
+        contenu.entetes.push_back(Texte(TexteColonne(colonne)) + "\n" + Texte(colonne.unite));
     contenu.lignes = LignesListage();
     contenu.cellule = [colonnes](int ligne, int colonne) {
         return CelluleListage(colonnes[static_cast<std::size_t>(colonne)], ligne);
@@ -155,27 +139,8 @@ QWidget* Resultat::FaitValeurs() {
     dispositionDonnees_ = new QGridLayout(donnees_);
     disposition->addWidget(donnees_, 0, 0, 2, 1);
 
-    constexpr std::pair<int, int> places[] = {{0, 1}, {0, 2}, {1, 2}};
-    std::size_t place = 0;
-    for (const char* nom : {"GroupeCame", "GroupeGalet", "GroupeBras"}) {
-        auto* groupe = Nomme(new QGroupBox, nom);
-        auto* grille = new QGridLayout(groupe);
-        for (const auto& ligne : valeurs) {
-            if (QLatin1String(ligne.groupe) != QLatin1String(nom)) continue;
-            const int rang = grille->rowCount();
-            valeurs_.push_back(FaitValeur(ligne.controle));
-            angles_.push_back(FaitUnite({}));
-            angles_.back()->setObjectName(QString::fromLatin1(ligne.controle) + "Angle");
-            grille->addWidget(new QLabel(QTexte(ligne.texte)), rang, 0);
-            grille->addWidget(valeurs_.back(), rang, 1);
-            grille->addWidget(FaitUnite(QTexte(ligne.unite)), rang, 2);
-            grille->addWidget(angles_.back(), rang, 3);
-        }
-        grille->setColumnStretch(0, 1);
-        grille->setRowStretch(grille->rowCount(), 1);
-        const auto [rangGroupe, colonneGroupe] = places[place++];
-        disposition->addWidget(groupe, rangGroupe, colonneGroupe);
-    }
+    for (const auto& place : groupes)
+        disposition->addWidget(FaitGroupe(place.controle, place.groupe), place.rang, place.colonne);
     disposition->addWidget(FaitRecalcul(), 1, 1);
     zones_ = Nomme(new Grille, "Grille");
     zones_->setMinimumHeight(150);
@@ -183,6 +148,25 @@ QWidget* Resultat::FaitValeurs() {
     disposition->addWidget(zones_, 3, 0, 1, 3);
     disposition->setRowStretch(3, 1);
     return feuille;
+}
+
+QWidget* Resultat::FaitGroupe(const char* nom, int groupe) {
+    auto* cadre = Nomme(new QGroupBox, nom);
+    auto* grille = new QGridLayout(cadre);
+    for (const auto& valeur : LesValeursRemarquables()) {
+        if (valeur.groupe != groupe) continue;
+        const int rang = grille->rowCount();
+        const LigneValeur ligne{&valeur, new QLabel, FaitValeur(valeur.nom), FaitUnite({})};
+        ligne.angle->setObjectName(QString::fromLatin1(valeur.nom) + "Angle");
+        grille->addWidget(ligne.libelle, rang, 0);
+        grille->addWidget(ligne.valeur, rang, 1);
+        grille->addWidget(FaitUnite(QTexte(valeur.unite)), rang, 2);
+        grille->addWidget(ligne.angle, rang, 3);
+        valeurs_.push_back(ligne);
+    }
+    grille->setColumnStretch(0, 1);
+    grille->setRowStretch(grille->rowCount(), 1);
+    return cadre;
 }
 
 QWidget* Resultat::FaitRecalcul() {
@@ -243,10 +227,15 @@ void Resultat::MontreRotation() {
 }
 
 void Resultat::RemplitValeurs(const TypeEtude& type) {
-    for (std::size_t i = 0; i < std::size(valeurs); ++i) {
-        MontreNombre(*valeurs_[i], valeurs[i].valeur(), valeurs[i].masque);
-        if (valeurs[i].angle != nullptr)
-            angles_[i]->setText(QTexte(227) + " " + Q(Format(etude.*valeurs[i].angle, "##0")) + "°");
+    for (const auto& ligne : valeurs_) {
+        const ValeurRemarquable& valeur = *ligne.description;
+        const int texte = valeur.texte(type);
+        MontreRang(*ligne.valeur, texte != 0);
+        if (texte == 0) continue;
+        ligne.libelle->setText(QTexte(texte));
+        MontreNombre(*ligne.valeur, valeur.valeur(), valeur.masque);
+        if (valeur.repere != nullptr)
+            ligne.angle->setText(QTexte(227) + " " + Q(Format(AngleExtreme(valeur.repere), "##0")) + "°");
     }
     while (QLayoutItem* ancien = dispositionDonnees_->takeAt(0)) {
         delete ancien->widget();
@@ -267,12 +256,13 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
 }
 
 void Resultat::RemplitGrilles(const TypeEtude& type) {
-    const bool bras = type.bras;
-    zones_->Remplit({EntetesZones(bras), etude.NombreZones,
-                     [bras](int ligne, int colonne) { return CelluleZone(bras, ligne, colonne, etude.NombreZones); },
-                     ColonnesTexteZones(bras)});
+    zones_->Remplit({EntetesZones(*type.zones), etude.NombreZones,
+                     [&zones = *type.zones](int ligne, int colonne) {
+                         return CelluleZone(zones, ligne, colonne, etude.NombreZones);
+                     },
+                     ColonnesTexteZones(*type.zones)});
     RemplitListage(*grilleGalet_, ColonnesGalet());
-    RemplitListage(*grilleBras_, ColonnesBras());
+    RemplitListage(*grilleBras_, ColonnesBras(type.zones->rayonsBras));
     RemplitListage(*grilleEfforts_, ColonnesEfforts());
     RemplitListage(*grilleCame_, ColonnesCame());
 }
@@ -290,22 +280,15 @@ void Resultat::RemplitRecalcul() {
 
 void Resultat::MontreSelonType(const TypeEtude& type) {
     onglets_->setUpdatesEnabled(false);
-    findChild<QWidget*>("GroupeBras")->setVisible(type.bras);
-    findChild<QWidget*>("TitrePicture5")->setVisible(type.bras);
-    graphiqueBras_->setVisible(type.bras);
-    listages_->setTabVisible(listages_->indexOf(grilleBras_), type.bras);
-    auto* grille = qobject_cast<QGridLayout*>(recalcul_->parentWidget()->layout());
-    for (std::size_t i = 0; i < champs_.size(); ++i) {
-        const bool employe = std::any_of(type.champs.begin(), type.champs.end(), [&](const ChampFichier& champ) {
-            return champ.membre == champsRecalcul[i].membre;
-        });
-        int rang = 0, colonne = 0, etendueRang = 0, etendueColonne = 0;
-        grille->getItemPosition(grille->indexOf(champs_[i]), &rang, &colonne, &etendueRang, &etendueColonne);
-        for (int c = 0; c < 3; ++c)
-            if (auto* element = grille->itemAtPosition(rang, c)) element->widget()->setVisible(employe);
-    }
+    for (QWidget* widget : {findChild<QWidget*>("GroupeBras"), findChild<QWidget*>("TitrePicture5"),
+                            static_cast<QWidget*>(graphiqueBras_)})
+        widget->setVisible(type.Bras());
+    listages_->setTabVisible(listages_->indexOf(grilleBras_), type.Bras());
+    for (std::size_t i = 0; i < champs_.size(); ++i) MontreRang(*champs_[i], AChamp(type, champsRecalcul[i].membre));
     // Without an arm there is no point A for the mass to stand at.
-    findChild<QLabel*>("EtiquetteText2")->setText(QTexte(type.bras ? 164 : 163));
+    for (const ChampFichier& champ : type.champs)
+        if (champ.membre == &Etude::MasseA)
+            findChild<QLabel*>("EtiquetteText2")->setText(QTexte(type.Bras() ? 164 : champ.texte));
     onglets_->setUpdatesEnabled(true);
 }
 

@@ -16,6 +16,7 @@ class QPushButton;
 class QTabWidget;
 class ZoneDessin;
 struct TypeEtude;
+struct ValeurRemarquable;
 
 class Resultat : public QWidget {
     Q_OBJECT
@@ -34,7 +35,14 @@ signals:
     void EtudeRecalculee();
 
 private:
+    /// A remarkable value and its labels.
+    struct LigneValeur {
+        const ValeurRemarquable* description;
+        QLabel *libelle, *valeur, *angle;
+    };
+
     QWidget* FaitValeurs();
+    QWidget* FaitGroupe(const char* nom, int groupe);
     QWidget* FaitRecalcul();
     QWidget* FaitListages();
     QWidget* FaitGraphiques(const char* titre1, ZoneDessin** zone1, const char* titre2, ZoneDessin** zone2);
@@ -49,7 +57,7 @@ private:
     bool RefuseSiRotation();
 
     QTabWidget *onglets_, *listages_;
-    std::vector<QLabel*> valeurs_, angles_;
+    std::vector<LigneValeur> valeurs_;
     QGroupBox* donnees_;
     QGridLayout* dispositionDonnees_;
     Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;

@@ -271,6 +271,20 @@ TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
     EXPECT_TRUE(Visible("DatoCama")) << "the data screen comes back";
 }
 
+TEST_F(Fenetre, UneCameCylindriqueOuverteRevientASonEcranDeSaisie) {
+    for (const auto& [fichier, ecran] : {std::pair{"Barillet.Cyl", "DoCyl"}, {"Balancier.Osc", "DoCylOsc"}}) {
+        mdi_.FermeEcrans();
+        mdi_.OuvreFichier(Exemple().parent_path() / fichier);
+        ASSERT_TRUE(Visible("Resultat")) << Etat();
+        Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
+        ASSERT_TRUE(Visible(ecran));
+        Clique(*mdi_.EcranOuvert(ecran), "Calculer");
+        EXPECT_TRUE(Visible("Resultat"));
+        EXPECT_FALSE(Visible(ecran));
+        EXPECT_EQ(etude.EtudeModifiee, Vrai);
+    }
+}
+
 TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
     mdi_.OuvreFichier(Exemple());
     Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
@@ -281,7 +295,7 @@ TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
     EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
     EXPECT_TRUE(mdi_.findChildren<QMdiSubWindow*>().isEmpty());
     EXPECT_TRUE(mdi_.isVisible());
-    EXPECT_EQ(mdi_.OuvreEcran("DoCyl"), nullptr) << "a screen that is not built";
+    EXPECT_EQ(mdi_.OuvreEcran("CylindriqueIndexeur"), nullptr) << "a screen that is not built";
 }
 
 TEST_F(Fenetre, LaCroixDUnEnfantEstSonRetour) {

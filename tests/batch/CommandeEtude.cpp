@@ -1,4 +1,5 @@
 #include "Passe.h"
+#include "data/Textes.h"
 #include "outils/DossierTemporaire.h"
 
 #include <cmath>
@@ -100,6 +101,28 @@ TEST_F(CommandeEtude, RollerStandsOnTheArmAndOnBothProfiles) {
     for (std::size_t i = 220; i <= 340; ++i) EXPECT_NEAR(bras[i], 25, 1e-12);
     EXPECT_NEAR(bras[720], 5, 1e-12);
     EXPECT_EQ(rayon[0], rayon[720]);
+}
+
+TEST_F(CommandeEtude, CylindricalExamplesAreCalculatedWithoutABox) {
+    const auto profils = std::filesystem::path(exemple).parent_path();
+    const auto passe = LancePasse({"etude", (profils / "Barillet.Cyl").string(), (profils / "Deux-tours.Cyl").string(),
+                                   (profils / "Balancier.Osc").string()});
+    ASSERT_EQ(passe.statut, 0) << passe.erreurs;
+    ASSERT_EQ(passe.objets.size(), 3u);
+    for (const auto& o : passe.objets) {
+        EXPECT_TRUE(o["messages"].empty()) << o["fichier"];
+        EXPECT_EQ(o["Profil"]["XInterieur"].size(), o["resume"]["NombrePoints"].get<std::size_t>() + 1);
+        EXPECT_GT(o["resume"]["CoupleDemarrage"], 0);
+        // The track closes on itself, or ends at rest.
+        EXPECT_EQ(Nombres(o["Points"]["VitesseRayon"]).back(), 0);
+    }
+    EXPECT_TRUE(passe.objets[0]["Mouvement"]["Course"].empty()) << "no arm";
+    EXPECT_EQ(passe.objets[2]["Mouvement"]["Course"].size(), 721u);
+    EXPECT_EQ(passe.objets[2]["donnees"]["CoupleConstantO1"], 4);
+    const auto sansVitesse = dossier.Ecrit("Arret.Cyl", "\n\n8\n0\n270\n120\n3\n0\n1\nZ\n0\n9\n360\nMS\n.5\n1\n");
+    const auto echec = LancePasse({"etude", sansVitesse});
+    EXPECT_EQ(echec.statut, 1);
+    EXPECT_EQ(echec.Objet()["echec"], Texte(713));
 }
 
 TEST_F(CommandeEtude, EveryFileIsCalculatedAsIfAlone) {

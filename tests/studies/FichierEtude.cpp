@@ -73,7 +73,7 @@ TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
         ASSERT_TRUE(LitEtude(contenu, type)) << type.nom;
         for (const auto& champ : type.champs)
             EXPECT_EQ(etude.*champ.membre, ecrite.*champ.membre) << type.nom << champ.nom;
-        EXPECT_EQ(etude.Zones[2].*type.valeurFinale, 5.25) << type.nom;
+        EXPECT_EQ(etude.Zones[2].*type.zones->valeurFinale, 5.25) << type.nom;
         EXPECT_EQ(etude.Zones[2].AngleCame, 160) << type.nom;
         EXPECT_EQ(etude.PointsParDegre, 4) << type.nom;
         EXPECT_EQ(ComposeFichierEtude(type, '.'), contenu) << type.nom;

@@ -37,6 +37,10 @@ std::vector<std::string> Corpus() {
         "Came : Lin \r\nDate\r\n10.\r\n300.\r\n90.\r\n12.\r\n1.5\r\n-20.\r\n2.\r\nZone n° "
         "1\r\n40.\r\n60.\r\n18.\r\nMS\r\n.5\r\n"
         "Zone n° 2\r\n60.\r\n40.\r\n18.\r\nCYC\r\n.5\r\n1\r\n",
+        "Came : Cyl\r\nDate\r\n8.\r\n120.\r\n270.\r\n120.\r\n3.5\r\n-45.\r\n2.\r\nZone n° "
+        "1\r\n.\r\n5.\r\n18.\r\nMS\r\n.5\r\nZone n° 2\r\n5.\r\n.\r\n18.\r\nMSC50\r\n.5\r\n2\r\n",
+        "Came : Osc\r\nDate\r\n9.\r\n150.\r\n125.\r\n110.\r\n112.\r\n.06\r\n4.\r\n2.\r\nZone n° "
+        "1\r\n-3.\r\n3.\r\n18.\r\nMS\r\n.5\r\nZone n° 2\r\n3.\r\n-3.\r\n18.\r\nCYC\r\n.4\r\n1\r\n",
     };
     for (const auto& fichier :
          std::filesystem::directory_iterator(std::filesystem::path(VELORIN_SOURCES) / "Profils")) {

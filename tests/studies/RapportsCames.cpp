@@ -3,6 +3,8 @@
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
 #include "outils/ImprimanteNotee.h"
+#include "planecams/GeometrieCame.h"
+#include "studies/FichierEtude.h"
 #include "studies/TypesEtude.h"
 
 #include <cmath>
@@ -245,6 +247,44 @@ TEST_F(RapportsCames, TheProfileHasTheScaleOfItsLastLine) {
         const auto [gauche, droite] =
             std::minmax_element(e.begin(), e.end(), [](PointDessin a, PointDessin b) { return a.x < b.x; });
         EXPECT_GT((droite->x - gauche->x) * 2.5, 179);
+    }
+}
+
+TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
+    for (const char* fichier : {"Deux-tours.Cyl", "Balancier.Osc"}) {
+        SCOPED_TRACE(fichier);
+        etude = Etude{};
+        ChargeLois();
+        ASSERT_TRUE(LitFichierEtude(CheminAppli / NomDossierEtudes / fichier));
+        CalculeEtude();
+        const bool bras = etude.TypeCame == "Oscillation";
+        imprimante = ImprimanteNotee();
+        Imprime({MarqueImpression::Profil});
+        const auto& page = imprimante.pages.front();
+        EXPECT_EQ(page.Textes().back(), Texte(488) + " : 0.5") << "down the page, where it is larger";
+        const auto courbes = Courbes(page, Couleur::Came);
+        ASSERT_EQ(courbes.size(), bras ? 2u : 4u) << "both flanks of every turn";
+        const auto& interieur = courbes.front();
+        for (long i = 0; i < 700; ++i) {
+            const PointProfil& p = etude.Profil[i];
+            ASSERT_NEAR(interieur[static_cast<std::size_t>(i)].y - interieur[0].y,
+                        0.5 * (p.XInterieur - etude.Profil[0].XInterieur), 1e-9);
+        }
+        const auto tour = Format(Pi * etude.DiametreCame, "####.00");
+        EXPECT_TRUE(std::any_of(page.etiquettes.begin(), page.etiquettes.end(), [&](const auto& etiquette) {
+            return etiquette.texte == tour;
+        })) << tour;
+
+        imprimante = ImprimanteNotee();
+        Imprime(
+            {MarqueImpression::Donnees, MarqueImpression::PointsRemarquables, MarqueImpression::GraphiqueMouvement});
+        EXPECT_EQ(imprimante.pages.size(), bras ? 4u : 3u) << "a graph of the arm only where there is one";
+        std::string texte;
+        for (const std::string& ligne : ToutesLesLignes()) texte += ligne + "\n";
+        EXPECT_NE(texte.find(Format(etude.CoupleDemarrage, "###.##") + " 0.25 sec"), std::string::npos);
+        EXPECT_NE(texte.find(Format(PenteMaxi(), "##.##")), std::string::npos);
+        EXPECT_NE(texte.find(Texte(bras ? 161 : 395)), std::string::npos);
+        EXPECT_EQ(texte.find(Texte(221)), std::string::npos) << "no radius of a plane cam";
     }
 }
 

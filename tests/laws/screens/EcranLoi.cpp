@@ -200,7 +200,7 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
     Calcule();
     dialogues_.saisies = {"2"};
     CliqueSur(*ecran_, "Enregistrer");
-    EXPECT_EQ(dialogues_.boites.back().texte, Texte(796));
+    EXPECT_EQ(dialogues_.boites.back().texte, Texte(800));
 }
 
 TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {

@@ -142,6 +142,40 @@ TEST_F(FenetreResultat, AFailedRecalculationKeepsDataAndTables) {
     EXPECT_EQ(quitte.count(), 1);
 }
 
+TEST_F(FenetreResultat, ADevelopedCamIsWalkedAlongToItsLastTurn) {
+    ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / "Deux-tours.Cyl"));
+    CalculeEtude();
+    Ouvre();
+    auto* angle = Controle<QScrollBar>(*ecran, "HScroll1");
+    EXPECT_EQ(angle->maximum(), 720);
+    angle->setValue(500);
+    EXPECT_EQ(Valeur("Label42").toStdString(), Format(etude.Profil[1000].AngleTangent * RadDeg, "0.00"));
+    EXPECT_EQ(etude.AngleRotation, 0) << "the sheet lies still, also in the scripts";
+    EXPECT_EQ(Valeur("AngleTangentMax").toStdString(), Format(etude.AngleTangentMax * RadDeg, "##.##"));
+    EXPECT_FALSE(Controle<QWidget>(*ecran, "GroupeBras")->isVisible());
+    // The subscript of the peak is told as a cam angle.
+    ASSERT_EQ(etude.PointsParDegre, 2);
+    EXPECT_TRUE(Valeur("ForceGaletMaxAngle").contains(QString::number(Arrondi(etude.ForceGaletMaxAngle / 2.0))));
+}
+
+TEST_F(FenetreResultat, TheOscillatingStudyIsCalculatedAgainWithItsOwnEntries) {
+    ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / "Balancier.Osc"));
+    CalculeEtude();
+    Ouvre();
+    EXPECT_FALSE(Controle<QWidget>(*ecran, "Text2")->isVisible()) << "no mass at a point A";
+    EXPECT_TRUE(Controle<QWidget>(*ecran, "GroupeBras")->isVisible());
+    EXPECT_FALSE(Controle<QWidget>(*ecran, "LoiCourseMax")->isVisible());
+    EXPECT_EQ(Valeur("CoupleDemarrage").toStdString(), Format(etude.CoupleDemarrage, "###.##"));
+    EXPECT_EQ(Valeur("AngleDemarrage"), "112.5");
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille2")->model()->columnCount(), 4) << "no point A";
+    Tape("Text7", "0,12");
+    Tape("Text8", "-2");
+    Clique("Recalcul");
+    EXPECT_EQ(etude.InertieMasseA, 0.12);
+    EXPECT_NEAR(etude.Points[300].ForceGalet, 2 / 0.112, 1e-9) << "at rest the constant torque alone";
+    EXPECT_EQ(Controle<QScrollBar>(*ecran, "HScroll1")->maximum(), 360);
+}
+
 TEST_F(FenetreResultat, OpensAndTurnsFastEnough) {
     etude.PointsParDegre = 10;
     CalculeEtude();

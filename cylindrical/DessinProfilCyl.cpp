@@ -1,0 +1,101 @@
+#include "cylindrical/DessinProfilCyl.h"
+
+#include "core/Etude.h"
+#include "cylindrical/DeveloppeeCyl.h"
+#include "data/Textes.h"
+#include "data/Unites.h"
+#include "planecams/PlanDessin.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace {
+
+constexpr double HauteurTexte = 12, Bandeau = 30, Marge = 44;
+constexpr int PasDegres = 30;
+constexpr Trait traitGraduation{Couleur::Graduation, 1.0}, traitRepere{Couleur::Repere, 1.0, true};
+
+bool ABras() {
+    return !etude.Mouvement.Vide();
+}
+
+/// Lowest and furthest left that an arm ever reaches on the sheet; a translating follower stays on it.
+PointDessin CoinBas(const Developpee& d) {
+    PointDessin coin{0, d.bas};
+    if (!ABras()) return coin;
+    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) coin.x = std::min(coin.x, PivotDeveloppe(i).x);
+    return {coin.x, std::min(coin.y, -8.0)};
+}
+
+void DessineFeuille(Dessin& dessin, PlanDessin& plan, const Developpee& d) {
+    const PointDessin coins[] = {{0, d.bas}, {d.largeur, d.bas}, {d.largeur, d.haut}, {0, d.haut}};
+    plan.Contour(coins, {Couleur::Came, 1.2}, true);
+    for (int degres = 0; degres <= 360; degres += PasDegres) {
+        const double x = d.largeur * degres / 360;
+        plan.Ligne({x, d.bas}, {x, d.haut}, traitGraduation);
+        const PointDessin pied = plan({x, d.bas});
+        dessin.Texte({pied.x, pied.y + HauteurTexte}, std::to_string(degres) + "°", Ancrage::Centre, HauteurTexte,
+                     Couleur::TexteDiscret);
+    }
+}
+
+void DessineTours(PlanDessin& plan, const Developpee& d) {
+    for (const TourDeveloppe& tour : d.tours) {
+        plan.Contour(tour.primitif, {Couleur::Primitif, 1.0, true}, false);
+        plan.Contour(tour.interieur, {Couleur::Came, 1.8}, false);
+        plan.Contour(tour.exterieur, {Couleur::Courbe2, 1.8}, false);
+    }
+}
+
+void DessineSuiveur(Dessin& dessin, PlanDessin& plan, const Developpee& d, long i) {
+    const PointDessin P = CentreGaletDeveloppe(i);
+    plan.Ligne({P.x, d.bas}, {P.x, d.haut}, traitRepere);
+    plan.Disque(P, etude.RayonGalet, {Couleur::Galet, 1.8});
+    if (ABras()) {
+        const PointDessin O1 = PivotDeveloppe(i), place = plan(O1);
+        plan.Ligne(O1, P, {Couleur::Bras, 2.4});
+        dessin.Disque(place, 3.5, {Couleur::Bras, 1.4});
+        dessin.Texte({place.x, place.y + 1.2 * HauteurTexte}, "O1", Ancrage::Centre, HauteurTexte);
+    }
+    dessin.Disque(plan(P), 2.5, {Couleur::Axe, 1.2});
+    const PointDessin tete = plan({P.x, d.haut});
+    const std::string position =
+        Format(etude.Points[i].Angle, "##0") + "°   " + Texte(244) + " " + Format(P.y, "0.00") + " " + Texte(UniteMm);
+    const double demi = dessin.LargeurTexte(position, HauteurTexte) / 2 + 4;
+    const double x = std::clamp(tete.x, demi, std::max(demi, dessin.Largeur() - demi));
+    dessin.Texte({x, tete.y - HauteurTexte}, position, Ancrage::Centre, HauteurTexte, Couleur::Repere);
+}
+
+void DessineLegende(Dessin& dessin) {
+    constexpr struct {
+        Couleur couleur;
+        int texte;
+        bool pointille, bras;
+    } lignes[] = {{Couleur::Came, 291, false, false},
+                  {Couleur::Courbe2, 290, false, false},
+                  {Couleur::Primitif, 293, true, false},
+                  {Couleur::Galet, 289, false, false},
+                  {Couleur::Bras, 217, false, true}};
+    double x = 14;
+    for (const auto& ligne : lignes) {
+        if (ligne.bras && !ABras()) continue;
+        dessin.Ligne({x, 16}, {x + 20, 16}, {ligne.couleur, 2.0, ligne.pointille});
+        dessin.Texte({x + 26, 16}, Texte(ligne.texte), Ancrage::Gauche, HauteurTexte);
+        x += 46 + dessin.LargeurTexte(Texte(ligne.texte), HauteurTexte);
+    }
+}
+
+} // namespace
+
+void DessinProfilCyl(Dessin& dessin, double angle) {
+    const Developpee d = CalculeDeveloppee();
+    if (d.tours.empty()) return;
+    const long i =
+        std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
+    PlanDessin plan(dessin, CoinBas(d), {d.largeur, d.haut}, Marge, Bandeau);
+    DessineFeuille(dessin, plan, d);
+    DessineTours(plan, d);
+    DessineSuiveur(dessin, plan, d, i);
+    DessineLegende(dessin);
+}

@@ -1,0 +1,73 @@
+// Speed and acceleration of a zone: stroke C (mm, or degrees of the arm) over 1000 and over the duration, times the
+// unit law's. On the arm this is the system's own scaling too; times the arm's length over 1000 it gives the roller
+// centre's. The roller rolls at the speed of the cam's surface put together square with that of the follower.
+#include "cylindrical/MouvementCyl.h"
+
+#include "planecams/ParcoursZones.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Peripheral speed of the cam, m/s.
+double VitessePeripherique() {
+    return 2.0 * etude.VitesseCame * Pi / 60.0 * etude.DiametreCame / 2.0 / 1000.0;
+}
+
+/// Roller speed in Tr/min, rounded down. @param V peripheral speed of the cam, m/s
+double VitesseGalet(double V, double vitesseRayon) {
+    const double vitesse = std::sqrt(V * V + vitesseRayon * vitesseRayon);
+    return Int(Divise((60.0 / (2.0 * Pi)) * vitesse, etude.RayonGalet / 1000.0));
+}
+
+/// A row of the motion of a zone, from its row of the unit law.
+PointLoi LigneMouvement(const PointLoi& unite, const Parcours& zone) {
+    const double vitesse = (zone.course / 1000.0) / zone.T;
+    return {zone.depart + zone.course * unite.Course, vitesse * unite.Vitesse, vitesse / zone.T * unite.Accel};
+}
+
+} // namespace
+
+void MouvementCyl() {
+    etude.VitesseGaletMax = 0;
+    const double V = VitessePeripherique();
+    DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, LoiDeFichier(), true, true},
+                 [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                     Point& p = etude.Points[lieu.k];
+                     const PointLoi m = LigneMouvement(unite, zone);
+                     p.Rayon = m.Course;
+                     p.VitesseRayon = m.Vitesse;
+                     p.AccelRayon = m.Accel;
+                     p.VitesseGalet = VitesseGalet(V, p.VitesseRayon);
+                 });
+}
+
+void MouvementCylOsc() {
+    etude.VitesseGaletMax = 0;
+    etude.LoiVitesseMax = 0;
+    etude.LoiAccelMax = 0;
+    const double V = VitessePeripherique();
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), true, true},
+                 [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                     Point& p = etude.Points[lieu.k];
+                     PointLoi& m = etude.Mouvement[lieu.k];
+                     m = LigneMouvement(unite, zone);
+                     SuitMaximum(m.Vitesse, lieu.repere, etude.LoiVitesseMax, etude.LoiVitesseMaxAngle);
+                     SuitMaximum(m.Accel, lieu.repere, etude.LoiAccelMax, etude.LoiAccelMaxAngle);
+                     p.Rayon = etude.RayonO1P * std::sin(m.Course * Pi / 180.0);
+                     p.VitesseRayon = etude.RayonO1P * m.Vitesse / 1000.0;
+                     p.AccelRayon = etude.RayonO1P * m.Accel / 1000.0;
+                     p.VitesseGalet = VitesseGalet(V, p.VitesseRayon);
+                 });
+    // The cam is as thick as the roller's travel and one roller, with 5 mm at either edge.
+    const double X = AngleBrasExtreme() * Pi / 180.0;
+    etude.EpaisseurCame = Val(Format(etude.RayonO1P * std::sin(X) + 2.0 * etude.RayonGalet + 10.0, "####.##"));
+    etude.RayonMax = etude.EpaisseurCame;
+}
+
+double AngleBrasExtreme() {
+    double extreme = 0;
+    for (const PointLoi& m : etude.Mouvement) extreme = std::max(extreme, std::abs(m.Course));
+    return extreme;
+}

@@ -1,0 +1,54 @@
+#include "cylindrical/screens/DoCylOsc.h"
+
+#include "cylindrical/CamesCylindriques.h"
+#include "cylindrical/DonneesCyl.h"
+#include "cylindrical/SchemasCyl.h"
+#include "data/Textes.h"
+#include "planecams/screens/PanneauSchema.h"
+#include "platform/Dialogues.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/PanneauChamps.h"
+
+namespace {
+
+constexpr ChampSaisie champsGeometrie[] = {
+    {"Text1", 400, UniteMm, &Etude::CoteA},
+    {"Text2", 155, UniteMm, &Etude::RayonO1P},
+    {"Text3", 394, UniteMm, &Etude::DiametreCame},
+    {"RayonGalet", 123, UniteMm, &Etude::RayonGalet},
+    {"VitesseCame", 157, UniteTours, &Etude::VitesseCame},
+};
+constexpr ChampSaisie champsEfforts[] = {
+    {"Text6", 239, UniteKgM2, &Etude::InertieMasseA},
+    {"Text7", 240, UniteNm, &Etude::CoupleConstantO1},
+};
+
+constexpr DescriptionSaisie description{"DoCylOsc",
+                                        ZonesOscillation,
+                                        {"NombreZones", "AngleDepart", "AngleFinal", "AngleCame", "CoefSymetrie"},
+                                        ChercheFauteDuree,
+                                        ChercheFauteOscillation,
+                                        CalculeCameCylOsc};
+
+} // namespace
+
+DoCylOsc::DoCylOsc(QWidget* parent) : SaisieCame(description, parent) {
+    auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
+    auto* schema = new PanneauSchema(DessineSchemaCylOsc);
+    constexpr std::pair<const char*, const char*> cotes[] = {
+        {"Text1", "a"}, {"Text2", "O1-P"}, {"Text3", "D"}, {"RayonGalet", "galet"}};
+    for (const auto& [champ, cote] : cotes) schema->Suit(geometrie->Champ(champ), cote);
+    auto* efforts = new PanneauChamps("Picture3", 158, champsEfforts);
+    Compose({EmpilePanneaux({geometrie, efforts, schema}, 2)}, {geometrie, efforts}, nullptr);
+}
+
+void DoCylOsc::ProposeDonnees() {
+    const double proposee = ProposeCoteA();
+    if (etude.CoteA == proposee) return;
+    const bool accepte =
+        LesDialogues().Question(Texte(528) + " 'a' " + Texte(529) + "\na = " + Format(proposee, "###.##") + "\n" +
+                                Texte(530) + " : " + Format(etude.CoteA, "#####.##") + " " + Texte(531) + " ");
+    if (!accepte) return;
+    etude.CoteA = proposee;
+    ChargeDonnees();
+}

@@ -1,0 +1,23 @@
+// What the zones of a kind of cam give, what it is called and in which unit. Data screens, results, files and reports
+// read it here.
+#pragma once
+
+#include "core/Etude.h"
+#include "data/Unites.h"
+
+struct DescriptionZones {
+    double Zone::*valeurDepart; ///< what is entered for the start and the end of a zone
+    double Zone::*valeurFinale;
+    int texteDepart, texteFinale, texteCame; ///< text numbers of the captions
+    int unite;                               ///< text number of the unit of both values
+    bool rayonsBras;                         ///< the values are angles of an arm, which give radii
+    bool loiDeFichier;                       ///< a one-zone study may take its law from a file
+
+    /// True where the zones are those of an arm, and the motion table holds its angles.
+    constexpr bool Bras() const { return valeurDepart == &Zone::AngleDepart; }
+};
+
+inline constexpr DescriptionZones ZonesAngulaire{
+    &Zone::AngleDepart, &Zone::AngleFinal, 175, 176, 177, UniteDegres, true, true};
+inline constexpr DescriptionZones ZonesLineaire{
+    &Zone::RayonDepart, &Zone::RayonFinal, 183, 184, 177, UniteMm, false, false};

@@ -1,0 +1,103 @@
+// The walk over the zones that fills the point tables: the unit law of each zone laid over its stroke, from where the
+// zone before ended, with the extreme values. What differs from one kind of cam to another is said by a description
+// and by what is calculated at each point.
+#pragma once
+
+#include "core/Etude.h"
+#include "laws/CalculLois.h"
+#include "planecams/MouvementCame.h"
+
+#include <cmath>
+
+/// True when a law file has filled the unit law already, and left the catalogue with its one row.
+inline bool LoiDeFichier() {
+    return etude.ListeLois[1].NomLoi == NomLoiFichier;
+}
+
+/// What a zone gives to each of its points.
+struct Parcours {
+    double course; ///< signed travel, degrees or mm
+    double depart; ///< value at its start: the end of the zone before
+    double T;      ///< duration, s
+};
+
+/// Where a point stands in the tables.
+struct Lieu {
+    long k;        ///< subscript, 0..`NombrePoints`
+    double repere; ///< what an extreme value keeps of its place: the cam angle, or the subscript
+};
+
+/// Follows the largest magnitude, and the place at which it stands, as a whole number.
+inline void SuitMaximum(double valeur, double repere, double& maximum, std::int16_t& repereMaximum) {
+    if (std::abs(valeur) > maximum) {
+        maximum = std::abs(valeur);
+        repereMaximum = Entier16(repere);
+    }
+}
+
+/// How a kind of cam walks its zones.
+struct MarcheZones {
+    double Zone::*valeurDepart;
+    double Zone::*valeurFinale;
+    bool loiDeFichier;   ///< the unit law stands already: none is evaluated
+    bool coursesSuivies; ///< the stroke of a zone is taken from the end of the zone before, not from its own start
+    bool reperesIndices; ///< the extreme values keep the subscript of their point, not its cam angle in whole degrees
+};
+
+/// Clears the extreme values of the radius that every walk starts with.
+inline void RemetExtremes() {
+    etude.RayonMax = 0;
+    etude.RayonMin = 1e18;
+    etude.VitesseRayonMax = 0;
+    etude.AccelRayonMax = 0;
+}
+
+inline void SuitExtremes(const Point& p, double repere) {
+    if (p.Rayon > etude.RayonMax) etude.RayonMax = p.Rayon;
+    if (p.Rayon < etude.RayonMin) etude.RayonMin = p.Rayon;
+    SuitMaximum(p.VitesseRayon, repere, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
+    SuitMaximum(p.AccelRayon, repere, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
+    if (p.VitesseGalet > etude.VitesseGaletMax) etude.VitesseGaletMax = p.VitesseGalet;
+}
+
+inline void CalculeVitesseGaletMoyenne() {
+    double somme = 0;
+    for (long k = 1; k <= etude.NombrePoints; ++k) somme += etude.Points[k].VitesseGalet;
+    etude.VitesseGaletMoyenne = Int(Divise(somme, etude.NombrePoints));
+}
+
+/// Walks the zones and calculates each point.
+/// @param calcule called with the place of the point, its row of the unit law and its zone; it sets radius, speed,
+///        acceleration and roller speed of the point
+/// @throws ErreurExecution division by zero for a zone without duration; a result that is no number; points that no
+///         zone reaches.
+template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule calcule) {
+    RemetExtremes();
+    std::int16_t decalage = 0;
+    long atteint = 0;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        if (!marche.loiDeFichier) AppliqueLoi(z);
+        const Zone& zone = etude.Zones[z];
+        if (z == 1) etude.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;
+        const double depart = etude.Zones[z - 1].*marche.valeurFinale;
+        const double origine = marche.coursesSuivies ? depart : zone.*marche.valeurDepart;
+        const Parcours parcours{CourseSignee(origine, zone.*marche.valeurFinale), depart, zone.Temps};
+        if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+        // The last point of a zone is written again by the first of the next.
+        for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
+            const long k = decalage + j;
+            Point& p = etude.Points[k];
+            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
+            const Lieu lieu{k, marche.reperesIndices ? static_cast<double>(k) : p.Angle};
+            calcule(lieu, etude.LoiUnite[j], parcours);
+            if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon))
+                throw ErreurExecution(NumeroErreur::ResultatNonFini);
+            SuitExtremes(p, lieu.repere);
+            atteint = k;
+        }
+        decalage = Entier16(decalage + zone.AngleCame);
+    }
+    // Rounding may have made room for a point that no zone reached.
+    if (atteint != etude.NombrePoints) throw ErreurExecution(NumeroErreur::PointsIncomplets);
+    CalculeVitesseGaletMoyenne();
+}

@@ -1,0 +1,43 @@
+#include "planecams/PlanDessin.h"
+
+#include "core/Etude.h"
+
+#include <algorithm>
+#include <cmath>
+
+PlanDessin::PlanDessin(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge, double bandeau)
+    : dessin_(dessin),
+      echelle_(std::max(0.0, std::min((dessin.Largeur() - 2 * marge) / (coinHaut.x - coinBas.x),
+                                      (dessin.Hauteur() - bandeau - 2 * marge) / (coinHaut.y - coinBas.y)))),
+      x0_(dessin.Largeur() / 2 - echelle_ * (coinBas.x + coinHaut.x) / 2),
+      y0_((dessin.Hauteur() + bandeau) / 2 + echelle_ * (coinBas.y + coinHaut.y) / 2) {}
+
+void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein) {
+    std::vector<PointDessin> places;
+    places.reserve(points.size());
+    for (const PointDessin& p : points) places.push_back((*this)(p));
+    plein ? dessin_.Surface(places, t) : dessin_.Polyligne(places, t);
+}
+
+void PlanDessin::Fleche(PointDessin de, PointDessin vers, const Trait& t) {
+    Ligne(de, vers, t);
+    const double angle = std::atan2(vers.y - de.y, vers.x - de.x) * RadDeg;
+    const double longueur = 7.0 / echelle_;
+    for (const double ecart : {160.0, -160.0}) Ligne(vers, Polaire(vers, longueur, angle + ecart), t);
+}
+
+void PlanDessin::Cote(PointDessin a, PointDessin b, const Trait& t) {
+    const PointDessin milieu{(a.x + b.x) / 2, (a.y + b.y) / 2};
+    Fleche(milieu, a, t);
+    Fleche(milieu, b, t);
+}
+
+PointDessin Polaire(PointDessin centre, double rayon, double degres) {
+    return {centre.x + rayon * std::cos(degres / RadDeg), centre.y + rayon * std::sin(degres / RadDeg)};
+}
+
+std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a) {
+    std::vector<PointDessin> points;
+    for (int i = 0; i <= 40; ++i) points.push_back(Polaire(centre, rayon, de + (a - de) * i / 40));
+    return points;
+}

@@ -1,0 +1,219 @@
+#include "cylindrical/CamesCylindriques.h"
+#include "cylindrical/DeveloppeeCyl.h"
+#include "cylindrical/DonneesCyl.h"
+#include "planecams/GeometrieCame.h"
+
+#include "outils/Catalogue.h"
+#include "outils/DialoguesScript.h"
+
+#include <cmath>
+
+namespace {
+
+class CameCylindrique : public AvecCatalogue {
+protected:
+    DialoguesScript dialogues;
+
+    CameCylindrique() {
+        etude.TypeCame = "Cylindrique";
+        etude.RayonGalet = 8;
+        etude.VitesseCame = 120;
+        etude.DiametreCame = 100;
+        etude.MasseA = 3;
+        etude.ForceY = 20;
+        etude.AnglePesanteur = 270;
+        etude.PointsParDegre = 1;
+        PoseZones({{0, 30, 120, "CYC"}, {30, 30, 60, "MS"}, {30, 0, 120, "MS", 0.4}, {0, 0, 60, "MS"}});
+    }
+};
+
+class CameCylOsc : public CameCylindrique {
+protected:
+    CameCylOsc() {
+        etude.TypeCame = "Oscillation";
+        etude.RayonO1P = 90;
+        etude.InertieMasseA = 0.2;
+        etude.CoupleConstantO1 = 5;
+        PoseZones({{-10, 20, 120, "CYC"}, {20, 20, 60, "MS"}, {20, -10, 180, "CYC"}});
+    }
+};
+
+NumeroErreur Echec(void (*calcule)()) {
+    try {
+        calcule();
+    } catch (const ErreurExecution& e) {
+        return e.numero;
+    }
+    return {};
+}
+
+} // namespace
+
+TEST_F(CameCylindrique, HeightFollowsTheLawAndItsSpeedsAreItsDerivatives) {
+    etude.PointsParDegre = 4;
+    CalculeCameCylindrique();
+    ASSERT_TRUE(SansErreur());
+    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_TRUE(etude.Mouvement.Vide());
+    const auto& P = etude.Points;
+    ASSERT_EQ(etude.NombrePoints, 1440);
+    for (long i = 0; i <= 480; ++i) {
+        const double x = static_cast<double>(i) / 480;
+        ASSERT_NEAR(P[i].Rayon, 30 * (x - std::sin(2 * Pi * x) / (2 * Pi)), 1e-10);
+    }
+    const double dt = 1.0 / (120.0 * 6 * 4); // s a point
+    for (long i = 730; i < 1190; ++i) {
+        ASSERT_NEAR((P[i + 1].Rayon - P[i - 1].Rayon) / 1000 / (2 * dt), P[i].VitesseRayon, 1e-4) << i;
+        ASSERT_NEAR((P[i + 1].VitesseRayon - P[i - 1].VitesseRayon) / (2 * dt), P[i].AccelRayon, 0.1) << i;
+    }
+    // The peak of the cycloid's speed: twice the mean, in the middle of its zone, told by its subscript.
+    EXPECT_NEAR(P[240].VitesseRayon, 2 * 0.030 / (120.0 / 120 / 6), 1e-12);
+    EXPECT_EQ(etude.VitesseRayonMaxAngle, P[240].VitesseRayon == etude.VitesseRayonMax ? 240 : 960);
+    // The roller rolls on the surface of the cam: 0.1 pi m a turn, and 16 pi mm of its own.
+    EXPECT_NEAR(P[600].VitesseGalet, 120 * 50 / 8, 1) << "rounded down";
+    EXPECT_EQ(P[240].VitesseGalet, std::floor(std::hypot(0.628318530717958, P[240].VitesseRayon) * 60 / 2 / Pi / .008));
+}
+
+TEST_F(CameCylindrique, AtADwellTheFlanksLieParallelAtTheRollersRadius) {
+    CalculeCameCylindrique();
+    const double arc = Pi * 100 / 360;
+    for (long i = 120; i < 180; ++i) {
+        const auto& c = etude.Profil[i];
+        ASSERT_EQ(c.AngleTangent, 0);
+        ASSERT_NEAR(c.XInterieur, arc * static_cast<double>(i), 1e-10);
+        ASSERT_NEAR(c.YInterieur, 22, 1e-10);
+        ASSERT_NEAR(c.YExterieur, 38, 1e-10);
+        ASSERT_TRUE(c.RayonCourbure == 0 || i >= 178) << "straight, but for the difference that looks ahead";
+    }
+    // Elsewhere each flank lies a roller radius from the pitch curve, square to the track.
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        const auto& c = etude.Profil[i];
+        const double x = arc * static_cast<double>(i), y = etude.Points[i].Rayon;
+        ASSERT_NEAR(std::hypot(c.XInterieur - x, c.YInterieur - y), 8, 1e-9);
+        ASSERT_NEAR((c.XInterieur - x) * std::cos(c.AngleTangent) + (c.YInterieur - y) * std::sin(c.AngleTangent), 0,
+                    1e-9);
+        ASSERT_NEAR(c.XInterieur + c.XExterieur, 2 * x, 1e-9);
+    }
+}
+
+TEST_F(CameCylindrique, SlopesAndDifferencesAreThoseOfTheDevelopedCurve) {
+    CalculeCameCylindrique();
+    const auto pente = [](double x) { return 30 / (Pi * 100 / 3) * (1 - std::cos(2 * Pi * x)); };
+    for (long i = 1; i < 119; ++i) {
+        const double x = (static_cast<double>(i) + 0.5) / 120;
+        ASSERT_NEAR(etude.Profil[i].DeriveeRayon, pente(x), 1e-4) << i;
+        ASSERT_NEAR(std::tan(etude.Profil[i].AngleTangent), pente(x), 1e-4) << i;
+    }
+    EXPECT_EQ(etude.Profil[360].XInterieur1, etude.Profil[0].XInterieur1) << "the last point repeats the first";
+    EXPECT_NEAR(PenteMaxi(), std::atan(pente(0.5)) * RadDeg, 0.02);
+    // With more points the slope stays that of a step over a whole degree, and shrinks.
+    const double unParDegre = std::tan(etude.AngleTangentMax);
+    etude.PointsParDegre = 4;
+    CalculeCameCylindrique();
+    EXPECT_NEAR(std::tan(etude.AngleTangentMax), unParDegre / 4, 1e-4);
+    EXPECT_NEAR(etude.Profil[240].DeriveeRayon, pente(0.5), 1e-4) << "the differences are true all the same";
+}
+
+TEST_F(CameCylindrique, ForcesAndTorqueByHand) {
+    CalculeCameCylindrique();
+    // At rest: the weight of 3 kg, less the outer force along y.
+    EXPECT_NEAR(etude.Points[150].ForceGalet, 3 * 9.81 - 20, 1e-12);
+    EXPECT_EQ(etude.Points[150].Couple, 0);
+    EXPECT_EQ(etude.Points[0].ForceGalet, 0) << "the first point has none";
+    for (long i = 1; i <= etude.NombrePoints; ++i) {
+        const auto& p = etude.Points[i];
+        const double a = etude.Profil[i].AngleTangent;
+        ASSERT_NEAR(p.ForceGalet * std::cos(a), 3 * (1.4 * p.AccelRayon + 9.81) - 20, 1e-9);
+        ASSERT_NEAR(p.Couple, p.ForceGalet * std::sin(a) * 0.05, 1e-12);
+    }
+    EXPECT_EQ(std::abs(etude.Points[etude.CoupleMaxAngle].Couple), etude.CoupleMax);
+    // A steel cylinder of 30 mm by 100 mm, started to 120 Tr/min in 0.25 s.
+    EXPECT_NEAR(etude.MasseCame, 0.3 * 7.8 * Pi * 0.25, 1e-9);
+    EXPECT_NEAR(etude.CoupleDemarrage, etude.MasseCame * 0.0025 / 2 * 4 * Pi / 0.25, 1e-9);
+    EXPECT_NEAR(etude.AngleDemarrage, 90, 1e-9);
+}
+
+TEST_F(CameCylindrique, NeighbouringTurnsMustLeaveAWall) {
+    PoseZones({{0, 60, 720, "MS"}});
+    CalculeCameCylindrique();
+    EXPECT_TRUE(SansErreur()) << "a turn on, the track is 30 mm away or more";
+    EXPECT_TRUE(dialogues.boites.empty());
+    PoseZones({{0, 40, 360, "MS"}, {40, 0, 360, "MS"}});
+    CalculeCameCylindrique();
+    EXPECT_FALSE(SansErreur());
+    long nombre = 0;
+    for (long i = 1; i <= 359; ++i)
+        if (etude.Points[i + 360].Rayon - etude.Points[i].Rayon <= 16) ++nombre;
+    ASSERT_EQ(dialogues.boites.size(), 1u);
+    EXPECT_EQ(dialogues.boites[0].icone, Icone::Critique);
+    EXPECT_EQ(dialogues.boites[0].texte,
+              Texte(126) + " " + std::to_string(nombre) + "\n" + Texte(430) + "\n" + Texte(431));
+    EXPECT_EQ(etude.Zones[2].AngleCame, 360);
+    // The second turn is that of the first laid back by a circumference.
+    const Developpee d = CalculeDeveloppee();
+    ASSERT_EQ(d.tours.size(), 2u);
+    EXPECT_NEAR(d.tours[1].primitif.front().x, 0, 1e-9);
+    EXPECT_NEAR(d.tours[1].primitif.back().x, Pi * 100, 1e-9);
+    EXPECT_NEAR(CentreGaletDeveloppe(540).x, Pi * 50, 1e-9);
+}
+
+TEST_F(CameCylindrique, AStrokeStartsAtTheEndBeforeAndAStraightGrooveIsNotUndercut) {
+    PoseZones({{0, 30, 180, "MSC66"}, {10, 0, 180, "MSC66"}});
+    etude.PointsParDegre = 2;
+    CalculeCameCylindrique();
+    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_NEAR(etude.Points[360].Rayon, 30, 1e-12);
+    EXPECT_NEAR(etude.Points[720].Rayon, 0, 1e-12) << "its own start does not count";
+}
+
+TEST_F(CameCylindrique, WhatCannotBeCalculatedIsARunTimeFailure) {
+    etude.RayonGalet = 0;
+    EXPECT_EQ(Echec(CalculeCameCylindrique), NumeroErreur::DivisionParZero);
+    EXPECT_TRUE(etude.Points.Vide());
+    EXPECT_EQ(etude.Zones[1].AngleCame, 120);
+    etude.RayonGalet = 8;
+    etude.DiametreCame = 0;
+    EXPECT_EQ(Echec(CalculeCameCylindrique), NumeroErreur::DivisionParZero);
+    EXPECT_EQ(ChercheFauteCylindrique()->texte, 419);
+    etude.TypeCame = "Oscillation";
+    EXPECT_EQ(ChercheFauteOscillation()->texte, 202);
+    EXPECT_EQ(Echec(CalculeCameCylOsc), NumeroErreur::DivisionParZero);
+}
+
+TEST_F(CameCylOsc, TheRollerRidesOnTheArm) {
+    etude.VitesseGaletMax = 1e6; // of another study
+    CalculeCameCylOsc();
+    ASSERT_TRUE(SansErreur());
+    for (long i = 0; i <= etude.NombrePoints; ++i) {
+        ASSERT_NEAR(etude.Points[i].Rayon, 90 * std::sin(etude.Mouvement[i].Course / RadDeg), 1e-10);
+        ASSERT_NEAR(etude.Points[i].VitesseRayon, 0.09 * etude.Mouvement[i].Vitesse, 1e-12);
+    }
+    EXPECT_NEAR(etude.Mouvement[60].Course, 5, 1e-12);
+    // Stroke over 1000, twice the mean speed of a cycloid over a sixth of a second.
+    EXPECT_NEAR(etude.LoiVitesseMax, 2 * 0.030 * 6, 1e-12);
+    EXPECT_EQ(etude.LoiVitesseMaxAngle, 60);
+    EXPECT_EQ(etude.LoiCourseMax, 0);
+    EXPECT_EQ(etude.EpaisseurCame, 56.78) << "90 sin 20 degrees, the roller and 10 mm, to the hundredth";
+    EXPECT_EQ(etude.RayonMax, etude.EpaisseurCame);
+    EXPECT_NEAR(etude.RayonMin, -90 * std::sin(10 / RadDeg), 1e-12);
+    EXPECT_LT(etude.VitesseGaletMax, 1000) << "cleared";
+}
+
+TEST_F(CameCylOsc, ForcesAndTorqueByHand) {
+    CalculeCameCylOsc();
+    // At rest the constant torque alone, on an arm of 90 mm.
+    EXPECT_NEAR(etude.Points[150].ForceGalet, -5 / 0.09, 1e-12);
+    for (long i = 1; i <= etude.NombrePoints; ++i) {
+        const double a = etude.Profil[i].AngleTangent, F = etude.Points[i].ForceGalet;
+        ASSERT_NEAR(F * std::cos(a) * 0.09, 0.2 * 1.4 * etude.Mouvement[i].Accel - 5, 1e-9);
+        ASSERT_NEAR(etude.Points[i].Couple, F * std::sin(a) * 0.05, 1e-12);
+    }
+    EXPECT_NEAR(etude.MasseCame, 0.5678 * 7.8 * Pi * 0.25, 1e-9);
+    EXPECT_NEAR(etude.CoupleDemarrage, etude.InertieCame * 4 * Pi / 0.25, 1e-9);
+}
+
+TEST_F(CameCylOsc, TheProposedDistanceHalvesTheStrayOfTheArc) {
+    EXPECT_EQ(ProposeCoteA(), 87.29) << "90 (1 + cos 20) / 2";
+    PoseZones({{20, -60, 180, "MS"}, {-60, 20, 180, "MS"}});
+    EXPECT_EQ(ProposeCoteA(), 67.5) << "the largest magnitude of the final angles";
+}

@@ -1,0 +1,176 @@
+#include "cylindrical/screens/DoCyl.h"
+#include "cylindrical/screens/DoCylOsc.h"
+
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "outils/DialoguesScript.h"
+#include "outils/Ecrans.h"
+#include "widgets/Grille.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+using Saisies = std::vector<std::pair<const char*, const char*>>;
+
+template <class Ecran> class SaisieCylindre : public testing::Test {
+protected:
+    DialoguesScript dialogues;
+    std::unique_ptr<Ecran> ecran;
+
+    SaisieCylindre() { Ouvre(); }
+    void Ouvre() {
+        ecran = std::make_unique<Ecran>();
+        ecran->show();
+        ecran->activateWindow();
+        LaisseFaire();
+    }
+    void Tape(const Saisies& saisies) {
+        for (const auto& [champ, texte] : saisies) TapeDans(*ecran, champ, texte);
+    }
+    void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
+    std::string DerniereBoite() { return dialogues.boites.empty() ? "" : dialogues.boites.back().texte; }
+    bool AFocus(const char* champ) {
+        auto* widget = Controle<QWidget>(*ecran, champ);
+        return widget->hasFocus() || widget->isAncestorOf(ecran->focusWidget());
+    }
+    /// Return walks the fields in this order, once.
+    void SuitReturn(const std::vector<const char*>& ordre) {
+        Controle<QWidget>(*ecran, ordre.front())->setFocus();
+        for (const char* champ : ordre) {
+            EXPECT_TRUE(AFocus(champ)) << champ;
+            QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
+        }
+    }
+    void ChercheLegendesCoupees() {
+        for (const char* langue : {"Français", "Español", "English"}) {
+            ChoisitLangue(langue);
+            Ouvre();
+            ecran->resize(ecran->sizeHint());
+            LaisseFaire();
+            for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
+        }
+    }
+};
+
+using SaisieCyl = SaisieCylindre<DoCyl>;
+using SaisieCylOsc = SaisieCylindre<DoCylOsc>;
+
+} // namespace
+
+TEST_F(SaisieCyl, AStudyIsEnteredAndTheDiameterIsAskedForInTheEnd) {
+    etude.TypeCame = "Cylindrique";
+    QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
+    Tape({{"Text6", "2"}, {"Text7", "5"}, {"Text8", "45"}, {"Text9", "180"}});
+    Clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(200)) << "a zone at no speed would last for ever";
+    EXPECT_TRUE(AFocus("Text1"));
+    Tape({{"Text1", "90"}, {"Text2", "8,5"}, {"Text4", "2.5"}, {"Text5", "-30"}, {"Text3", "270"}});
+    Clique("Suivante");
+    EXPECT_EQ(Controle<QLineEdit>(*ecran, "Text7")->text(), "45");
+    Tape({{"Text8", "5"}, {"Text9", "180"}});
+    Clique("Suivante");
+    Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("3");
+    Clique("Calculer");
+    EXPECT_EQ(DerniereBoite(), Texte(519) + "\n" + Texte(520)) << "before the diameter";
+    EXPECT_TRUE(AFocus("Combo2"));
+    Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("2");
+    for (const char* diametre : {"0", "-5"}) {
+        Tape({{"Text10", diametre}});
+        Clique("Calculer");
+        EXPECT_EQ(DerniereBoite(), Texte(419));
+        EXPECT_TRUE(AFocus("Text10"));
+    }
+    EXPECT_EQ(calculee.count(), 0);
+    dialogues.boites.clear();
+    Tape({{"Text10", "110"}});
+    Clique("Calculer");
+    EXPECT_EQ(calculee.count(), 1);
+    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+    EXPECT_EQ(etude.RayonGalet, 8.5);
+    EXPECT_EQ(etude.AnglePesanteur, 270);
+    EXPECT_EQ(etude.RayonMax, 45);
+    EXPECT_EQ(etude.NombrePoints, 720);
+    EXPECT_EQ(etude.EtudeModifiee, Vrai);
+    const auto* grille = Controle<Grille>(*ecran, "Grille");
+    EXPECT_EQ(grille->Cellule(0, 1) + grille->Cellule(0, 2) + grille->Cellule(0, 3), "1805.45.");
+}
+
+TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {
+    etude.TypeCame = "Cylindrique";
+    SuitReturn({"Text1", "Text2", "Text10", "Text4", "Text5", "Text6"});
+    Tape({{"Text1", "90"}, {"Text2", "8"}, {"Text10", "110"}, {"Text6", "1"}});
+    auto* lois = Controle<QComboBox>(*ecran, "Combo1");
+    EXPECT_GE(lois->findText("Fichier"), 0);
+    Tape({{"Text8", "20"}, {"Text9", "720"}});
+    lois->setCurrentText("MS");
+    Clique("Suivante");
+    QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
+    Clique("Calculer");
+    EXPECT_NE(DerniereBoite().find(Texte(430)), std::string::npos);
+    EXPECT_EQ(calculee.count(), 0) << "the screen stays on its data";
+    EXPECT_EQ(etude.EtudeModifiee, Faux);
+
+    dialogues.boites.clear();
+    dialogues.fichiers = {CheminAppli / "Profils" / "Aller-retour.Lmi"};
+    lois->setCurrentText("Fichier");
+    QTest::keyClick(lois->lineEdit(), Qt::Key_Return);
+    LaisseFaire();
+    Clique("Suivante");
+    Clique("Calculer");
+    EXPECT_EQ(calculee.count(), 1) << DerniereBoite();
+    EXPECT_EQ(etude.NombrePoints, 720);
+    EXPECT_NEAR(etude.RayonMax, 20, 1e-6);
+}
+
+TEST_F(SaisieCyl, NoCaptionIsCutInAnyLanguage) {
+    ChercheLegendesCoupees();
+}
+
+TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
+    etude.TypeCame = "Oscillation";
+    SuitReturn({"Text1", "Text2", "Text3", "RayonGalet", "VitesseCame", "Text6", "Text7", "NombreZones"});
+    Tape({{"Text1", "100"},
+          {"Text3", "120"},
+          {"RayonGalet", "8"},
+          {"VitesseCame", "150"},
+          {"Text6", ".06"},
+          {"Text7", "4"},
+          {"NombreZones", "2"},
+          {"AngleDepart", "-20"},
+          {"AngleFinal", "20"},
+          {"AngleCame", "180"}});
+    EXPECT_LT(Controle<QComboBox>(*ecran, "Combo1")->findText("Fichier"), 0);
+    Clique("Suivante");
+    Tape({{"AngleFinal", "-20"}, {"AngleCame", "180"}});
+    Clique("Suivante");
+    Clique("Calculer");
+    EXPECT_EQ(DerniereBoite(), Texte(202)) << "before anything is offered";
+    EXPECT_TRUE(AFocus("Text2"));
+
+    Tape({{"Text2", "90"}});
+    dialogues.reponses = {false, true};
+    QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
+    Clique("Calculer");
+    EXPECT_EQ(dialogues.demandes.back(),
+              Texte(528) + " 'a' " + Texte(529) + "\na = 87.29\n" + Texte(530) + " : 100. " + Texte(531) + " ");
+    EXPECT_EQ(etude.CoteA, 100);
+    Clique("Calculer");
+    EXPECT_EQ(etude.CoteA, 87.29);
+    EXPECT_EQ(Controle<QLineEdit>(*ecran, "Text1")->text(), "87.29");
+    Clique("Calculer");
+    EXPECT_EQ(calculee.count(), 3) << "asked no more: the distance is the one offered";
+    EXPECT_EQ(etude.InertieMasseA, 0.06);
+    EXPECT_NEAR(etude.Points[90].Rayon, 0, 1e-12);
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(0, 3), "180") << "angles, and no radii";
+}
+
+TEST_F(SaisieCylOsc, NoCaptionIsCutInAnyLanguage) {
+    ChercheLegendesCoupees();
+}

@@ -35,9 +35,8 @@ struct TypeEtude {
     bool conjuguees = false;                                ///< a pair of cams, whose laws stand with the second
     void (*calcule)() = nullptr;                            ///< the pipeline; none while this kind cannot be calculated
     std::optional<FauteDonnee> (*chercheFaute)() = nullptr; ///< the first scalar that cannot be calculated with
-    bool developpee =
-        false; ///< cut on a cylinder: heights for radii, and extremes that keep the subscript of their point
-
+    /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
+    bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
 
     bool Disponible() const { return calcule != nullptr; }

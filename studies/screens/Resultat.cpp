@@ -32,6 +32,7 @@
 namespace {
 
 constexpr int OngletRotation = 4;
+
 /// What may be changed here and calculated again.
 constexpr ChampSaisie champsRecalcul[] = {
     {"Text2", 164, UniteKg, &Etude::MasseA},

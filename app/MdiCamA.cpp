@@ -150,11 +150,30 @@ void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
         Annonce(Texte(TexteLectureImpossible) + " " + nom + " : " + SensErreur(erreur));
         return;
     }
-    CalculeEtude();
-    if (!SansErreur()) return;
+    if (!CalculeOuverte()) {
+        // What was read can be put right on its data screen.
+        etude.ResultatsPrets = Faux;
+        OuvreEcran(EcranDeSaisie());
+        return;
+    }
     etude.ResultatsPrets = Vrai;
     MontreResultats();
     Annonce(Texte(TexteEtudeOuverte) + " " + nom);
+}
+
+/// Calculates the study that was read; false after a box that says why it cannot be.
+bool MdiCamA::CalculeOuverte() {
+    if (const auto faute = TrouveType(etude.TypeCame)->chercheFaute()) {
+        LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+        return false;
+    }
+    try {
+        CalculeEtude();
+    } catch (const ErreurExecution& erreur) {
+        LesDialogues().Message(Icone::Critique, TexteErreur(erreur));
+        return false;
+    }
+    return SansErreur();
 }
 
 void MdiCamA::Sauvegarder() {

@@ -119,6 +119,7 @@ private:
     EcranLoi* EcranLoiActif() const;
     void FermeEcran(const std::string& nom);
     void QuitteEcran(const EcranEnfant& ecran);
+    bool CalculeOuverte();
     void MontreResultats();
     void PlaceSousFenetre(QMdiSubWindow& sousFenetre);
 

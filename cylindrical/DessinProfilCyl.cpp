@@ -14,18 +14,27 @@ namespace {
 
 constexpr double HauteurTexte = 12, Bandeau = 30, Marge = 44;
 constexpr int PasDegres = 30;
+constexpr double RayonPivot = 8; ///< room around the pivot, mm
 constexpr Trait traitGraduation{Couleur::Graduation, 1.0}, traitRepere{Couleur::Repere, 1.0, true};
 
 bool ABras() {
     return !etude.Mouvement.Vide();
 }
 
-/// Lowest and furthest left that an arm ever reaches on the sheet; a translating follower stays on it.
-PointDessin CoinBas(const Developpee& d) {
-    PointDessin coin{0, d.bas};
-    if (!ABras()) return coin;
-    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) coin.x = std::min(coin.x, PivotDeveloppe(i).x);
-    return {coin.x, std::min(coin.y, -8.0)};
+/// What the drawing covers: the sheet, and the pivot of the arm wherever it is carried.
+struct Etendue {
+    PointDessin bas, haut;
+};
+
+Etendue CalculeEtendue(const Developpee& d) {
+    Etendue e{{0, d.bas}, {d.largeur, d.haut}};
+    if (!ABras()) return e;
+    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
+        const PointDessin pivot = PivotDeveloppe(i);
+        e.bas = {std::min(e.bas.x, pivot.x - RayonPivot), std::min(e.bas.y, pivot.y - RayonPivot)};
+        e.haut = {std::max(e.haut.x, pivot.x + RayonPivot), std::max(e.haut.y, pivot.y + RayonPivot)};
+    }
+    return e;
 }
 
 void DessineFeuille(Dessin& dessin, PlanDessin& plan, const Developpee& d) {
@@ -93,7 +102,8 @@ void DessinProfilCyl(Dessin& dessin, double angle) {
     if (d.tours.empty()) return;
     const long i =
         std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
-    PlanDessin plan(dessin, CoinBas(d), {d.largeur, d.haut}, Marge, Bandeau);
+    const Etendue etendue = CalculeEtendue(d);
+    PlanDessin plan(dessin, etendue.bas, etendue.haut, Marge, Bandeau);
     DessineFeuille(dessin, plan, d);
     DessineTours(plan, d);
     DessineSuiveur(dessin, plan, d, i);

@@ -9,9 +9,9 @@
 enum TextesCyl { TexteHauteurMini = 796, TexteHauteurMaxi = 797, TexteHauteurMm = 798, TexteHauteurCourte = 799 };
 
 inline constexpr DescriptionZones ZonesCylindrique{
-    &Zone::RayonDepart, &Zone::RayonFinal, 397, 398, 399, UniteMm, false, true};
+    &Zone::RayonDepart, &Zone::RayonFinal, 397, 398, 399, UniteMm, false, true, true};
 inline constexpr DescriptionZones ZonesOscillation{
-    &Zone::AngleDepart, &Zone::AngleFinal, 181, 182, 177, UniteDegres, false, false};
+    &Zone::AngleDepart, &Zone::AngleFinal, 181, 182, 177, UniteDegres, false, false, true};
 
 /// The scalar without which a zone has no duration.
 std::optional<FauteDonnee> ChercheFauteDuree();

@@ -12,8 +12,14 @@ struct DescriptionZones {
     int unite;                               ///< text number of the unit of both values
     bool rayonsBras;                         ///< the values are angles of an arm, which give radii
     bool loiDeFichier;                       ///< a one-zone study may take its law from a file
+    bool departsSuivis = false;              ///< a zone begins where the one before ends, whatever stands as its start
 
     /// True where the zones are those of an arm, and the motion table holds its angles.
+    /// Value that zone `z`, from 1, begins with.
+    double Depart(long z) const {
+        return departsSuivis && z > 1 ? etude.Zones[z - 1].*valeurFinale : etude.Zones[z].*valeurDepart;
+    }
+
     constexpr bool Bras() const { return valeurDepart == &Zone::AngleDepart; }
 };
 

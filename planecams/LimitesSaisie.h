@@ -1,4 +1,4 @@
-// The limits of what a designer may enter for a plane cam. The screens show the text and put the focus on the field at
+// The limits of what a designer may enter for a cam. The screens show the text and put the focus on the field at
 // fault.
 #pragma once
 

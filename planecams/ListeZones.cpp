@@ -8,7 +8,7 @@ namespace {
 struct ColonneZone {
     int (*entete)(const DescriptionZones&); ///< text number; 0 where this kind of cam does not have the column
     bool texte;
-    std::string (*valeur)(const Zone&);
+    std::string (*valeur)(const DescriptionZones&, long zone); ///< zone from 1
 };
 
 template <int texte> int Toujours(const DescriptionZones&) {
@@ -26,19 +26,28 @@ template <int DescriptionZones::*entre, int donne> int EnteteRayon(const Descrip
     return zones.*entre;
 }
 
-constexpr const char* MasqueRayon = "###.#";
+template <double Zone::*membre> std::string Entre(const DescriptionZones&, long z) {
+    return StrTrim(etude.Zones[z].*membre);
+}
+
+/// What was entered stands as it is; a radius that the arm gave is rounded.
+std::string EcritRayon(const DescriptionZones& zones, double rayon) {
+    return zones.Bras() ? Format(rayon, "###.#") : StrTrim(rayon);
+}
 
 const ColonneZone colonnes[] = {
     {Toujours<180>, true, nullptr},
-    {SiBras<181>, false, [](const Zone& z) { return StrTrim(z.AngleDepart); }},
-    {SiBras<182>, false, [](const Zone& z) { return StrTrim(z.AngleFinal); }},
-    {EnteteCame, false, [](const Zone& z) { return StrTrim(z.AngleCame); }},
+    {SiBras<181>, false, [](const DescriptionZones& d, long z) { return StrTrim(d.Depart(z)); }},
+    {SiBras<182>, false, Entre<&Zone::AngleFinal>},
+    {EnteteCame, false, Entre<&Zone::AngleCame>},
     {EnteteRayon<&DescriptionZones::texteDepart, 183>, false,
-     [](const Zone& z) { return Format(z.RayonDepart, MasqueRayon); }},
+     [](const DescriptionZones& d, long z) {
+         return EcritRayon(d, d.Bras() ? etude.Zones[z].RayonDepart : d.Depart(z));
+     }},
     {EnteteRayon<&DescriptionZones::texteFinale, 184>, false,
-     [](const Zone& z) { return Format(z.RayonFinal, MasqueRayon); }},
-    {Toujours<105>, true, [](const Zone& z) { return z.NomLoi; }},
-    {Toujours<185>, false, [](const Zone& z) { return StrTrim(z.CoefSymetrie); }},
+     [](const DescriptionZones& d, long z) { return EcritRayon(d, etude.Zones[z].RayonFinal); }},
+    {Toujours<105>, true, [](const DescriptionZones&, long z) { return etude.Zones[z].NomLoi; }},
+    {Toujours<185>, false, Entre<&Zone::CoefSymetrie>},
 };
 
 std::vector<const ColonneZone*> ColonnesZones(const DescriptionZones& zones) {
@@ -65,5 +74,5 @@ std::vector<bool> ColonnesTexteZones(const DescriptionZones& zones) {
 std::string CelluleZone(const DescriptionZones& zones, int ligne, int colonne, std::int16_t entrees) {
     if (colonne == 0) return Texte(187) + std::to_string(ligne + 1);
     if (ligne >= entrees || ligne + 1 > etude.Zones.BorneHaute()) return {};
-    return ColonnesZones(zones)[static_cast<std::size_t>(colonne)]->valeur(etude.Zones[ligne + 1]);
+    return ColonnesZones(zones)[static_cast<std::size_t>(colonne)]->valeur(zones, ligne + 1);
 }

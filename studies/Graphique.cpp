@@ -70,9 +70,14 @@ void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double 
     std::vector<PointDessin> points;
     points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
     const double pas = (c.droite - c.gauche) / etude.NombrePoints, echelle = c.DemiHauteur() / maximum;
-    for (long i = 0; i <= etude.NombrePoints; ++i)
+    for (long i = courbe.premier; i <= etude.NombrePoints; ++i)
         points.push_back({c.gauche + pas * static_cast<double>(i), c.Milieu() - echelle * courbe.valeur(i)});
     dessin.Polyligne(points, {couleurs[rang], 1.6});
+}
+
+/// The forces of a cylindrical cam are calculated from the second point on.
+long PremierEffort() {
+    return CameDeveloppee() ? 1 : 0;
 }
 
 } // namespace
@@ -87,18 +92,20 @@ std::vector<Courbe> CourbesGalet() {
 }
 
 std::vector<Courbe> CourbesBras() {
-    // The angle of the arm is drawn to the scale of the radius, so that both graphs compare.
-    return {{284, std::max(etude.RayonMax, AngleBrasExtreme()), [](long i) { return etude.Mouvement[i].Course; }},
+    // The angle of the arm is drawn to the scale of the radius, so that both graphs compare; on a cylinder no radius
+    // holds for it.
+    const double maximum = CameDeveloppee() ? AngleBrasExtreme() : etude.RayonMax;
+    return {{284, maximum, [](long i) { return etude.Mouvement[i].Course; }},
             {285, etude.LoiVitesseMax, [](long i) { return etude.Mouvement[i].Vitesse; }},
             {286, etude.LoiAccelMax, [](long i) { return etude.Mouvement[i].Accel; }}};
 }
 
 std::vector<Courbe> CourbesForce() {
-    return {{287, etude.ForceGaletMax, [](long i) { return etude.Points[i].ForceGalet; }}};
+    return {{287, etude.ForceGaletMax, [](long i) { return etude.Points[i].ForceGalet; }, PremierEffort()}};
 }
 
 std::vector<Courbe> CourbesCouple() {
-    return {{288, etude.CoupleMax, [](long i) { return etude.Points[i].Couple; }}};
+    return {{288, etude.CoupleMax, [](long i) { return etude.Points[i].Couple; }, PremierEffort()}};
 }
 
 void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes) {

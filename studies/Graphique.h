@@ -12,6 +12,7 @@ struct Courbe {
     int legende; ///< text number, unit included
     double maximum;
     double (*valeur)(long i); ///< 0..`NombrePoints`
+    long premier = 0;         ///< the first point that has a value
 };
 
 /// The graphs of the results, as the study record stands.

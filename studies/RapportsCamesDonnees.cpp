@@ -7,59 +7,69 @@
 #include "studies/TypesEtude.h"
 
 #include <algorithm>
-#include <span>
 #include <string_view>
+#include <vector>
 
 namespace {
 
 constexpr const char* MasqueDonnee = "###.##";
 constexpr const char* MasqueInertie = "##.#####";
 
-/// Fields of the groups behind the first, in the order of the data screens.
-constexpr std::string_view masses[] = {"MasseBrasO1A", "MasseBrasO1P", "EpaisseurCame", "InertieMasseA", "InertieO1"};
-constexpr std::string_view forces[] = {"MasseA", "ForceX", "ForceY", "AnglePesanteur", "CoupleConstantO1"};
-
-/// A group of the data screen: its caption and its fields.
+/// A group of the data screen: text number of its caption, and its fields.
 struct Groupe {
     int titre;
-    std::vector<const ChampFichier*> champs;
+    std::vector<std::string_view> champs;
 };
 
-std::vector<const ChampFichier*> Choisit(const TypeEtude& type, std::span<const std::string_view> noms) {
-    std::vector<const ChampFichier*> choisis;
-    for (const std::string_view nom : noms)
-        for (const ChampFichier& champ : type.champs)
-            if (nom == champ.nom) choisis.push_back(&champ);
-    return choisis;
+/// The groups of each data screen, in their order.
+struct OrdreDonnees {
+    std::string_view type; ///< `TypeCame`
+    std::vector<Groupe> groupes;
+};
+
+constexpr int Geometrie = 151, Inerties = 158, Forces = 162;
+
+const OrdreDonnees ordres[] = {
+    {"Angulaire",
+     {{Geometrie, {"CoteA", "CoteB", "RayonO1A", "RayonO1P", "AnglePO1A", "RayonGalet", "VitesseCame"}},
+      {Inerties, {"MasseBrasO1A", "MasseBrasO1P", "EpaisseurCame"}},
+      {Forces, {"MasseA", "ForceX", "ForceY", "AnglePesanteur"}}}},
+    {"Lineaire",
+     {{Geometrie, {"RayonGalet", "VitesseCame", "EpaisseurCame"}}, {Forces, {"MasseA", "ForceY", "AnglePesanteur"}}}},
+    {"Cylindrique",
+     {{Geometrie, {"VitesseCame", "RayonGalet", "DiametreCame"}}, {Forces, {"MasseA", "ForceY", "AnglePesanteur"}}}},
+    {"Oscillation",
+     {{Geometrie, {"CoteA", "RayonO1P", "DiametreCame", "RayonGalet", "VitesseCame"}},
+      {Inerties, {"InertieMasseA", "CoupleConstantO1"}}}},
+};
+
+const std::vector<Groupe>& GroupesDonnees(const TypeEtude& type) {
+    const auto ordre =
+        std::find_if(std::begin(ordres), std::end(ordres), [&](const OrdreDonnees& o) { return o.type == type.nom; });
+    if (ordre == std::end(ordres)) throw ErreurExecution(NumeroErreur::AppelIncorrect, type.nom);
+    return ordre->groupes;
 }
 
-/// The thickness of the cam stands alone with the geometry where nothing else has a mass of its own.
-std::vector<Groupe> GroupesDonnees(const TypeEtude& type) {
-    Groupe geometrie{151, {}}, masse{158, Choisit(type, masses)}, force{162, Choisit(type, forces)};
-    if (masse.champs.size() == 1 && masse.champs.front()->nom == std::string_view("EpaisseurCame"))
-        masse.champs.clear();
-    for (const ChampFichier& champ : type.champs) {
-        const auto tient = [&](const Groupe& g) {
-            return std::find(g.champs.begin(), g.champs.end(), &champ) != g.champs.end();
-        };
-        if (!tient(masse) && !tient(force)) geometrie.champs.push_back(&champ);
-    }
-    return {geometrie, masse, force};
+const ChampFichier& TrouveChamp(const TypeEtude& type, std::string_view nom) {
+    const auto champ =
+        std::find_if(type.champs.begin(), type.champs.end(), [&](const ChampFichier& c) { return nom == c.nom; });
+    if (champ == type.champs.end()) throw ErreurExecution(NumeroErreur::AppelIncorrect, std::string(nom));
+    return *champ;
 }
 
 void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const Groupe& groupe) {
-    if (groupe.champs.empty()) return;
     bool titreForces = false;
     lignes.push_back({Texte(groupe.titre), true});
-    for (const ChampFichier* champ : groupe.champs) {
+    for (const std::string_view nom : groupe.champs) {
+        const ChampFichier& champ = TrouveChamp(type, nom);
         // "x" and "y" alone would not say what they are.
-        if (champ->unite == UniteN && !titreForces) {
+        if (champ.unite == UniteN && !titreForces) {
             lignes.push_back({Espaces(RetraitLigne) + Texte(type.Bras() ? 165 : 392)});
             titreForces = true;
         }
-        const char* masque = champ->unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
+        const char* masque = champ.unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
         lignes.push_back(
-            {LigneValeur(Texte(champ->texte), UniteTexte(champ->unite), Format(etude.*champ->membre, masque))});
+            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(etude.*champ.membre, masque))});
     }
     lignes.push_back({});
 }
@@ -71,7 +81,7 @@ void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::i
         lignes.push_back({LigneValeur(Texte(texte), unite == 0 ? SansUnite : UniteTexte(unite), valeur)});
     };
     lignes.push_back({Texte(187) + std::to_string(z), true});
-    ligne(zones.texteDepart, zones.unite, Format(zone.*zones.valeurDepart, MasqueDonnee));
+    ligne(zones.texteDepart, zones.unite, Format(zones.Depart(z), MasqueDonnee));
     ligne(zones.texteFinale, zones.unite, Format(zone.*zones.valeurFinale, MasqueDonnee));
     ligne(zones.texteCame, UniteDegres, Format(zone.AngleCame, MasqueDonnee));
     ligne(105, 0, zone.NomLoi == NomLoiFichier ? Texte(186) : zone.NomLoi);

@@ -77,7 +77,7 @@ void DessineCourbe(Dessin& dessin, const Courbe& courbe, Couleur couleur) {
     const double echelleY = HauteurBoite / 2 / (courbe.maximum == 0.0 ? 1.0 : courbe.maximum);
     std::vector<PointDessin> points;
     points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
-    for (long i = 0; i <= etude.NombrePoints; ++i)
+    for (long i = courbe.premier; i <= etude.NombrePoints; ++i)
         points.push_back({OrigineX + echelleX * static_cast<double>(i), OrigineY - echelleY * courbe.valeur(i)});
     dessin.Polyligne(points, {couleur, 0.4});
 }

@@ -10,7 +10,7 @@
 namespace {
 
 std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
-    std::string valeur = Format(ligne.valeur(), ligne.masqueRapport) + ligne.suiteRapport;
+    std::string valeur = EcritValeur(ligne, ligne.masqueRapport) + ligne.suiteRapport;
     if (ligne.repere != nullptr) {
         // Whole degrees; the last digit always shows, so that a maximum at the start of the cam has its 0.
         constexpr int largeurValeur = 8;

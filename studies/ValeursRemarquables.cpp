@@ -71,3 +71,9 @@ const ValeurRemarquable valeurs[] = {
 std::span<const ValeurRemarquable> LesValeursRemarquables() {
     return valeurs;
 }
+
+std::string EcritValeur(const ValeurRemarquable& valeur, const char* masque) {
+    constexpr double sansCourbure = 1e99; // what the smallest radius starts from
+    const double v = valeur.valeur();
+    return v >= sansCourbure ? "-" : Format(v, masque);
+}

@@ -5,6 +5,7 @@
 #include "studies/TypesEtude.h"
 
 #include <span>
+#include <string>
 
 /// Text number of the group that a value stands in.
 enum GroupeValeurs { GroupeCame = 147, GroupeGalet = 289, GroupeBras = 217 };
@@ -24,3 +25,6 @@ struct ValeurRemarquable {
 };
 
 std::span<const ValeurRemarquable> LesValeursRemarquables();
+
+/// A remarkable value by a mask of its own; "-" for a smallest radius of curvature where nothing is curved.
+std::string EcritValeur(const ValeurRemarquable& valeur, const char* masque);

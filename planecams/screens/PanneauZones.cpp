@@ -160,8 +160,9 @@ void PanneauZones::MontreZone() {
     const bool entree = z <= zonesEntrees_;
     const Zone zone = entree ? etude.Zones[z] : Zone{};
     // A zone begins where the one before ends.
-    const bool premiere = entree || z <= 1;
-    valeurDepart_->Montre(premiere ? zone.*description_.valeurDepart : etude.Zones[z - 1].*description_.valeurFinale);
+    const bool propre = z <= 1 || (entree && !description_.departsSuivis);
+    valeurDepart_->Montre(propre ? zone.*description_.valeurDepart : etude.Zones[z - 1].*description_.valeurFinale);
+    valeurDepart_->setEnabled(z <= 1 || !description_.departsSuivis);
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
     if (entree) loi_->setCurrentText(Q(zone.NomLoi));
@@ -192,7 +193,7 @@ void PanneauZones::VaALaZone(int ligne) {
     if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.NombreZones)) return;
     etude.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
-    valeurDepart_->setFocus(Qt::TabFocusReason);
+    (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
 }
 
 /// One Return may announce itself twice, as a key and as a choice: the law is chosen once.

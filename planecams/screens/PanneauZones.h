@@ -23,9 +23,8 @@ class PanneauZones : public QGroupBox {
     Q_OBJECT
 
 public:
-    /// @param acheve completes a zone whose law and symmetry are accepted, from the data of the screen; false when it
-    /// cannot,
-    ///        after the box that says so.
+    /// @param acheve completes a zone whose law and symmetry are accepted, from the data of the screen; false after a
+    ///        box that says why it cannot
     PanneauZones(const DescriptionZones& description, const ChampsZones& champs, std::function<bool(Zone&)> acheve,
                  QWidget* parent = nullptr);
 

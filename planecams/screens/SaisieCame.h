@@ -1,4 +1,4 @@
-// What the data screens of plane cams have in common: columns of panels, the entry of the zones, the way back and the
+// What the data screens of the cams have in common: columns of panels, the entry of the zones, the way back and the
 // calculation.
 #pragma once
 

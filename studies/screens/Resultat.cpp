@@ -75,12 +75,6 @@ QLabel* FaitValeur(const char* nom) {
     return valeur;
 }
 
-/// A number by its mask; the mask may cut it, so that all its digits stand in the tip.
-void MontreNombre(QLabel& etiquette, double valeur, const char* masque) {
-    etiquette.setText(Q(Format(valeur, masque)));
-    etiquette.setToolTip(QTexte(777) + " " + Q(StrTrim(valeur)));
-}
-
 /// Shows or hides the row of a grid that holds a control.
 void MontreRang(QWidget& controle, bool montre) {
     auto* grille = qobject_cast<QGridLayout*>(controle.parentWidget()->layout());
@@ -234,7 +228,9 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
         MontreRang(*ligne.valeur, texte != 0);
         if (texte == 0) continue;
         ligne.libelle->setText(QTexte(texte));
-        MontreNombre(*ligne.valeur, valeur.valeur(), valeur.masque);
+        ligne.valeur->setText(Q(EcritValeur(valeur, valeur.masque)));
+        // The mask may cut a number: all its digits stand in the tip.
+        ligne.valeur->setToolTip(QTexte(777) + " " + Q(StrTrim(valeur.valeur())));
         if (valeur.repere != nullptr)
             ligne.angle->setText(QTexte(227) + " " + Q(Format(AngleExtreme(valeur.repere), "##0")) + "°");
     }

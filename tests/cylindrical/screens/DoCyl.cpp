@@ -99,7 +99,7 @@ TEST_F(SaisieCyl, AStudyIsEnteredAndTheDiameterIsAskedForInTheEnd) {
     EXPECT_EQ(etude.NombrePoints, 720);
     EXPECT_EQ(etude.EtudeModifiee, Vrai);
     const auto* grille = Controle<Grille>(*ecran, "Grille");
-    EXPECT_EQ(grille->Cellule(0, 1) + grille->Cellule(0, 2) + grille->Cellule(0, 3), "1805.45.");
+    EXPECT_EQ(grille->Cellule(0, 1) + grille->Cellule(0, 2) + grille->Cellule(0, 3), "180545");
 }
 
 TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {

@@ -345,5 +345,5 @@ TEST_F(SaisieBras, TheTranslatingFollowerIsEnteredAlike) {
     EXPECT_EQ(calculee.count(), 1);
     EXPECT_EQ(etude.MasseA, 1.8);
     EXPECT_EQ(etude.RayonMax, 70);
-    EXPECT_EQ(Controle<Grille>(profil, "Grille")->Cellule(0, 2), "50.") << "no columns of arm angles";
+    EXPECT_EQ(Controle<Grille>(profil, "Grille")->Cellule(0, 2), "50") << "no columns of arm angles";
 }

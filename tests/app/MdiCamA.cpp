@@ -239,6 +239,29 @@ TEST_F(Fenetre, UnFichierIllisibleEstDitDansLaLigneDEtat) {
     EXPECT_EQ(dialogues_.demandes.back(), Texte(125) + " " + Texte(85));
 }
 
+TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
+    // A diameter of 0, and turns that overlap once the track comes back down.
+    const std::string bon = LitFichierEntier(Exemple().parent_path() / "Deux-tours.Cyl");
+    const std::pair<const char*, const char*> changements[] = {{"110.\r\n", ".\r\n"},
+                                                               {"90.\r\n90.\r\n", "90.\r\n.\r\n"}};
+    const int attendus[] = {419, 126};
+    const QTemporaryDir dossier;
+    for (std::size_t i = 0; i < std::size(changements); ++i) {
+        std::string contenu = bon;
+        contenu.replace(contenu.find(changements[i].first), std::string_view(changements[i].first).size(),
+                        changements[i].second);
+        const std::filesystem::path chemin = Chemin(dossier.path()) / "essai.Cyl";
+        EcritFichierEntier(chemin, contenu);
+        mdi_.FermeEcrans();
+        mdi_.OuvreFichier(chemin);
+        ASSERT_FALSE(dialogues_.boites.empty());
+        EXPECT_EQ(dialogues_.boites.back().texte.find(Texte(attendus[i])), 0U) << dialogues_.boites.back().texte;
+        EXPECT_TRUE(Visible("DoCyl"));
+        EXPECT_EQ(etude.ResultatsPrets, Faux);
+        EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DoCyl"), "Text1")->Valeur(), 90);
+    }
+}
+
 TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
     mdi_.OuvreFichier(Exemple());
     ASSERT_TRUE(Visible("Resultat"));

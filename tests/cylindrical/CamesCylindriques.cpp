@@ -1,10 +1,12 @@
 #include "cylindrical/CamesCylindriques.h"
+#include "cylindrical/DessinProfilCyl.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "cylindrical/DonneesCyl.h"
 #include "planecams/GeometrieCame.h"
 
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
+#include "outils/ImprimanteNotee.h"
 
 #include <cmath>
 
@@ -221,6 +223,23 @@ TEST_F(CameCylOsc, ForcesAndTorqueByHand) {
     }
     EXPECT_NEAR(etude.MasseCame, 0.5678 * 7.8 * Pi * 0.25, 1e-9);
     EXPECT_NEAR(etude.CoupleDemarrage, etude.InertieCame * 4 * Pi / 0.25, 1e-9);
+}
+
+TEST_F(CameCylOsc, ThePivotStaysInTheDrawingWhereverTheArmIsCarried) {
+    for (const double bas : {-80.0, -20.0, 40.0}) {
+        PoseZones({{bas, bas + 15, 180, "MS"}, {bas + 15, bas, 180, "MS"}});
+        CalculeCameCylOsc();
+        ImprimanteNotee::Feuillet page;
+        FeuilleNotee feuille(page, {0, 0}, 900, 500, 1);
+        DessinProfilCyl(feuille, 90);
+        bool pivot = false;
+        for (const auto& e : page.etiquettes) {
+            EXPECT_TRUE(e.place.x >= 0 && e.place.x <= 900 && e.place.y >= 0 && e.place.y <= 500)
+                << bas << " " << e.texte;
+            pivot = pivot || e.texte == "O1";
+        }
+        EXPECT_TRUE(pivot);
+    }
 }
 
 TEST_F(CameCylOsc, TheProposedDistanceHalvesTheStrayOfTheArc) {

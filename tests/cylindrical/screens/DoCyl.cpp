@@ -74,6 +74,7 @@ TEST_F(SaisieCyl, AStudyIsEnteredAndTheDiameterIsAskedForInTheEnd) {
     Tape({{"Text1", "90"}, {"Text2", "8,5"}, {"Text4", "2.5"}, {"Text5", "-30"}, {"Text3", "270"}});
     Clique("Suivante");
     EXPECT_EQ(Controle<QLineEdit>(*ecran, "Text7")->text(), "45");
+    EXPECT_FALSE(Controle<QLineEdit>(*ecran, "Text7")->isEnabled()) << "a zone begins where the one before ends";
     Tape({{"Text8", "5"}, {"Text9", "180"}});
     Clique("Suivante");
     Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("3");

@@ -12,10 +12,7 @@
 
 namespace {
 
-constexpr double PointLoi::*grandeurs[] = {&PointLoi::Course, &PointLoi::Vitesse, &PointLoi::Accel};
-constexpr Couleur couleurs[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
-
-/// What a graph shows: the member of the motion, its name and its unit.
+/// A curve: the member of the law or of the motion, its name, what it measures.
 struct CourbeLoi {
     double PointLoi::*membre;
     int texte; ///< text number
@@ -23,9 +20,9 @@ struct CourbeLoi {
     Couleur couleur;
 };
 constexpr CourbeLoi courbes[] = {
-    {&PointLoi::Course, 250, Grandeur::Sortie, couleurs[0]},
-    {&PointLoi::Vitesse, 225, Grandeur::Vitesse, couleurs[1]},
-    {&PointLoi::Accel, 226, Grandeur::Accel, couleurs[2]},
+    {&PointLoi::Course, 250, Grandeur::Sortie, Couleur::Courbe1},
+    {&PointLoi::Vitesse, 225, Grandeur::Vitesse, Couleur::Courbe2},
+    {&PointLoi::Accel, 226, Grandeur::Accel, Couleur::Courbe3},
 };
 
 constexpr double TraitMaxi = 1.4; ///< of a picture that fills a whole sheet
@@ -47,9 +44,9 @@ Extremes ChercheExtremes(const Tableau<PointLoi>& table, double PointLoi::*membr
     return e;
 }
 
-/// Largest magnitude of a curve of the motion.
-double PlusGrand(const Extremes& e, double PointLoi::*membre) {
-    return std::max(std::abs(etude.Mouvement[e.mini].*membre), std::abs(etude.Mouvement[e.maxi].*membre));
+/// Largest magnitude of a curve.
+double PlusGrand(const Tableau<PointLoi>& table, const Extremes& e, double PointLoi::*membre) {
+    return std::max(std::abs(table[e.mini].*membre), std::abs(table[e.maxi].*membre));
 }
 
 /// One graph on the surface: where it lies, and the values at its lower and upper edge.
@@ -130,7 +127,7 @@ void MarqueExtreme(Dessin& dessin, const Boite& b, const CourbeLoi& courbe, long
 
 void DessineCourbe(Dessin& dessin, Boite b, const CourbeLoi& courbe, bool derniere) {
     const Extremes extremes = ChercheExtremes(etude.Mouvement, courbe.membre);
-    const double zero = Arrondi0 * PlusGrand(extremes, courbe.membre);
+    const double zero = Arrondi0 * PlusGrand(etude.Mouvement, extremes, courbe.membre);
     const auto valeur = [&](long i) {
         const double v = etude.Mouvement[i].*courbe.membre;
         return std::abs(v) < zero ? 0.0 : v;
@@ -161,16 +158,14 @@ void DessineImage(Dessin& dessin, const Tableau<PointLoi>& table, double marge) 
     const double milieu = dessin.Hauteur() / 2;
     dessin.Ligne({marge, milieu}, {marge + largeur, milieu}, {Couleur::Graduation, trait});
     dessin.Ligne({marge, marge}, {marge, marge + hauteur}, {Couleur::Graduation, trait});
-    for (std::size_t rang = 0; rang < std::size(grandeurs); ++rang) {
-        const Extremes extremes = ChercheExtremes(table, grandeurs[rang]);
-        const double maximum =
-            std::max(std::abs(table[extremes.mini].*grandeurs[rang]), std::abs(table[extremes.maxi].*grandeurs[rang]));
+    for (const CourbeLoi& courbe : courbes) {
+        const double maximum = PlusGrand(table, ChercheExtremes(table, courbe.membre), courbe.membre);
         if (maximum == 0.0) continue;
         std::vector<PointDessin> points;
         for (long i = 0; i <= table.BorneHaute(); ++i)
             points.push_back({marge + largeur * static_cast<double>(i) / static_cast<double>(table.BorneHaute()),
-                              milieu - hauteur / 2 * (table[i].*grandeurs[rang]) / maximum});
-        dessin.Polyligne(points, {couleurs[rang], rang == 0 ? 2 * trait : 1.4 * trait});
+                              milieu - hauteur / 2 * (table[i].*courbe.membre) / maximum});
+        dessin.Polyligne(points, {courbe.couleur, courbe.membre == &PointLoi::Course ? 2 * trait : 1.4 * trait});
     }
 }
 
@@ -200,6 +195,7 @@ void DessineLoiNommee(Dessin& dessin, const Tableau<PointLoi>& table) {
 void DessineNomsCourbes(Dessin& dessin) {
     DessineNoms(dessin, dessin.Hauteur() / 2, 0.6 * dessin.Hauteur());
 }
+
 void DessineCourbes(Dessin& dessin) {
     if (etude.Mouvement.BorneHaute() < 1 || etude.Mouvement.BorneHaute() != etude.NombrePoints) return;
     const double texte = std::min(dessin.Largeur() / 62, dessin.Hauteur() / 54);

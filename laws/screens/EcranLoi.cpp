@@ -7,6 +7,7 @@
 #include "laws/EnregistreLoi.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
+#include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Grille.h"
@@ -102,8 +103,7 @@ EcranLoi::EcranLoi(const EtudeLoi& loi, QWidget* parent) : QWidget(parent), loi_
 }
 
 EcranLoi::~EcranLoi() {
-    // A field that loses the focus while the screen goes still announces itself; nobody is there to listen any more.
-    for (QObject* enfant : findChildren<QObject*>()) enfant->disconnect(this);
+    CesseEcoute(*this);
 }
 
 RapportLoi EcranLoi::Rapport() const {

@@ -5,6 +5,7 @@
 #include "laws/DessinLoi.h"
 #include "widgets/Application.h"
 #include "widgets/BoutonImage.h"
+#include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -71,6 +72,10 @@ QuelLoi::QuelLoi(const char* nom, QWidget* parent) : QDialog(parent) {
     else
         AppliqueLegendes(*this, legendesSpe);
     findChild<BoutonImage*>()->setFocus();
+}
+
+QuelLoi::~QuelLoi() {
+    CesseEcoute(*this);
 }
 
 void QuelLoi::AjouteImages(QGridLayout& grille) {

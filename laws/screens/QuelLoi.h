@@ -14,6 +14,7 @@ class QuelLoi : public QDialog {
 public:
     /// @param nom "QuelLoi" or "QuelLoiSpe"
     explicit QuelLoi(const char* nom, QWidget* parent = nullptr);
+    ~QuelLoi() override;
 
     /// The law that was chosen; none when the screen was left by `Quitter`.
     const ChoixLoi* Choisi() const { return choisi_; }

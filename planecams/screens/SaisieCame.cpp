@@ -5,6 +5,7 @@
 #include "planecams/screens/PanneauPesanteur.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
+#include "widgets/CesseEcoute.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -33,8 +34,7 @@ SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
 }
 
 SaisieCame::~SaisieCame() {
-    // A field that loses the focus while the screen goes still announces itself; nobody is there to listen any more.
-    for (QObject* enfant : findChildren<QObject*>()) enfant->disconnect(this);
+    CesseEcoute(*this);
 }
 
 void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,

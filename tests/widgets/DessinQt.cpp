@@ -94,20 +94,6 @@ TEST(DessinQt, LeDernierPointEstGarde) {
     EXPECT_LT(qGray(image.pixel(50, 50)), 128);
 }
 
-TEST(DessinQt, SurfaceRemplieDUneTeinteEtTexteAncre) {
-    const QImage image = Dessine([](DessinQt& dessin) {
-        dessin.Disque({60, 60}, 40, {Couleur::Came, 2.0});
-        dessin.Texte({199, 150}, "WWWW", Ancrage::Droite, 14);
-        EXPECT_GT(dessin.LargeurTexte("WWWW", 14), dessin.LargeurTexte("W", 14));
-    });
-    const QColor centre = image.pixelColor(60, 60);
-    EXPECT_NE(centre, QColor(Qt::white));
-    EXPECT_GT(centre.lightness(), 200) << "a light shade";
-    bool encre = false;
-    for (int x = 150; x < 200; ++x) encre = encre || qGray(image.pixel(x, 150)) < 128;
-    EXPECT_TRUE(encre) << "the text stands left of its point";
-}
-
 TEST(ZoneDessin, UneFauteDuDessinEstDiteUneFois) {
     DialoguesScript dialogues;
     ZoneDessin zone;

@@ -46,17 +46,6 @@ TEST(Grille, QuatreMilleLignesSansLesDemanderToutes) {
     EXPECT_GE(grille.columnWidth(1), grille.fontMetrics().horizontalAdvance(QStringLiteral("3999.1")));
 }
 
-TEST(Grille, NombresADroiteTexteAGauche) {
-    Grille grille;
-    grille.Remplit(Nombres(3));
-    const auto alignement = [&grille](int colonne) {
-        return Qt::Alignment(grille.model()->index(0, colonne).data(Qt::TextAlignmentRole).toInt());
-    };
-    EXPECT_TRUE(alignement(0).testFlag(Qt::AlignRight));
-    EXPECT_TRUE(alignement(2).testFlag(Qt::AlignLeft));
-    EXPECT_GT(grille.horizontalHeader()->sizeHint().height(), 2 * grille.fontMetrics().height());
-}
-
 TEST(Grille, LesColonnesPrennentLaLargeur) {
     Grille grille;
     grille.Remplit(Nombres(3));

@@ -1,7 +1,6 @@
 #include "widgets/PanneauChamps.h"
 
 #include "core/ErreurExecution.h"
-#include "outils/Ecrans.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Legendes.h"
@@ -10,10 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTest>
-#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 namespace {
@@ -48,33 +44,6 @@ TEST(PanneauChamps, PorteLEtudeDansUnSensEtDansLAutre) {
 
     panneau.Charge();
     EXPECT_EQ(S(panneau.Champ("Text1")->text()), "120.5");
-}
-
-TEST(PanneauChamps, RetourVaDeChampEnChamp) {
-    PanneauChamps panneau("Picture2", 151, Table);
-    panneau.show();
-    panneau.activateWindow();
-    QSignalSpy termine(&panneau, &PanneauChamps::Termine);
-    panneau.Champs().front()->setFocus();
-    for (const ChampNombre* champ : panneau.Champs()) {
-        ASSERT_EQ(panneau.focusWidget(), champ);
-        EXPECT_EQ(termine.count(), 0);
-        QTest::keyClick(panneau.focusWidget(), Qt::Key_Return);
-    }
-    EXPECT_EQ(termine.count(), 1);
-}
-
-TEST(PanneauChamps, EtiquettesChampsEtUnites) {
-    PanneauChamps panneau("Picture2", 151, Table);
-    const auto* etiquette = Controle<QLabel>(panneau, "EtiquetteText18");
-    EXPECT_EQ(S(etiquette->text()), Texte(157));
-    EXPECT_EQ(etiquette->buddy(), panneau.Champ("Text18"));
-    try {
-        panneau.Champ("Text99");
-        FAIL();
-    } catch (const std::logic_error& faute) {
-        EXPECT_NE(std::string(faute.what()).find("Text18"), std::string::npos) << faute.what();
-    }
 }
 
 TEST(Legendes, ChaqueGenreDeControleRecoitLaSienne) {

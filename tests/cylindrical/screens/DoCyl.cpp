@@ -3,8 +3,7 @@
 
 #include "data/Demarrage.h"
 #include "data/Textes.h"
-#include "outils/DialoguesScript.h"
-#include "outils/Ecrans.h"
+#include "outils/EcranDeSaisie.h"
 #include "widgets/Grille.h"
 
 #include <QComboBox>
@@ -13,54 +12,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
 namespace {
 
-using Saisies = std::vector<std::pair<const char*, const char*>>;
-
-template <class Ecran> class SaisieCylindre : public testing::Test {
-protected:
-    DialoguesScript dialogues;
-    std::unique_ptr<Ecran> ecran;
-
-    SaisieCylindre() { Ouvre(); }
-    void Ouvre() {
-        ecran = std::make_unique<Ecran>();
-        ecran->show();
-        ecran->activateWindow();
-        LaisseFaire();
-    }
-    void Tape(const Saisies& saisies) {
-        for (const auto& [champ, texte] : saisies) TapeDans(*ecran, champ, texte);
-    }
-    void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
-    std::string DerniereBoite() { return dialogues.boites.empty() ? "" : dialogues.boites.back().texte; }
-    bool AFocus(const char* champ) {
-        auto* widget = Controle<QWidget>(*ecran, champ);
-        return widget->hasFocus() || widget->isAncestorOf(ecran->focusWidget());
-    }
-    /// Return walks the fields in this order, once.
-    void SuitReturn(const std::vector<const char*>& ordre) {
-        Controle<QWidget>(*ecran, ordre.front())->setFocus();
-        for (const char* champ : ordre) {
-            EXPECT_TRUE(AFocus(champ)) << champ;
-            QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
-        }
-    }
-    void ChercheLegendesCoupees() {
-        for (const char* langue : {"Français", "Español", "English"}) {
-            ChoisitLangue(langue);
-            Ouvre();
-            ecran->resize(ecran->sizeHint());
-            LaisseFaire();
-            for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
-        }
-    }
-};
-
-using SaisieCyl = SaisieCylindre<DoCyl>;
-using SaisieCylOsc = SaisieCylindre<DoCylOsc>;
+using SaisieCyl = EcranDeSaisie<DoCyl>;
+using SaisieCylOsc = EcranDeSaisie<DoCylOsc>;
 
 } // namespace
 

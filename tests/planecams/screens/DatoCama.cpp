@@ -4,8 +4,7 @@
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
-#include "outils/DialoguesScript.h"
-#include "outils/Ecrans.h"
+#include "outils/EcranDeSaisie.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Grille.h"
 
@@ -16,33 +15,14 @@
 #include <QTest>
 
 #include <fstream>
-#include <memory>
 
 namespace {
 
-class SaisieBras : public testing::Test {
+class SaisieBras : public EcranDeSaisie<DatoCama> {
 protected:
-    DialoguesScript dialogues;
-    std::unique_ptr<DatoCama> ecran;
-
-    SaisieBras() { Ouvre(); }
-
-    void Ouvre() {
-        ecran = std::make_unique<DatoCama>();
-        ecran->show();
-        ecran->activateWindow();
-        LaisseFaire();
-    }
-
     void Tape(const char* champ, const char* texte) { TapeDans(*ecran, champ, texte); }
     void Loi(const char* texte) { Controle<QComboBox>(*ecran, "Combo1")->setCurrentText(texte); }
-    void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
     QString Texte_(const char* champ) { return Controle<QLineEdit>(*ecran, champ)->text(); }
-    std::string DerniereBoite() { return dialogues.boites.empty() ? "" : dialogues.boites.back().texte; }
-    bool AFocus(const char* champ) {
-        auto* widget = Controle<QWidget>(*ecran, champ);
-        return widget->hasFocus() || widget->isAncestorOf(ecran->focusWidget());
-    }
 
     void TapeDonnees() {
         const std::pair<const char*, const char*> donnees[] = {
@@ -253,13 +233,8 @@ TEST_F(SaisieBras, ComesBackWithWhatWasChangedMeanwhile) {
 }
 
 TEST_F(SaisieBras, ReturnWalksTheFieldsInOrder) {
-    const char* const ordre[] = {"Text1", "Text2", "Text3", "Text4",  "Text5",  "Text6",  "Text18",
-                                 "Text7", "Text8", "Text9", "Text10", "Text11", "Text12", "Text13"};
-    Controle<QWidget>(*ecran, "Text1")->setFocus();
-    for (const char* champ : ordre) {
-        EXPECT_TRUE(AFocus(champ)) << champ;
-        QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
-    }
+    SuitReturn({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text18", "Text7", "Text8", "Text9", "Text10",
+                "Text11", "Text12", "Text13"});
 }
 
 TEST_F(SaisieBras, GravityIsCutBackToATurn) {
@@ -272,13 +247,7 @@ TEST_F(SaisieBras, GravityIsCutBackToATurn) {
 }
 
 TEST_F(SaisieBras, NoCaptionIsCutInAnyLanguage) {
-    for (const char* langue : {"Français", "Español", "English"}) {
-        ChoisitLangue(langue);
-        Ouvre();
-        ecran->resize(ecran->sizeHint());
-        LaisseFaire();
-        for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
-    }
+    ChercheLegendesCoupees();
 }
 
 TEST_F(SaisieBras, ALawFileIsOfferedToOneZoneOnly) {

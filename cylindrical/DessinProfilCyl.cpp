@@ -5,6 +5,7 @@
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "planecams/PlanDessin.h"
+#include "reports/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -76,24 +77,11 @@ void DessineSuiveur(Dessin& dessin, PlanDessin& plan, const Developpee& d, long 
     dessin.Texte({x, tete.y - HauteurTexte}, position, Ancrage::Centre, HauteurTexte, Couleur::Repere);
 }
 
-void DessineLegende(Dessin& dessin) {
-    constexpr struct {
-        Couleur couleur;
-        int texte;
-        bool pointille, bras;
-    } lignes[] = {{Couleur::Came, 291, false, false},
-                  {Couleur::Courbe2, 290, false, false},
-                  {Couleur::Primitif, 293, true, false},
-                  {Couleur::Galet, 289, false, false},
-                  {Couleur::Bras, 217, false, true}};
-    double x = 14;
-    for (const auto& ligne : lignes) {
-        if (ligne.bras && !ABras()) continue;
-        dessin.Ligne({x, 16}, {x + 20, 16}, {ligne.couleur, 2.0, ligne.pointille});
-        dessin.Texte({x + 26, 16}, Texte(ligne.texte), Ancrage::Gauche, HauteurTexte);
-        x += 46 + dessin.LargeurTexte(Texte(ligne.texte), HauteurTexte);
-    }
-}
+constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
+                                     {{Couleur::Courbe2, 2.0}, 290},
+                                     {{Couleur::Primitif, 2.0, true}, 293},
+                                     {{Couleur::Galet, 2.0}, 289},
+                                     {{Couleur::Bras, 2.0}, 217}};
 
 } // namespace
 
@@ -107,5 +95,6 @@ void DessinProfilCyl(Dessin& dessin, double angle) {
     DessineFeuille(dessin, plan, d);
     DessineTours(plan, d);
     DessineSuiveur(dessin, plan, d, i);
-    DessineLegende(dessin);
+    // The arm stands last.
+    DessineLegende(dessin, {14, 16}, HauteurTexte, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
 }

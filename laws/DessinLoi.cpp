@@ -4,6 +4,7 @@
 #include "data/Unites.h"
 #include "laws/EtudesLois.h"
 #include "reports/Graduations.h"
+#include "reports/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -169,15 +170,10 @@ void DessineImage(Dessin& dessin, const Tableau<PointLoi>& table, double marge) 
     }
 }
 
-/// The names of the curves behind a stroke of their colour, from left to right.
 void DessineNoms(Dessin& dessin, double y, double hauteur) {
-    double x = hauteur / 2;
-    for (const CourbeLoi& courbe : courbes) {
-        const std::string& nom = Texte(courbe.texte);
-        dessin.Ligne({x, y}, {x + 1.5 * hauteur, y}, {courbe.couleur, 2.0});
-        dessin.Texte({x + 2 * hauteur, y}, nom, Ancrage::Gauche, hauteur, courbe.couleur);
-        x += 4 * hauteur + dessin.LargeurTexte(nom, hauteur);
-    }
+    std::vector<EntreeLegende> entrees;
+    for (const CourbeLoi& courbe : courbes) entrees.push_back({{courbe.couleur, 2.0}, courbe.texte, courbe.couleur});
+    DessineLegende(dessin, {hauteur / 2, y}, hauteur, entrees);
 }
 
 } // namespace

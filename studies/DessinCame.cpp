@@ -4,7 +4,8 @@
 #include "studies/DessinCame.h"
 
 #include "core/Etude.h"
-#include "data/Textes.h"
+#include "planecams/PlanDessin.h"
+#include "reports/LegendeDessin.h"
 #include "studies/TypesEtude.h"
 
 #include <algorithm>
@@ -12,10 +13,6 @@
 #include <vector>
 
 namespace {
-
-PointDessin Polaire(PointDessin centre, double rayon, double radians) {
-    return {centre.x + rayon * std::cos(radians), centre.y + rayon * std::sin(radians)};
-}
 
 PointDessin Pivot() {
     return {-etude.CoteA, -etude.CoteB};
@@ -29,11 +26,11 @@ bool ABras() {
 PointDessin CentreGalet(long i) {
     // A translating follower stands on the vertical through the cam centre.
     if (!ABras()) return {0, etude.Points[i].Rayon};
-    return Polaire(Pivot(), etude.RayonO1P, (etude.AnglePO1A + etude.Points[i].AngleBras) / RadDeg);
+    return Polaire(Pivot(), etude.RayonO1P, etude.AnglePO1A + etude.Points[i].AngleBras);
 }
 
 PointDessin PointA(long i) {
-    return Polaire(Pivot(), etude.RayonO1A, etude.Points[i].AngleBras / RadDeg);
+    return Polaire(Pivot(), etude.RayonO1A, etude.Points[i].AngleBras);
 }
 
 /// Length of the stem above the roller of a translating follower, mm.
@@ -68,26 +65,8 @@ Etendue CalculeEtendue() {
     return e;
 }
 
-/// From mechanism millimetres, y up, to the surface, below the line of the legend.
-class Vue {
-public:
-    Vue(Dessin& dessin, const Etendue& e) {
-        constexpr double marge = 14, legende = 26;
-        const double largeur = dessin.Largeur() - 2 * marge, hauteur = dessin.Hauteur() - 2 * marge - legende;
-        echelle = std::max(0.0, std::min(largeur / (e.droite - e.gauche), hauteur / (e.haut - e.bas)));
-        x0_ = dessin.Largeur() / 2 - echelle * (e.gauche + e.droite) / 2;
-        y0_ = legende + marge + hauteur / 2 + echelle * (e.bas + e.haut) / 2;
-    }
-    PointDessin operator()(PointDessin p) const { return {x0_ + echelle * p.x, y0_ - echelle * p.y}; }
-
-    double echelle; ///< surface units per mm
-
-private:
-    double x0_, y0_;
-};
-
 /// A curve of the cam, turned by `radians` counter-clockwise.
-template <class X, class Y> std::vector<PointDessin> CourbeTournee(const Vue& vue, double radians, X x, Y y) {
+template <class X, class Y> std::vector<PointDessin> CourbeTournee(const PlanDessin& vue, double radians, X x, Y y) {
     const double c = std::cos(radians), s = std::sin(radians);
     std::vector<PointDessin> points;
     points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
@@ -95,26 +74,13 @@ template <class X, class Y> std::vector<PointDessin> CourbeTournee(const Vue& vu
     return points;
 }
 
-void DessineLegende(Dessin& dessin) {
-    constexpr struct {
-        Couleur couleur;
-        int texte;
-        bool pointille;
-    } lignes[] = {{Couleur::Came, 291, false},
-                  {Couleur::TexteDiscret, 290, false},
-                  {Couleur::Primitif, 293, true},
-                  {Couleur::Galet, 289, false},
-                  {Couleur::Bras, 217, false}};
-    double x = 14;
-    for (const auto& ligne : lignes) {
-        if (ligne.couleur == Couleur::Bras && !ABras()) continue;
-        dessin.Ligne({x, 16}, {x + 20, 16}, {ligne.couleur, 2.0, ligne.pointille});
-        dessin.Texte({x + 26, 16}, Texte(ligne.texte), Ancrage::Gauche, 12);
-        x += 46 + dessin.LargeurTexte(Texte(ligne.texte), 12);
-    }
-}
+constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
+                                     {{Couleur::TexteDiscret, 2.0}, 290},
+                                     {{Couleur::Primitif, 2.0, true}, 293},
+                                     {{Couleur::Galet, 2.0}, 289},
+                                     {{Couleur::Bras, 2.0}, 217}};
 
-void DessineProfils(Dessin& dessin, const Vue& vue, double radians) {
+void DessineProfils(Dessin& dessin, const PlanDessin& vue, double radians) {
     const auto interieur = CourbeTournee(
         vue, radians, [](long i) { return etude.Profil[i].XInterieur; },
         [](long i) { return etude.Profil[i].YInterieur; });
@@ -132,12 +98,12 @@ void DessineProfils(Dessin& dessin, const Vue& vue, double radians) {
     dessin.Ligne(vue({0, 0}), interieur.front(), {Couleur::Repere, 1.0});
 }
 
-void NommePoint(Dessin& dessin, const Vue& vue, PointDessin p, const char* nom) {
+void NommePoint(Dessin& dessin, const PlanDessin& vue, PointDessin p, const char* nom) {
     const PointDessin place = vue(p);
     dessin.Texte({place.x + 8, place.y + 12}, nom, Ancrage::Gauche, 12);
 }
 
-void DessineBras(Dessin& dessin, const Vue& vue, long i) {
+void DessineBras(Dessin& dessin, const PlanDessin& vue, long i) {
     const PointDessin P = CentreGalet(i), O1 = Pivot(), A = PointA(i);
     dessin.Ligne(vue(O1), vue(P), {Couleur::Bras, 2.4});
     dessin.Ligne(vue(O1), vue(A), {Couleur::Bras, 2.4});
@@ -152,7 +118,9 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     if (etude.Points.Vide() || etude.NombrePoints == 0) return;
     const long i =
         std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
-    const Vue vue(dessin, CalculeEtendue());
+    constexpr double marge = 14, bandeau = 26;
+    const Etendue etendue = CalculeEtendue();
+    const PlanDessin vue(dessin, {etendue.gauche, etendue.bas}, {etendue.droite, etendue.haut}, marge, bandeau);
     const PointDessin P = CentreGalet(i);
     const double radians = std::atan2(P.y, P.x) - etude.Points[i].Angle / RadDeg;
     DessineProfils(dessin, vue, radians);
@@ -161,10 +129,11 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     dessin.Ligne(vue({-croix, 0}), vue({croix, 0}), axe);
     dessin.Ligne(vue({0, -croix}), vue({0, croix}), axe);
     NommePoint(dessin, vue, {0, 0}, "O");
-    dessin.Disque(vue(P), etude.RayonGalet * vue.echelle, {Couleur::Galet, 1.6});
+    dessin.Disque(vue(P), etude.RayonGalet * vue.Echelle(), {Couleur::Galet, 1.6});
     if (ABras())
         DessineBras(dessin, vue, i);
     else
         dessin.Ligne(vue(P), vue({P.x, P.y + etude.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
-    DessineLegende(dessin);
+    // The arm stands last.
+    DessineLegende(dessin, {14, 16}, 12, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
 }

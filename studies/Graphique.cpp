@@ -6,6 +6,7 @@
 #include "data/Textes.h"
 #include "planecams/GeometrieCame.h"
 #include "reports/Graduations.h"
+#include "reports/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -55,15 +56,11 @@ void DessineGraduations(Dessin& dessin, const Cadre& c, double maximum, std::siz
     }
 }
 
-void DessineLegende(Dessin& dessin, const Cadre& c, std::span<const Courbe> courbes) {
-    double x = c.gauche;
-    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
-        const double y = c.haut - 1.4 * c.texte;
-        dessin.Ligne({x, y}, {x + 2 * c.texte, y}, {couleurs[rang], 2.0});
-        const std::string& nom = Texte(courbes[rang].legende);
-        dessin.Texte({x + 2.5 * c.texte, y}, nom, Ancrage::Gauche, c.texte, couleurs[rang]);
-        x += 4.5 * c.texte + dessin.LargeurTexte(nom, c.texte);
-    }
+void DessineNoms(Dessin& dessin, const Cadre& c, std::span<const Courbe> courbes) {
+    std::vector<EntreeLegende> entrees;
+    for (std::size_t rang = 0; rang < courbes.size(); ++rang)
+        entrees.push_back({{couleurs[rang], 2.0}, courbes[rang].legende, couleurs[rang]});
+    DessineLegende(dessin, {c.gauche, c.haut - 1.4 * c.texte}, c.texte, entrees);
 }
 
 void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double maximum, std::size_t rang) {
@@ -122,5 +119,5 @@ void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes) {
         const double maximum = courbes[rang].maximum == 0.0 ? 1.0 : courbes[rang].maximum;
         DessineCourbe(dessin, cadre, courbes[rang], maximum, rang);
     }
-    DessineLegende(dessin, cadre, courbes);
+    DessineNoms(dessin, cadre, courbes);
 }

@@ -2,6 +2,7 @@
 
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/Etiquettes.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -14,9 +15,8 @@ ChampNombre* AjouteLigneChamp(QGridLayout& grille, int ligne, const char* contro
     champ->setObjectName(QString::fromUtf8(controle));
     etiquette->setObjectName(QStringLiteral("Etiquette") + champ->objectName());
     etiquette->setBuddy(champ);
-    auto* grandeur = new QLabel(unite == 0 ? QString() : QTexte(unite));
+    auto* grandeur = FaitUnite(unite == 0 ? QString() : QTexte(unite));
     grandeur->setObjectName(QStringLiteral("Unite") + champ->objectName());
-    grandeur->setForegroundRole(QPalette::PlaceholderText);
     grille.addWidget(etiquette, ligne, 0);
     grille.addWidget(champ, ligne, 1, Qt::AlignRight | Qt::AlignVCenter);
     grille.addWidget(grandeur, ligne, 2);

@@ -6,10 +6,10 @@
 #include "laws/DessinLoi.h"
 #include "laws/EnregistreLoi.h"
 #include "platform/Dialogues.h"
-#include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/Etiquettes.h"
 #include "widgets/Grille.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -49,13 +49,6 @@ constexpr ColonneLoi colonnes[] = {
     {225, Grandeur::Vitesse, [](long i) { return etude.Mouvement[i].Vitesse; }, "0.00000"},
     {226, Grandeur::Accel, [](long i) { return etude.Mouvement[i].Accel; }, "0.00000"},
 };
-
-QLabel* FaitUnite(const QString& nom) {
-    auto* unite = new QLabel;
-    unite->setObjectName(nom);
-    unite->setForegroundRole(QPalette::PlaceholderText);
-    return unite;
-}
 
 QString NomUnite(Grandeur grandeur) {
     const int unite = UniteLoi(grandeur);
@@ -147,16 +140,14 @@ QWidget* EcranLoi::FaitResultats() {
     auto* cadre = Nomme(new QGroupBox, "Frame3");
     auto* grille = new QGridLayout(cadre);
     for (const ValeurLoi& ligne : loi_.valeurs) {
-        auto* valeur = Nomme(new QLabel, ligne.controle);
-        valeur->setFont(PoliceTabulaire(valeur->font()));
-        valeur->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        valeur->setMinimumWidth(valeur->fontMetrics().horizontalAdvance("-00000.0000"));
-        valeur->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        auto* valeur = FaitValeur(ligne.controle, "-00000.0000");
+        auto* unite = FaitUnite();
+        unite->setObjectName("Unite" + valeur->objectName());
         valeurs_.push_back(valeur);
         const int rang = grille->rowCount();
         grille->addWidget(new QLabel(QTexte(ligne.texte)), rang, 0);
         grille->addWidget(valeur, rang, 1);
-        grille->addWidget(FaitUnite("Unite" + valeur->objectName()), rang, 2);
+        grille->addWidget(unite, rang, 2);
     }
     grille->setColumnStretch(0, 1);
     return cadre;

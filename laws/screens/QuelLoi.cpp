@@ -3,10 +3,10 @@
 #include "laws/CalculLois.h"
 #include "laws/ChoixLois.h"
 #include "laws/DessinLoi.h"
-#include "widgets/Application.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
+#include "widgets/Etiquettes.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/ZoneDessin.h"
@@ -30,13 +30,6 @@ bool Usuelles(const QObject& ecran) {
     return ecran.objectName() == QLatin1String("QuelLoi");
 }
 
-QLabel* FaitValeur(const char* nom) {
-    auto* valeur = Nomme(new QLabel, nom);
-    valeur->setFont(PoliceTabulaire(valeur->font()));
-    valeur->setMinimumWidth(valeur->fontMetrics().horizontalAdvance("000.0000"));
-    return valeur;
-}
-
 } // namespace
 
 QuelLoi::QuelLoi(const char* nom, QWidget* parent) : QDialog(parent) {
@@ -56,7 +49,7 @@ QuelLoi::QuelLoi(const char* nom, QWidget* parent) : QDialog(parent) {
 
     auto* noms = Nomme(new ZoneDessin, "NomsCourbes");
     noms->Peint(DessineNomsCourbes);
-    noms->setFixedSize(360, 24);
+    noms->setFixedSize(384, 24);
     auto* tete = new QHBoxLayout;
     tete->addWidget(FaitEtiquette("Label1"));
     tete->addStretch();
@@ -104,8 +97,8 @@ QWidget* QuelLoi::FaitCoefficients() {
     auto* cadre = new QWidget;
     auto* rangee = new QHBoxLayout(cadre);
     rangee->setContentsMargins({});
-    coefAccel_ = FaitValeur("Label15");
-    coefVitesse_ = FaitValeur("Label16");
+    coefAccel_ = FaitValeur("Label15", "000.0000");
+    coefVitesse_ = FaitValeur("Label16", "000.0000");
     rangee->addWidget(new QLabel(QTexte(320)));
     rangee->addWidget(coefAccel_);
     rangee->addSpacing(24);

@@ -5,6 +5,7 @@
 #include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/Etiquettes.h"
 #include "widgets/Icones.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -68,14 +69,10 @@ PanneauCame::~PanneauCame() {
 void PanneauCame::FaitCommandes(QBoxLayout& disposition) {
     auto* commandes = new QGridLayout;
     texteAngle_ = AjouteLigneChamp(*commandes, 0, "Text1", 295, 19);
-    pression_ = Nomme(new QLabel, "Label42");
-    pression_->setMinimumWidth(pression_->fontMetrics().horizontalAdvance("-000.00 "));
-    pression_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    pression_ = FaitValeur("Label42", "-000.00 ");
     commandes->addWidget(Nomme(new QLabel, "EtiquettePression"), 1, 0);
     commandes->addWidget(pression_, 1, 1);
-    auto* unite = new QLabel(QTexte(19));
-    unite->setForegroundRole(QPalette::PlaceholderText);
-    commandes->addWidget(unite, 1, 2);
+    commandes->addWidget(FaitUnite(QTexte(19)), 1, 2);
     commandes->setColumnStretch(0, 0);
     commandes->setColumnStretch(3, 1);
 

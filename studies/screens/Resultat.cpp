@@ -13,6 +13,7 @@
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/Etiquettes.h"
 #include "widgets/Grille.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -60,20 +61,8 @@ constexpr Legende legendes[] = {
     {"Quitter", 0, 12},
 };
 
-QLabel* FaitUnite(const QString& texte) {
-    auto* unite = new QLabel(texte);
-    unite->setForegroundRole(QPalette::PlaceholderText);
-    return unite;
-}
-
-QLabel* FaitValeur(const char* nom) {
-    auto* valeur = Nomme(new QLabel, nom);
-    valeur->setFont(PoliceTabulaire(valeur->font()));
-    valeur->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    valeur->setMinimumWidth(valeur->fontMetrics().horizontalAdvance("-00000.00"));
-    valeur->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return valeur;
-}
+/// Room for the widest of the values.
+constexpr const char* Gabarit = "-00000.00";
 
 /// Shows or hides the row of a grid that holds a control.
 void MontreRang(QWidget& controle, bool montre) {
@@ -151,7 +140,7 @@ QWidget* Resultat::FaitGroupe(const char* nom, int groupe) {
     for (const auto& valeur : LesValeursRemarquables()) {
         if (valeur.groupe != groupe) continue;
         const int rang = grille->rowCount();
-        const LigneValeur ligne{&valeur, new QLabel, FaitValeur(valeur.nom), FaitUnite({})};
+        const LigneValeur ligne{&valeur, new QLabel, FaitValeur(valeur.nom, Gabarit), FaitUnite()};
         ligne.angle->setObjectName(QString::fromLatin1(valeur.nom) + "Angle");
         grille->addWidget(ligne.libelle, rang, 0);
         grille->addWidget(ligne.valeur, rang, 1);
@@ -241,7 +230,7 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
     int ligne = 0;
     for (const auto& champ : type.champs) {
         if (EstRecalculable(champ.membre)) continue;
-        auto* valeur = FaitValeur("");
+        auto* valeur = FaitValeur("", Gabarit);
         valeur->setObjectName(QString("Donnee") + champ.nom);
         valeur->setText(Q(StrTrim(etude.*champ.membre)));
         dispositionDonnees_->addWidget(new QLabel(QTexte(champ.texte)), ligne, 0);

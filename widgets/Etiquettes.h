@@ -1,0 +1,11 @@
+// Labels that stand behind a caption: a number that cannot be typed into, and a unit.
+#pragma once
+
+#include <QLabel>
+
+/// A read-only number, right-aligned in figures of one width, which can be copied.
+/// @param gabarit the widest number that it has room for
+QLabel* FaitValeur(const char* nom, const char* gabarit);
+
+/// A unit, or what else is said in passing, in the discreet colour.
+QLabel* FaitUnite(const QString& texte = {});

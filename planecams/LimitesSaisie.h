@@ -2,6 +2,7 @@
 // fault.
 #pragma once
 
+#include "core/Champ.h"
 #include "core/Etude.h"
 
 #include <optional>
@@ -19,13 +20,6 @@ struct LimiteSaisie {
     FauteDonnee faute;
     bool (*interdit)(double valeur);
 };
-
-inline bool Nul(double valeur) {
-    return valeur == 0.0;
-}
-inline bool NulOuNegatif(double valeur) {
-    return !(valeur > 0.0);
-}
 
 /// The first scalar that is what it must not be; none when all will do.
 std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites);

@@ -120,6 +120,8 @@ struct Etude {
     Tableau<PointLoi> Mouvement;
     Tableau<Point> Points;
     Tableau<PointProfil> Profil;
+    bool Developpee = false;     ///< the curves are those of a developed cylinder
+    bool ProfilExterieur = true; ///< `Profil` has an outer profile
 
     Tableau<Loi> ListeLois; ///< 0..NombreLois, row 0 empty
     std::int16_t NombreLois = 0;

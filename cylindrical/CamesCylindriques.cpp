@@ -1,15 +1,16 @@
 #include "cylindrical/CamesCylindriques.h"
 
+#include "cams/Courbure.h"
+#include "cams/Pipeline.h"
 #include "cylindrical/ForcesCyl.h"
 #include "cylindrical/GeometrieCyl.h"
 #include "cylindrical/MouvementCyl.h"
-#include "planecams/GeometrieCame.h"
-#include "planecams/Pipeline.h"
 
 void CalculeCameCylindrique() {
-    DerouleEtapes(false, {MouvementCyl, GeometrieCyl, ControleCourbure, ControleSpires, ForcesCyl});
+    DerouleEtapes({.bras = false, .developpee = true},
+                  {MouvementCyl, GeometrieCyl, ControleCourbure, ControleSpires, ForcesCyl});
 }
 
 void CalculeCameCylOsc() {
-    DerouleEtapes(true, {MouvementCylOsc, GeometrieCyl, ControleCourbure, ForcesCylOsc});
+    DerouleEtapes({.bras = true, .developpee = true}, {MouvementCylOsc, GeometrieCyl, ControleCourbure, ForcesCylOsc});
 }

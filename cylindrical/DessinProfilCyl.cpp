@@ -4,7 +4,7 @@
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
-#include "planecams/PlanDessin.h"
+#include "drawing/PlanDessin.h"
 #include "reports/LegendeDessin.h"
 
 #include <algorithm>

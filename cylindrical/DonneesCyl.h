@@ -2,8 +2,8 @@
 // arm's pivot that suits its swing.
 #pragma once
 
-#include "planecams/DescriptionZones.h"
-#include "planecams/LimitesSaisie.h"
+#include "cams/DescriptionZones.h"
+#include "cams/LimitesSaisie.h"
 
 /// Text numbers of what is a radius on a plane cam and a height here.
 enum TextesCyl { TexteHauteurMini = 796, TexteHauteurMaxi = 797, TexteHauteurMm = 798, TexteHauteurCourte = 799 };

@@ -1,6 +1,6 @@
 #include "cylindrical/ForcesCyl.h"
 
-#include "planecams/ForcesCame.h"
+#include "cams/Efforts.h"
 
 #include <cmath>
 

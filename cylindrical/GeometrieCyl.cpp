@@ -1,8 +1,8 @@
 #include "cylindrical/GeometrieCyl.h"
 
+#include "cams/DifferencesProfil.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
-#include "planecams/DifferencesProfil.h"
 #include "platform/Dialogues.h"
 
 #include <cmath>

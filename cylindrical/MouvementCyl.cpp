@@ -3,7 +3,7 @@
 // centre's. The roller rolls at the speed of the cam's surface put together square with that of the follower.
 #include "cylindrical/MouvementCyl.h"
 
-#include "planecams/ParcoursZones.h"
+#include "cams/ParcoursZones.h"
 
 #include <algorithm>
 #include <cmath>

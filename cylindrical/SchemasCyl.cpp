@@ -1,7 +1,7 @@
 #include "cylindrical/SchemasCyl.h"
 
 #include "core/Etude.h"
-#include "planecams/PlanDessin.h"
+#include "drawing/PlanDessin.h"
 
 #include <cmath>
 

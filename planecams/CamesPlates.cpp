@@ -1,14 +1,16 @@
 #include "planecams/CamesPlates.h"
 
+#include "cams/Courbure.h"
+#include "cams/Pipeline.h"
 #include "planecams/ForcesCame.h"
 #include "planecams/GeometrieCame.h"
 #include "planecams/MouvementCame.h"
-#include "planecams/Pipeline.h"
 
 void CalculeCameAngulaire() {
-    DerouleEtapes(true, {CalculeMouvementBras, CalculeProfil, ControleBrasCentre, ControleCourbure, CalculeForcesBras});
+    DerouleEtapes({.bras = true},
+                  {CalculeMouvementBras, CalculeProfil, ControleBrasCentre, ControleCourbure, CalculeForcesBras});
 }
 
 void CalculeCameLineaire() {
-    DerouleEtapes(false, {CalculeMouvementLineaire, CalculeProfil, ControleCourbure, CalculeForcesLineaire});
+    DerouleEtapes({.bras = false}, {CalculeMouvementLineaire, CalculeProfil, ControleCourbure, CalculeForcesLineaire});
 }

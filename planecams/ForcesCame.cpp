@@ -1,7 +1,7 @@
 // The outer radius of a plane cam is taken as the largest radius of the roller centre plus one roller diameter.
 #include "planecams/ForcesCame.h"
 
-#include "planecams/ParcoursZones.h"
+#include "cams/Efforts.h"
 
 #include <cmath>
 
@@ -15,21 +15,6 @@ void CalculeMasseCame() {
 }
 
 } // namespace
-
-double GraviteProjetee() {
-    const double g = (etude.AnglePesanteur - 90.0) * Pi / 180.0;
-    return (std::cos(g) - std::sin(g)) * Gravite;
-}
-
-void RemetEfforts() {
-    etude.ForceGaletMax = 0;
-    etude.CoupleMax = 0;
-}
-
-void SuitEfforts(const Point& p, double repere) {
-    SuitMaximum(p.ForceGalet, repere, etude.ForceGaletMax, etude.ForceGaletMaxAngle);
-    SuitMaximum(p.Couple, repere, etude.CoupleMax, etude.CoupleMaxAngle);
-}
 
 void CalculeForcesBras() {
     const double la = etude.RayonO1A / 1000.0, lp = etude.RayonO1P / 1000.0;

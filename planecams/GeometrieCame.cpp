@@ -1,8 +1,8 @@
 #include "planecams/GeometrieCame.h"
 
+#include "cams/DifferencesProfil.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
-#include "planecams/DifferencesProfil.h"
 #include "platform/Dialogues.h"
 
 #include <cmath>
@@ -59,69 +59,12 @@ void CalculeDifferences() {
     fin.YInterieur2 = debut.YInterieur2;
 }
 
-double PuissanceTroisDemis(double x) {
-    return x * std::sqrt(x);
-}
-
-/// Radius of curvature of a curve given by its first and second differences; 0 where it is straight.
-double RayonDeCourbure(double x1, double y1, double x2, double y2) {
-    const double numerateur = y2 * x1 - x2 * y1;
-    return numerateur == 0.0 ? 0.0 : PuissanceTroisDemis(y1 * y1 + x1 * x1) / numerateur;
-}
-
-/// Radius of curvature of the pitch curve, in polar coordinates, or on the developed cam where the motion is a height.
-double RayonCourburePrimitif(const Point& point, const PointProfil& profil, bool developpee) {
-    const double R = point.Rayon, R1 = profil.DeriveeRayon, R2 = profil.Derivee2Rayon;
-    const double numerateur = developpee ? R2 : R * R + 2.0 * R1 * R1 - R2 * R;
-    if (numerateur == 0.0) return 0.0;
-    return PuissanceTroisDemis((developpee ? 1.0 : R * R) + R1 * R1) / numerateur;
-}
-
-void CalculeRayonsCourbure(bool developpee, bool conjuguees) {
-    const long N = etude.NombrePoints, p = etude.PointsParDegre;
-    etude.RayonCourbureMin = 1e99;
-    for (long i = 0; i < N; i += p) {
-        const double rho = RayonCourburePrimitif(etude.Points[i], etude.Profil[i], developpee);
-        etude.Profil[i].RayonCourbure = rho;
-        if (rho != 0.0 && std::abs(rho) < etude.RayonCourbureMin) etude.RayonCourbureMin = std::abs(rho);
-    }
-    for (long i = 0; i <= N && !conjuguees; i += p) {
-        PointProfil& c = etude.Profil[i];
-        c.RayonCourbureExterieur = RayonDeCourbure(c.XExterieur1, c.YExterieur1, c.XExterieur2, c.YExterieur2);
-    }
-    for (long i = 0; i <= N; ++i) {
-        PointProfil& c = etude.Profil[i];
-        c.RayonCourbureInterieur = RayonDeCourbure(c.XInterieur1, c.YInterieur1, c.XInterieur2, c.YInterieur2);
-    }
-}
-
-/// An offset curve that is straight keeps the radius 0 and counts as too small: kept on purpose.
-bool TropPetit(double rayonCourbure) {
-    return std::abs(rayonCourbure) < etude.RayonGalet;
-}
-
-std::string LigneCourbure(long point, int texte) {
-    return Texte(439) + " : " + std::to_string(point) + " => " + Texte(texte) + "\n";
-}
-
 } // namespace
 
 void CalculeProfil() {
     CalculeAnglesTangents();
     CalculeCourbesDecalees();
     CalculeDifferences();
-}
-
-bool CameDeveloppee() {
-    return etude.TypeCame == "Oscillation" || etude.TypeCame == "Cylindrique";
-}
-
-double Pente(double angleTangent) {
-    return angleTangent * 180.0 / Pi - (CameDeveloppee() ? 0.0 : 90.0);
-}
-
-double PenteMaxi() {
-    return Pente(etude.AngleTangentMax);
 }
 
 void ControleBrasCentre() {
@@ -132,29 +75,4 @@ void ControleBrasCentre() {
         if ((P0 < B && P > B) || (P0 > B && P < B)) etude.Erreur = Vrai;
     }
     if (!SansErreur()) LesDialogues().Message(Icone::Critique, Texte(427));
-}
-
-void ControleCourbure() {
-    const bool conjuguees = etude.TypeCame == "ConjuguesOscillation";
-    CalculeRayonsCourbure(CameDeveloppee(), conjuguees);
-
-    int nombre = 0;
-    std::string pitch, exterieur;
-    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
-        const PointProfil& c = etude.Profil[i];
-        if (c.RayonCourbure < 0.0) {
-            if (TropPetit(c.RayonCourbureInterieur)) {
-                ++nombre;
-                pitch += LigneCourbure(i, 632);
-            }
-            if (!conjuguees && TropPetit(c.RayonCourbureExterieur)) exterieur += LigneCourbure(i, 633);
-        } else if (c.RayonCourbure > 0.0 && TropPetit(c.RayonCourbure)) {
-            ++nombre;
-            pitch += LigneCourbure(i, 631);
-        }
-    }
-    // One single point is tolerated, and the first list alone decides.
-    if (nombre > 1)
-        LesDialogues().Message(Icone::Critique, "\n" + Texte(126) + " " + std::to_string(nombre) + " " + Texte(428) +
-                                                    "\n\n" + Texte(429) + pitch + exterieur);
 }

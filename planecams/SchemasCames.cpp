@@ -1,7 +1,7 @@
 #include "planecams/SchemasCames.h"
 
 #include "core/Etude.h"
-#include "planecams/PlanDessin.h"
+#include "drawing/PlanDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,12 +82,4 @@ void DessineSchemaTranslation(Dessin& dessin, const std::string& accent) {
     plan.Nom({-17, P.y + 4}, "P", Ancrage::Droite, false);
     plan.Fleche({-26, 100}, {-26, 126}, {Couleur::Repere, 1.6});
     plan.Nom({-32, 113}, "y", Ancrage::Droite, true);
-}
-
-void DessinePesanteur(Dessin& dessin, double angle) {
-    PlanDessin plan(dessin, {-50, -50}, {50, 50}, 4);
-    plan.Cercle({0, 0}, 48, {Couleur::Graduation, 1.0});
-    plan.Ligne({-48, 0}, {48, 0}, {Couleur::Graduation, 1.0, true});
-    plan.Ligne({0, -48}, {0, 48}, {Couleur::Graduation, 1.0, true});
-    plan.Fleche(Polaire({0, 0}, 30, angle + 180), Polaire({0, 0}, 42, angle), {Couleur::Repere, 2.2});
 }

@@ -1,4 +1,4 @@
-// The small drawings of the data screens of plane cams: the mechanism with the names of its dimensions, and gravity.
+// The small drawings of the data screens of plane cams: the mechanism with the names of its dimensions.
 #pragma once
 
 #include "platform/Dessin.h"
@@ -12,6 +12,3 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent);
 /// The translating follower on its radial line, not to scale, with the radius of its roller centre named.
 /// @param accent "galet" or empty
 void DessineSchemaTranslation(Dessin& dessin, const std::string& accent);
-
-/// The direction of gravity: an arrow at `angle` degrees from the x axis, counter-clockwise.
-void DessinePesanteur(Dessin& dessin, double angle);

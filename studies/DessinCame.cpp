@@ -4,7 +4,7 @@
 #include "studies/DessinCame.h"
 
 #include "core/Etude.h"
-#include "planecams/PlanDessin.h"
+#include "drawing/PlanDessin.h"
 #include "reports/LegendeDessin.h"
 #include "studies/TypesEtude.h"
 

@@ -1,11 +1,11 @@
 #include "studies/FichierEtude.h"
 
+#include "cams/CompleteZones.h"
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
-#include "planecams/MouvementCame.h"
 
 #include <chrono>
 #include <ctime>

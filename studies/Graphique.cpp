@@ -1,10 +1,10 @@
 #include "studies/Graphique.h"
 
+#include "cams/Pente.h"
 #include "core/Etude.h"
 #include "cylindrical/DonneesCyl.h"
 #include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
-#include "planecams/GeometrieCame.h"
 #include "reports/Graduations.h"
 #include "reports/LegendeDessin.h"
 
@@ -74,14 +74,14 @@ void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double 
 
 /// The forces of a cylindrical cam are calculated from the second point on.
 long PremierEffort() {
-    return CameDeveloppee() ? 1 : 0;
+    return etude.Developpee ? 1 : 0;
 }
 
 } // namespace
 
 std::vector<Courbe> CourbesGalet() {
     // Heights may lie below 0 further than above it.
-    const bool hauteurs = CameDeveloppee();
+    const bool hauteurs = etude.Developpee;
     const double maximum = hauteurs ? std::max(etude.RayonMax, -etude.RayonMin) : etude.RayonMax;
     return {{hauteurs ? TexteHauteurMm : 281, maximum, [](long i) { return etude.Points[i].Rayon; }},
             {282, etude.VitesseRayonMax, [](long i) { return etude.Points[i].VitesseRayon; }},
@@ -91,7 +91,7 @@ std::vector<Courbe> CourbesGalet() {
 std::vector<Courbe> CourbesBras() {
     // The angle of the arm is drawn to the scale of the radius, so that both graphs compare; on a cylinder no radius
     // holds for it.
-    const double maximum = CameDeveloppee() ? AngleBrasExtreme() : etude.RayonMax;
+    const double maximum = etude.Developpee ? AngleBrasExtreme() : etude.RayonMax;
     return {{284, maximum, [](long i) { return etude.Mouvement[i].Course; }},
             {285, etude.LoiVitesseMax, [](long i) { return etude.Mouvement[i].Vitesse; }},
             {286, etude.LoiAccelMax, [](long i) { return etude.Mouvement[i].Accel; }}};

@@ -1,7 +1,7 @@
 #include "studies/Listages.h"
 
+#include "cams/Pente.h"
 #include "core/Etude.h"
-#include "planecams/GeometrieCame.h"
 
 namespace {
 
@@ -82,7 +82,7 @@ std::span<const Colonne> ColonnesCame() {
 }
 
 int TexteColonne(const Colonne& colonne) {
-    return colonne.texteDeveloppee != 0 && CameDeveloppee() ? colonne.texteDeveloppee : colonne.texte;
+    return colonne.texteDeveloppee != 0 && etude.Developpee ? colonne.texteDeveloppee : colonne.texte;
 }
 
 int LignesListage() {

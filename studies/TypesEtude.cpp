@@ -7,6 +7,7 @@
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "planecams/CamesPlates.h"
+#include "planecams/DonneesPlates.h"
 #include "studies/DessinCame.h"
 
 #include <algorithm>

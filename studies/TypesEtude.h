@@ -2,9 +2,9 @@
 // batch walk this table, so that adding a kind of cam is adding a row.
 #pragma once
 
+#include "cams/DescriptionZones.h"
+#include "cams/LimitesSaisie.h"
 #include "core/Etude.h"
-#include "planecams/DescriptionZones.h"
-#include "planecams/LimitesSaisie.h"
 #include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 

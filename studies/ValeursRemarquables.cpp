@@ -1,8 +1,8 @@
 #include "studies/ValeursRemarquables.h"
 
+#include "cams/Pente.h"
 #include "cylindrical/DonneesCyl.h"
 #include "data/Unites.h"
-#include "planecams/GeometrieCame.h"
 
 namespace {
 

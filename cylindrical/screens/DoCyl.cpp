@@ -1,10 +1,10 @@
 #include "cylindrical/screens/DoCyl.h"
 
+#include "cams/screens/PanneauPesanteur.h"
+#include "cams/screens/PanneauSchema.h"
 #include "cylindrical/CamesCylindriques.h"
 #include "cylindrical/DonneesCyl.h"
 #include "cylindrical/SchemasCyl.h"
-#include "planecams/screens/PanneauPesanteur.h"
-#include "planecams/screens/PanneauSchema.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/PanneauChamps.h"
 

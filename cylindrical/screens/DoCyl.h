@@ -1,7 +1,7 @@
 // The data screen of a cylindrical cam with a translating follower: its zones are heights along the cam's axis.
 #pragma once
 
-#include "planecams/screens/SaisieCame.h"
+#include "cams/screens/SaisieCame.h"
 
 class DoCyl : public SaisieCame {
     Q_OBJECT

@@ -1,10 +1,10 @@
 #include "cylindrical/screens/DoCylOsc.h"
 
+#include "cams/screens/PanneauSchema.h"
 #include "cylindrical/CamesCylindriques.h"
 #include "cylindrical/DonneesCyl.h"
 #include "cylindrical/SchemasCyl.h"
 #include "data/Textes.h"
-#include "planecams/screens/PanneauSchema.h"
 #include "platform/Dialogues.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/PanneauChamps.h"

@@ -1,7 +1,7 @@
 // The data screen of a cylindrical cam with an oscillating follower: its zones are angles of the arm.
 #pragma once
 
-#include "planecams/screens/SaisieCame.h"
+#include "cams/screens/SaisieCame.h"
 
 class DoCylOsc : public SaisieCame {
     Q_OBJECT

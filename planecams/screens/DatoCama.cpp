@@ -1,10 +1,11 @@
 #include "planecams/screens/DatoCama.h"
 
+#include "cams/screens/PanneauPesanteur.h"
+#include "cams/screens/PanneauSchema.h"
 #include "data/Unites.h"
 #include "planecams/CamesPlates.h"
+#include "planecams/DonneesPlates.h"
 #include "planecams/SchemasCames.h"
-#include "planecams/screens/PanneauPesanteur.h"
-#include "planecams/screens/PanneauSchema.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/PanneauChamps.h"
 

@@ -2,7 +2,7 @@
 // one.
 #pragma once
 
-#include "planecams/screens/SaisieCame.h"
+#include "cams/screens/SaisieCame.h"
 
 class DatoCama : public SaisieCame {
     Q_OBJECT

@@ -1,7 +1,7 @@
 // The data screen of a plane cam with a translating follower: its zones are radii of the roller centre.
 #pragma once
 
-#include "planecams/screens/SaisieCame.h"
+#include "cams/screens/SaisieCame.h"
 
 class DoProfil : public SaisieCame {
     Q_OBJECT

@@ -1,15 +1,15 @@
 #include "studies/screens/Resultat.h"
 
+#include "cams/CompleteZones.h"
+#include "cams/ListeZones.h"
+#include "cams/screens/PanneauRotation.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
-#include "planecams/ListeZones.h"
-#include "planecams/MouvementCame.h"
 #include "platform/Dialogues.h"
 #include "studies/Graphique.h"
 #include "studies/Listages.h"
 #include "studies/ValeursRemarquables.h"
-#include "studies/screens/PanneauCame.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
@@ -98,7 +98,7 @@ Resultat::Resultat(QWidget* parent) : QWidget(parent) {
     onglets_->addTab(FaitListages(), {});
     onglets_->addTab(FaitGraphiques("Picture1", &graphiqueGalet_, "Picture5", &graphiqueBras_), {});
     onglets_->addTab(FaitGraphiques("Picture4", &graphiqueForce_, "Picture2", &graphiqueCouple_), {});
-    came_ = new PanneauCame;
+    came_ = new PanneauRotation;
     onglets_->addTab(came_, {});
 
     quitter_ = Nomme(new QPushButton, "Quitter");
@@ -203,7 +203,7 @@ void Resultat::Montre() {
     RemplitGrilles(*type);
     RemplitGraphiques();
     MontreSelonType(*type);
-    came_->Montre();
+    came_->Montre({type->dessine, DernierAngleDessin(*type), type->developpee});
 }
 
 void Resultat::MontreRotation() {

@@ -8,7 +8,7 @@
 
 class ChampNombre;
 class Grille;
-class PanneauCame;
+class PanneauRotation;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
@@ -62,7 +62,7 @@ private:
     QGridLayout* dispositionDonnees_;
     Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;
     ZoneDessin *graphiqueGalet_, *graphiqueBras_, *graphiqueForce_, *graphiqueCouple_;
-    PanneauCame* came_;
+    PanneauRotation* came_;
     std::vector<ChampNombre*> champs_;
     QPushButton *recalcul_, *quitter_;
 };

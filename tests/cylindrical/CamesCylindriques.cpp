@@ -1,8 +1,8 @@
 #include "cylindrical/CamesCylindriques.h"
+#include "cams/Pente.h"
 #include "cylindrical/DessinProfilCyl.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "cylindrical/DonneesCyl.h"
-#include "planecams/GeometrieCame.h"
 
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"

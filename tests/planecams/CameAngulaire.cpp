@@ -1,5 +1,5 @@
+#include "cams/CompleteZones.h"
 #include "planecams/CamesPlates.h"
-#include "planecams/MouvementCame.h"
 
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"

@@ -1,9 +1,9 @@
 #include "studies/RapportsCames.h"
 
+#include "cams/Pente.h"
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
 #include "outils/ImprimanteNotee.h"
-#include "planecams/GeometrieCame.h"
 #include "studies/FichierEtude.h"
 #include "studies/TypesEtude.h"
 

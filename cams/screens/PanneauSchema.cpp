@@ -1,4 +1,4 @@
-#include "planecams/screens/PanneauSchema.h"
+#include "cams/screens/PanneauSchema.h"
 
 #include "widgets/Chaines.h"
 #include "widgets/Nomme.h"

@@ -2,8 +2,8 @@
 // calculation.
 #pragma once
 
-#include "planecams/LimitesSaisie.h"
-#include "planecams/screens/PanneauZones.h"
+#include "cams/LimitesSaisie.h"
+#include "cams/screens/PanneauZones.h"
 
 #include <QWidget>
 

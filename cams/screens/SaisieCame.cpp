@@ -1,8 +1,8 @@
-#include "planecams/screens/SaisieCame.h"
+#include "cams/screens/SaisieCame.h"
 
+#include "cams/CompleteZones.h"
+#include "cams/screens/PanneauPesanteur.h"
 #include "data/Textes.h"
-#include "planecams/MouvementCame.h"
-#include "planecams/screens/PanneauPesanteur.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"

@@ -2,7 +2,7 @@
 // zone, and the summary table. What differs from one kind of cam to another is said by a description.
 #pragma once
 
-#include "planecams/DescriptionZones.h"
+#include "cams/DescriptionZones.h"
 
 #include <QGroupBox>
 

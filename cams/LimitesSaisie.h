@@ -24,12 +24,6 @@ struct LimiteSaisie {
 /// The first scalar that is what it must not be; none when all will do.
 std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites);
 
-/// The first scalar of the arm cam at which the calculation could not but divide by zero; none when all will do.
-std::optional<FauteDonnee> ChercheFauteAngulaire();
-
-/// The same for the cam with a translating follower.
-std::optional<FauteDonnee> ChercheFauteLineaire();
-
 enum class ChampZone { Symetrie, NomLoi, AngleCame };
 
 struct FauteZone {

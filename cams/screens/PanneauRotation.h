@@ -1,6 +1,8 @@
 // The sheet of the turning cam: the drawing, the angle shown, and the rotation both ways.
 #pragma once
 
+#include "platform/Dessin.h"
+
 #include <QWidget>
 
 class ChampNombre;
@@ -12,15 +14,22 @@ class QTimer;
 class QToolBar;
 class ZoneDessin;
 
-class PanneauCame : public QWidget {
+class PanneauRotation : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PanneauCame(QWidget* parent = nullptr);
-    ~PanneauCame() override;
+    explicit PanneauRotation(QWidget* parent = nullptr);
+    ~PanneauRotation() override;
+
+    /// What turns: its drawing at a cam angle in degrees, and how far it can be brought.
+    struct Vue {
+        void (*dessine)(Dessin& dessin, double angle);
+        int dernierAngle;
+        bool couchee; ///< a developed cam lies still: what moves over it is the roller
+    };
 
     /// Shows the present results, at the angle shown before.
-    void Montre();
+    void Montre(const Vue& vue);
 
     bool RotationEnCours() const;
     void Arrete();
@@ -33,6 +42,7 @@ private:
     void Avance();
     void ArmePas();
 
+    Vue vue_{};
     ZoneDessin* dessin_;
     QScrollBar* angle_;
     ChampNombre* texteAngle_;

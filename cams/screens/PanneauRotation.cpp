@@ -1,8 +1,7 @@
-#include "studies/screens/PanneauCame.h"
+#include "cams/screens/PanneauRotation.h"
 
+#include "cams/Pente.h"
 #include "core/Etude.h"
-#include "planecams/GeometrieCame.h"
-#include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Etiquettes.h"
@@ -38,7 +37,7 @@ constexpr Legende legendes[] = {
 
 } // namespace
 
-PanneauCame::PanneauCame(QWidget* parent) : QWidget(parent), pas_(new QTimer(this)) {
+PanneauRotation::PanneauRotation(QWidget* parent) : QWidget(parent), pas_(new QTimer(this)) {
     auto* disposition = new QVBoxLayout(this);
     dessin_ = Nomme(new ZoneDessin, "Picture6");
     dessin_->setMinimumSize(420, 320);
@@ -53,20 +52,20 @@ PanneauCame::PanneauCame(QWidget* parent) : QWidget(parent), pas_(new QTimer(thi
     AppliqueLegendes(*this, legendes);
 
     pas_->setSingleShot(true);
-    connect(pas_, &QTimer::timeout, this, &PanneauCame::Avance);
-    connect(angle_, &QScrollBar::valueChanged, this, &PanneauCame::MontreAngle);
-    connect(texteAngle_, &ChampNombre::Suivant, this, &PanneauCame::EntreAngle);
-    connect(texteAngle_, &QLineEdit::editingFinished, this, &PanneauCame::EntreAngle);
-    connect(tourner_, &QPushButton::clicked, this, &PanneauCame::Tourne);
-    connect(arret_, &QPushButton::clicked, this, &PanneauCame::Arrete);
+    connect(pas_, &QTimer::timeout, this, &PanneauRotation::Avance);
+    connect(angle_, &QScrollBar::valueChanged, this, &PanneauRotation::MontreAngle);
+    connect(texteAngle_, &ChampNombre::Suivant, this, &PanneauRotation::EntreAngle);
+    connect(texteAngle_, &QLineEdit::editingFinished, this, &PanneauRotation::EntreAngle);
+    connect(tourner_, &QPushButton::clicked, this, &PanneauRotation::Tourne);
+    connect(arret_, &QPushButton::clicked, this, &PanneauRotation::Arrete);
     Arrete();
 }
 
-PanneauCame::~PanneauCame() {
+PanneauRotation::~PanneauRotation() {
     etude.RotationEnCours = Faux;
 }
 
-void PanneauCame::FaitCommandes(QBoxLayout& disposition) {
+void PanneauRotation::FaitCommandes(QBoxLayout& disposition) {
     auto* commandes = new QGridLayout;
     texteAngle_ = AjouteLigneChamp(*commandes, 0, "Text1", 295, 19);
     pression_ = FaitValeur("Label42", "-000.00 ");
@@ -107,25 +106,23 @@ void PanneauCame::FaitCommandes(QBoxLayout& disposition) {
     disposition.addLayout(commandes);
 }
 
-void PanneauCame::Montre() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    angle_->setRange(0, type == nullptr ? 360 : DernierAngleDessin(*type));
+void PanneauRotation::Montre(const Vue& vue) {
+    vue_ = vue;
+    angle_->setRange(0, vue_.dernierAngle);
     MontreAngle(angle_->value());
 }
 
-void PanneauCame::MontreAngle(int angle) {
+void PanneauRotation::MontreAngle(int angle) {
     texteAngle_->Montre(angle);
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr || type->dessine == nullptr) return;
-    // A developed cam lies still: what moves over it is the roller.
-    etude.AngleRotation = type->developpee ? 0.0 : angle / RadDeg;
+    if (vue_.dessine == nullptr) return;
+    etude.AngleRotation = vue_.couchee ? 0.0 : angle / RadDeg;
     const long point = static_cast<long>(etude.PointsParDegre) * angle;
     const bool present = point <= etude.Profil.BorneHaute();
     pression_->setText(present ? Q(Format(Pente(etude.Profil[point].AngleTangent), "0.00")) : QString());
-    dessin_->Peint([type, angle](Dessin& dessin) { type->dessine(dessin, angle); });
+    dessin_->Peint([dessine = vue_.dessine, angle](Dessin& dessin) { dessine(dessin, angle); });
 }
 
-void PanneauCame::EntreAngle() {
+void PanneauRotation::EntreAngle() {
     const double angle = texteAngle_->Valeur();
     // Only an angle of the cam's turns can be shown.
     if (angle < 0.0 || angle > angle_->maximum()) texteAngle_->Montre(0);
@@ -133,11 +130,11 @@ void PanneauCame::EntreAngle() {
     texteAngle_->Montre(angle_->value());
 }
 
-bool PanneauCame::RotationEnCours() const {
+bool PanneauRotation::RotationEnCours() const {
     return etude.RotationEnCours != Faux;
 }
 
-void PanneauCame::Tourne() {
+void PanneauRotation::Tourne() {
     arret_->setEnabled(true);
     tourner_->setEnabled(false);
     arret_->setFocus();
@@ -145,13 +142,13 @@ void PanneauCame::Tourne() {
     ArmePas();
 }
 
-void PanneauCame::ArmePas() {
+void PanneauRotation::ArmePas() {
     // The right end is the fastest: the next step follows as soon as the drawing is done.
     const double delaiRotation = (vitesse_->maximum() - vitesse_->value()) / 10.0;
     pas_->start(static_cast<int>(std::lround(delaiRotation * 1000.0)));
 }
 
-void PanneauCame::Avance() {
+void PanneauRotation::Avance() {
     if (!RotationEnCours()) return;
     const int angle = angle_->value();
     if (!sensTrigo_) {
@@ -162,7 +159,7 @@ void PanneauCame::Avance() {
     ArmePas();
 }
 
-void PanneauCame::Arrete() {
+void PanneauRotation::Arrete() {
     pas_->stop();
     etude.RotationEnCours = Faux;
     arret_->setEnabled(false);

@@ -14,16 +14,11 @@ struct DescriptionZones {
     bool loiDeFichier;                       ///< a one-zone study may take its law from a file
     bool departsSuivis = false;              ///< a zone begins where the one before ends, whatever stands as its start
 
-    /// True where the zones are those of an arm, and the motion table holds its angles.
     /// Value that zone `z`, from 1, begins with.
     double Depart(long z) const {
         return departsSuivis && z > 1 ? etude.Zones[z - 1].*valeurFinale : etude.Zones[z].*valeurDepart;
     }
 
+    /// True where the zones are those of an arm, and the motion table holds its angles.
     constexpr bool Bras() const { return valeurDepart == &Zone::AngleDepart; }
 };
-
-inline constexpr DescriptionZones ZonesAngulaire{
-    &Zone::AngleDepart, &Zone::AngleFinal, 175, 176, 177, UniteDegres, true, true};
-inline constexpr DescriptionZones ZonesLineaire{
-    &Zone::RayonDepart, &Zone::RayonFinal, 183, 184, 177, UniteMm, false, false};

@@ -24,9 +24,15 @@ private:
     std::vector<double> degres_;
 };
 
+/// What its stages and the readers of its results must know of a kind of cam.
+struct NatureCame {
+    bool bras;                   ///< the follower is an arm: `Mouvement` has its motion
+    bool developpee = false;     ///< cut on a cylinder: the curves are those of the developed surface
+    bool profilExterieur = true; ///< the roller runs between two profiles
+};
+
 using Etape = void (*)();
 
 /// Sizes the point tables and runs the stages in their order, each only while `Erreur` is clear, and with it cleared.
-/// @param bras the follower is an arm: `Mouvement` is sized too
 /// @throws ErreurExecution whatever stops the arithmetic; the zones are back in degrees and no table is left.
-void DerouleEtapes(bool bras, std::initializer_list<Etape> etapes);
+void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes);

@@ -3,9 +3,9 @@
 // and by what is calculated at each point.
 #pragma once
 
+#include "cams/CompleteZones.h"
 #include "core/Etude.h"
 #include "laws/CalculLois.h"
-#include "planecams/MouvementCame.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "planecams/LimitesSaisie.h"
+#include "cams/LimitesSaisie.h"
 
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
@@ -9,19 +9,6 @@ std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites) {
     for (const auto& limite : limites)
         if (limite.interdit(etude.*limite.faute.membre)) return limite.faute;
     return {};
-}
-
-std::optional<FauteDonnee> ChercheFauteAngulaire() {
-    constexpr LimiteSaisie limites[] = {{{&Etude::CoteA, 197}, Nul},
-                                        {{&Etude::RayonO1P, 202}, Nul},
-                                        {{&Etude::RayonGalet, 201}, NulOuNegatif},
-                                        {{&Etude::VitesseCame, 200}, Nul}};
-    return ChercheFaute(limites);
-}
-
-std::optional<FauteDonnee> ChercheFauteLineaire() {
-    constexpr LimiteSaisie limites[] = {{{&Etude::RayonGalet, 201}, NulOuNegatif}, {{&Etude::VitesseCame, 200}, Nul}};
-    return ChercheFaute(limites);
 }
 
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {

@@ -1,7 +1,7 @@
 // The summary of the zones, a row each, as the data screens and the results show it.
 #pragma once
 
-#include "planecams/DescriptionZones.h"
+#include "cams/DescriptionZones.h"
 
 #include <cstdint>
 #include <string>

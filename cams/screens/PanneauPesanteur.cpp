@@ -1,7 +1,7 @@
-#include "planecams/screens/PanneauPesanteur.h"
+#include "cams/screens/PanneauPesanteur.h"
 
+#include "cams/Pesanteur.h"
 #include "core/Etude.h"
-#include "planecams/SchemasCames.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Nomme.h"

@@ -1,4 +1,4 @@
-#include "planecams/Pipeline.h"
+#include "cams/Pipeline.h"
 
 ZonesEnPoints::ZonesEnPoints() {
     for (const Zone& zone : etude.Zones) degres_.push_back(zone.AngleCame);
@@ -33,13 +33,15 @@ void OublieResultats() {
 
 } // namespace
 
-void DerouleEtapes(bool bras, std::initializer_list<Etape> etapes) {
+void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes) {
     ZonesEnPoints zones;
     try {
         zones.Passe();
         etude.Points.Redimensionne(etude.NombrePoints);
-        etude.Mouvement.Redimensionne(bras ? etude.NombrePoints : -1);
+        etude.Mouvement.Redimensionne(nature.bras ? etude.NombrePoints : -1);
         etude.Profil.Redimensionne(etude.NombrePoints);
+        etude.Developpee = nature.developpee;
+        etude.ProfilExterieur = nature.profilExterieur;
         etude.Erreur = Faux;
         for (const Etape etape : etapes) {
             etape();

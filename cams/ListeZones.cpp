@@ -1,4 +1,4 @@
-#include "planecams/ListeZones.h"
+#include "cams/ListeZones.h"
 
 #include "core/Etude.h"
 #include "data/Textes.h"

@@ -1,4 +1,4 @@
-#include "planecams/PlanDessin.h"
+#include "drawing/PlanDessin.h"
 
 #include "core/Etude.h"
 

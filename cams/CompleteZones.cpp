@@ -1,0 +1,41 @@
+#include "cams/CompleteZones.h"
+
+#include <cmath>
+
+double RayonGaletCentre(double a, double b, double L, double angle, double decalage) {
+    const double phi = (angle + decalage) * Pi / 180.0;
+    etude.Erreur = Faux;
+    const double c = std::cos(phi), s = std::sin(phi);
+    const double limite = Divise((a * a + b * b + L * L) / 2.0, L);
+    if (c * a + s * b <= limite) {
+        const double carre = a * a + b * b + L * L - (c * a + s * b) * 2.0 * L;
+        // The roller on the cam centre: rounding may leave less than nothing.
+        if (carre < 0.0) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+        return std::sqrt(carre);
+    }
+    etude.Erreur = Vrai;
+    return 0.0;
+}
+
+void CompleteZone(std::int16_t z, bool bras) {
+    Zone& zone = etude.Zones[z];
+    zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
+    etude.Erreur = Faux;
+    if (!bras) return;
+    const auto rayon = [](double angle) {
+        return RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, angle, etude.AnglePO1A);
+    };
+    zone.RayonDepart = z == 1 ? rayon(zone.AngleDepart) : etude.Zones[z - 1].RayonFinal;
+    const bool departAtteint = SansErreur();
+    zone.RayonFinal = rayon(zone.AngleFinal);
+    if (!departAtteint) etude.Erreur = Vrai;
+}
+
+void CompleteZones(bool bras) {
+    bool atteintes = true;
+    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+        CompleteZone(z, bras);
+        atteintes = atteintes && SansErreur();
+    }
+    etude.Erreur = atteintes ? Faux : Vrai;
+}

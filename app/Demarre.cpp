@@ -10,8 +10,8 @@ Configuration Demarre(const std::filesystem::path& dossier) {
     LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Exclusif);
     ChargeLois();
     const Configuration configuration = LitConfiguration(CheminAppli / NomConfiguration);
-    etude.EtudeModifiee = Faux;
-    etude.ResultatsPrets = Faux;
+    etude.resultats.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
     LangueTravail = configuration.langue;
     ChargeTextes(LaBase);
     return configuration;

@@ -75,7 +75,7 @@ constexpr QSize TailleFenetre(1320, 900);
 /// The data screen of the present study's kind.
 std::string EcranDeSaisie() {
     for (const ChoixEtude& choix : LesChoixEtude())
-        if (choix.typeCame && choix.typeCame == etude.TypeCame) return choix.ecran;
+        if (choix.typeCame && choix.typeCame == etude.donnees.TypeCame) return choix.ecran;
     return {};
 }
 
@@ -116,11 +116,11 @@ void MdiCamA::Nouveau() {
 void MdiCamA::CommenceEtude(const ChoixEtude& choix) {
     const Sablier sablier;
     FermeEcrans();
-    const std::string ancienType = etude.TypeCame;
+    const std::string ancienType = etude.donnees.TypeCame;
     VideEtude();
-    etude.TypeCame = choix.typeCame ? choix.typeCame : ancienType;
+    etude.donnees.TypeCame = choix.typeCame ? choix.typeCame : ancienType;
     OuvreEcran(choix.ecran);
-    etude.Erreur = Faux;
+    etude.resultats.Erreur = Faux;
     Annonce(Texte(TexteNouvelleEtude));
 }
 
@@ -152,18 +152,18 @@ void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     }
     if (!CalculeOuverte()) {
         // What was read can be put right on its data screen.
-        etude.ResultatsPrets = Faux;
+        etude.resultats.ResultatsPrets = Faux;
         OuvreEcran(EcranDeSaisie());
         return;
     }
-    etude.ResultatsPrets = Vrai;
+    etude.resultats.ResultatsPrets = Vrai;
     MontreResultats();
     Annonce(Texte(TexteEtudeOuverte) + " " + nom);
 }
 
 /// Calculates the study that was read; false after a box that says why it cannot be.
 bool MdiCamA::CalculeOuverte() {
-    if (const auto faute = TrouveType(etude.TypeCame)->chercheFaute()) {
+    if (const auto faute = TrouveType(etude.donnees.TypeCame)->chercheFaute()) {
         LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
         return false;
     }
@@ -177,22 +177,22 @@ bool MdiCamA::CalculeOuverte() {
 }
 
 void MdiCamA::Sauvegarder() {
-    if (!etude.EtudeModifiee) {
+    if (!etude.resultats.EtudeModifiee) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
         return;
     }
     if (EcranLoi* loi = EcranLoiActif()) return loi->Enregistrer();
     SeleSauv sauvegarde(this);
     connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
-        Annonce(Texte(TexteFichierEnregistre) + " " + etude.NomFichier);
+        Annonce(Texte(TexteFichierEnregistre) + " " + etude.donnees.NomFichier);
         if (QWidget* resultat = EcranOuvert("Resultat"))
-            resultat->setWindowTitle(Q(etude.NomFichier + " " + Texte(TexteTitreResultats)));
+            resultat->setWindowTitle(Q(etude.donnees.NomFichier + " " + Texte(TexteTitreResultats)));
     });
     sauvegarde.exec();
 }
 
 void MdiCamA::Imprimer() {
-    if (!etude.ResultatsPrets) {
+    if (!etude.resultats.ResultatsPrets) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
         return;
     }
@@ -202,12 +202,13 @@ void MdiCamA::Imprimer() {
                                [&rapport](Imprimante& imprimante) { ImprimeEtudeLoi(imprimante, rapport); });
     }
     // The title stands at the head of every report: a study without one is asked for it again.
-    while (etude.NomFichier.empty())
-        etude.NomFichier = Trim(LesDialogues().Saisie(Texte(TexteTitre), Texte(TexteEntrezTitre), {}).value_or(""));
+    while (etude.donnees.NomFichier.empty())
+        etude.donnees.NomFichier =
+            Trim(LesDialogues().Saisie(Texte(TexteTitre), Texte(TexteEntrezTitre), {}).value_or(""));
     ::MarquesImpression marques{};
     const std::vector<QAction*> entrees = MarquesImpression();
     for (std::size_t i = 0; i < entrees.size(); ++i) marques.at(i) = entrees[i]->isChecked();
-    ApercuEtImprime(this, Q(NomSansExtension(etude.NomFichier)),
+    ApercuEtImprime(this, Q(NomSansExtension(etude.donnees.NomFichier)),
                     [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
 }
 
@@ -239,7 +240,7 @@ void MdiCamA::EtudieLoi(const ChoixLoi& choix) {
     const Sablier sablier;
     FermeEcrans();
     VideEtude();
-    if (choix.loi != nullptr) etude.LoiChoisie = choix.loi;
+    if (choix.loi != nullptr) etude.lois.LoiChoisie = choix.loi;
     OuvreEcran(choix.ecran);
     Annonce(Texte(TextePret));
 }
@@ -275,17 +276,17 @@ void MdiCamA::closeEvent(QCloseEvent* evenement) {
 // ---- child screens
 
 void MdiCamA::RefuseSiRotation() {
-    etude.Erreur = Faux;
-    if (!etude.RotationEnCours) return;
+    etude.resultats.Erreur = Faux;
+    if (!etude.resultats.RotationEnCours) return;
     LesDialogues().Message(Icone::Information, Texte(TexteRotation));
     if (auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat"))) resultat->MontreRotation();
-    etude.Erreur = Vrai;
+    etude.resultats.Erreur = Vrai;
 }
 
 bool MdiCamA::RotationEmpeche() {
     RefuseSiRotation();
     const bool refuse = !SansErreur();
-    etude.Erreur = Faux; // the results on the screen are as good as before
+    etude.resultats.Erreur = Faux; // the results on the screen are as good as before
     return refuse;
 }
 
@@ -301,7 +302,8 @@ QWidget* MdiCamA::EcranOuvert(const std::string& nom) const {
 /// The law screen that is open: saving and printing go to it.
 EcranLoi* MdiCamA::EcranLoiActif() const {
     for (const EtudeLoi& loi : LesEtudesLois())
-        if (etude.*loi.active && etude.TypeLoi == loi.typeLoi) return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
+        if (etude.donnees.*loi.active && etude.donnees.TypeLoi == loi.typeLoi)
+            return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
     return nullptr;
 }
 
@@ -313,12 +315,12 @@ void MdiCamA::FermeEcran(const std::string& nom) {
     if (!sousFenetre) return;
     if (const EtudeLoi* loi = TrouveEtudeLoi(nom)) {
         // A law study lives on its screen only.
-        etude.*loi->active = Faux;
-        etude.TypeLoi.clear();
-        etude.EtudeModifiee = Faux;
-        etude.ResultatsPrets = Faux;
+        etude.donnees.*loi->active = Faux;
+        etude.donnees.TypeLoi.clear();
+        etude.resultats.EtudeModifiee = Faux;
+        etude.resultats.ResultatsPrets = Faux;
     }
-    etude.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
+    etude.resultats.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
     sousFenetre->removeEventFilter(this);
     sousFenetre->hide();
     bureau_->removeSubWindow(sousFenetre);

@@ -48,14 +48,14 @@ Json JsonFichier(const std::string& fichier, const Issue& issue, const Dialogues
     Json objet = Json::object();
     objet["fichier"] = fichier;
     objet["TypeCame"] = type == nullptr ? "" : type->nom;
-    objet["Erreur"] = etude.Erreur;
+    objet["Erreur"] = etude.resultats.Erreur;
     objet["messages"] = JsonMessages(dialogues);
     if (!issue.echec.empty()) objet["echec"] = issue.echec;
     objet["donnees"] = type == nullptr ? Json::object() : JsonDonnees(*type);
     objet["Zones"] = JsonZones();
     objet["resume"] = JsonResume(issue.calcule);
     if (!tables) return objet;
-    objet["Mouvement"] = JsonLoi(etude.Mouvement);
+    objet["Mouvement"] = JsonLoi(etude.resultats.Mouvement);
     objet["Points"] = JsonPoints();
     objet["Profil"] = JsonProfil();
     return objet;

@@ -47,23 +47,23 @@ Demande LitDemande(const LigneCommande& ligne) {
 
 /// Fills `LoiUnite`, and `ligne` with the catalogue row that was used.
 void CalculeTable(const Demande& demande, Loi& ligne) {
-    etude.NombrePoints = demande.points;
+    etude.resultats.NombrePoints = demande.points;
     if (demande.Msh()) {
         const std::int16_t numero = ChercheLoi(demande.nomLoi);
         if (numero == 0) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, demande.nomLoi);
-        ligne = etude.ListeLois[numero];
+        ligne = etude.lois.ListeLois[numero];
         PrepareLoiMSH(ligne);
         CalculeLoiMSH();
         return;
     }
-    etude.NombreZones = 1;
-    etude.Zones.Redimensionne(1);
-    etude.Zones[1].NomLoi = demande.nomLoi;
-    etude.Zones[1].AngleCame = demande.points;
-    etude.Zones[1].CoefSymetrie = demande.symetrie;
+    etude.donnees.NombreZones = 1;
+    etude.donnees.Zones.Redimensionne(1);
+    etude.donnees.Zones[1].NomLoi = demande.nomLoi;
+    etude.donnees.Zones[1].AngleCame = demande.points;
+    etude.donnees.Zones[1].CoefSymetrie = demande.symetrie;
     AppliqueLoi(1);
     // A custom percentage overwrites the row whose number is that of the zone.
-    ligne = etude.ListeLois[EstLoiSpe(demande.nomLoi) ? std::int16_t{1} : ChercheLoi(demande.nomLoi)];
+    ligne = etude.lois.ListeLois[EstLoiSpe(demande.nomLoi) ? std::int16_t{1} : ChercheLoi(demande.nomLoi)];
 }
 
 } // namespace
@@ -78,13 +78,13 @@ int CommandeLoi(const LigneCommande& ligne, std::ostream& sortie, std::ostream&)
     try {
         CalculeTable(demande, loi);
     } catch (const ErreurExecution& erreur) {
-        etude.LoiUnite = {};
+        etude.lois.LoiUnite = {};
         echec = SensErreur(erreur);
     }
 
     Json objet = Json::object();
     objet["NomLoi"] = demande.nomLoi;
-    objet["Erreur"] = etude.Erreur;
+    objet["Erreur"] = etude.resultats.Erreur;
     objet["messages"] = JsonMessages(dialogues);
     if (!echec.empty()) objet["echec"] = echec;
     const auto coefficient = [&](double valeur) { return echec.empty() ? Json(valeur) : Json(); };
@@ -94,7 +94,7 @@ int CommandeLoi(const LigneCommande& ligne, std::ostream& sortie, std::ostream&)
     objet["CoefB"] = coefficient(loi.CoefB);
     objet["CoefC"] = coefficient(loi.CoefC);
     objet["CoefD"] = coefficient(loi.CoefD);
-    objet.update(JsonLoi(etude.LoiUnite));
+    objet.update(JsonLoi(etude.lois.LoiUnite));
     EcritJson(sortie, objet);
     sortie << "\n";
     return echec.empty() ? 0 : 1;

@@ -33,14 +33,14 @@ double LitNombre(const Json& donnees, const char* nom) {
 void LitUnites(const Json& donnees, const EtudeLoi& loi) {
     const std::string unites = donnees.value(Unites, loi.degresDabord ? "degres" : "mm");
     if (unites != "mm" && unites != "degres") throw UsageIncorrect(R"(Unites is "mm" or "degres")");
-    etude.SortieEnDegres = unites == "degres" ? Vrai : Faux;
+    etude.donnees.SortieEnDegres = unites == "degres" ? Vrai : Faux;
 }
 
 void LitPointsParDegre(const Json& donnees) {
     const double points = donnees.contains(PointsParDegre) ? LitNombre(donnees, PointsParDegre) : 1.0;
     if (points < 1.0 || points > 32767.0 || points != Int(points))
         throw UsageIncorrect("PointsParDegre is a whole number from 1 to 32767");
-    etude.PointsParDegre = Entier16(points);
+    etude.donnees.PointsParDegre = Entier16(points);
 }
 
 /// The inputs of a study out of its data: every one of them, and nothing that is none.
@@ -55,28 +55,28 @@ void LitDonnees(const std::string& fichier, const EtudeLoi& loi) {
     }
     LitUnites(donnees, loi);
     LitPointsParDegre(donnees);
-    for (const ChampLoi& champ : loi.champs) etude.*champ.membre = LitNombre(donnees, champ.nom);
+    for (const ChampLoi& champ : loi.champs) etude.donnees.*champ.membre = LitNombre(donnees, champ.nom);
 }
 
 Json JsonPointsLoi() {
     Json points = Json::object();
     points["Angle"] = Json::array();
-    for (const Point& point : etude.Points) points["Angle"].push_back(point.Angle);
-    points.update(JsonLoi(etude.Mouvement));
+    for (const Point& point : etude.resultats.Points) points["Angle"].push_back(point.Angle);
+    points.update(JsonLoi(etude.resultats.Mouvement));
     return points;
 }
 
 Json JsonEtudeLoi(const ResultatLoi& resultat, const std::string& echec, const DialoguesCollecte& dialogues) {
     const auto valeur = [&](double v) { return echec.empty() ? Json(v) : Json(); };
     Json objet = Json::object();
-    objet["Erreur"] = etude.Erreur;
+    objet["Erreur"] = etude.resultats.Erreur;
     objet["messages"] = JsonMessages(dialogues);
     if (!echec.empty()) objet["echec"] = echec;
     objet["CoefAccel"] = valeur(resultat.CoefAccel);
     objet["CoefVitesse"] = valeur(resultat.CoefVitesse);
     objet["VitesseMaxi"] = valeur(resultat.VitesseMaxi);
     objet["AccelerationMaxi"] = valeur(resultat.AccelerationMaxi);
-    objet["LoiUnite"] = JsonLoi(etude.LoiUnite);
+    objet["LoiUnite"] = JsonLoi(etude.lois.LoiUnite);
     objet["Points"] = JsonPointsLoi();
     return objet;
 }
@@ -94,7 +94,7 @@ Json CalculeObjet(const EtudeLoi& loi, bool oui, int& statut) {
             resultat = CalculeEtudeLoi(loi);
         }
     } catch (const ErreurExecution& erreur) {
-        etude.LoiUnite = {};
+        etude.lois.LoiUnite = {};
         echec = SensErreur(erreur);
     }
     if (!echec.empty()) statut = std::max(statut, 1);

@@ -19,34 +19,44 @@ const Membre<Zone> membresZone[] = {
     {"NomLoi", &Zone::NomLoi},           {"CoefSymetrie", &Zone::CoefSymetrie},
 };
 
-const Membre<Etude> membresResume[] = {
-    {"NombrePoints", &Etude::NombrePoints},
-    {"RayonMax", &Etude::RayonMax},
-    {"RayonMin", &Etude::RayonMin},
-    {"VitesseRayonMax", &Etude::VitesseRayonMax},
-    {"VitesseRayonMaxAngle", &Etude::VitesseRayonMaxAngle},
-    {"AccelRayonMax", &Etude::AccelRayonMax},
-    {"AccelRayonMaxAngle", &Etude::AccelRayonMaxAngle},
-    {"LoiCourseMax", &Etude::LoiCourseMax},
-    {"LoiVitesseMax", &Etude::LoiVitesseMax},
-    {"LoiVitesseMaxAngle", &Etude::LoiVitesseMaxAngle},
-    {"LoiAccelMax", &Etude::LoiAccelMax},
-    {"LoiAccelMaxAngle", &Etude::LoiAccelMaxAngle},
-    {"VitesseGaletMax", &Etude::VitesseGaletMax},
-    {"VitesseGaletMoyenne", &Etude::VitesseGaletMoyenne},
-    {"ForceGaletMax", &Etude::ForceGaletMax},
-    {"ForceGaletMaxAngle", &Etude::ForceGaletMaxAngle},
-    {"CoupleMax", &Etude::CoupleMax},
-    {"CoupleMaxAngle", &Etude::CoupleMaxAngle},
-    {"AngleTangentMax", &Etude::AngleTangentMax},
-    {"RayonCourbureMin", &Etude::RayonCourbureMin},
-    {"InertieBras", &Etude::InertieBras},
-    {"InertieMasseA", &Etude::InertieMasseA},
-    {"InertieCame", &Etude::InertieCame},
-    {"MasseCame", &Etude::MasseCame},
-    {"EpaisseurCame", &Etude::EpaisseurCame},
-    {"CoupleDemarrage", &Etude::CoupleDemarrage},
-    {"AngleDemarrage", &Etude::AngleDemarrage},
+/// A summary value, whatever part of the record it stands in.
+struct ValeurResume {
+    const char* nom;
+    Json (*valeur)();
+};
+
+template <auto membre> Json De() {
+    return ValeurDe(membre);
+}
+
+const ValeurResume membresResume[] = {
+    {"NombrePoints", De<&ResultatsEtude::NombrePoints>},
+    {"RayonMax", De<&ResultatsEtude::RayonMax>},
+    {"RayonMin", De<&ResultatsEtude::RayonMin>},
+    {"VitesseRayonMax", De<&ResultatsEtude::VitesseRayonMax>},
+    {"VitesseRayonMaxAngle", De<&ResultatsEtude::VitesseRayonMaxAngle>},
+    {"AccelRayonMax", De<&ResultatsEtude::AccelRayonMax>},
+    {"AccelRayonMaxAngle", De<&ResultatsEtude::AccelRayonMaxAngle>},
+    {"LoiCourseMax", De<&DurablesEtude::LoiCourseMax>},
+    {"LoiVitesseMax", De<&DurablesEtude::LoiVitesseMax>},
+    {"LoiVitesseMaxAngle", De<&DurablesEtude::LoiVitesseMaxAngle>},
+    {"LoiAccelMax", De<&DurablesEtude::LoiAccelMax>},
+    {"LoiAccelMaxAngle", De<&DurablesEtude::LoiAccelMaxAngle>},
+    {"VitesseGaletMax", De<&DurablesEtude::VitesseGaletMax>},
+    {"VitesseGaletMoyenne", De<&ResultatsEtude::VitesseGaletMoyenne>},
+    {"ForceGaletMax", De<&ResultatsEtude::ForceGaletMax>},
+    {"ForceGaletMaxAngle", De<&ResultatsEtude::ForceGaletMaxAngle>},
+    {"CoupleMax", De<&ResultatsEtude::CoupleMax>},
+    {"CoupleMaxAngle", De<&ResultatsEtude::CoupleMaxAngle>},
+    {"AngleTangentMax", De<&ResultatsEtude::AngleTangentMax>},
+    {"RayonCourbureMin", De<&ResultatsEtude::RayonCourbureMin>},
+    {"InertieBras", De<&ResultatsEtude::InertieBras>},
+    {"InertieMasseA", De<&DonneesEtude::InertieMasseA>},
+    {"InertieCame", De<&ResultatsEtude::InertieCame>},
+    {"MasseCame", De<&ResultatsEtude::MasseCame>},
+    {"EpaisseurCame", De<&DonneesEtude::EpaisseurCame>},
+    {"CoupleDemarrage", De<&ResultatsEtude::CoupleDemarrage>},
+    {"AngleDemarrage", De<&ResultatsEtude::AngleDemarrage>},
 };
 
 const Membre<PointLoi> membresLoi[] = {
@@ -128,22 +138,21 @@ void EcritNombre(std::ostream& sortie, double valeur) {
 
 Json JsonDonnees(const TypeEtude& type) {
     Json donnees = Json::object();
-    for (const auto& champ : type.champs) donnees[champ.nom] = etude.*champ.membre;
-    donnees["NombreZones"] = etude.NombreZones;
-    donnees["PointsParDegre"] = etude.PointsParDegre;
+    for (const auto& champ : type.champs) donnees[champ.nom] = etude.donnees.*champ.membre;
+    donnees["NombreZones"] = etude.donnees.NombreZones;
+    donnees["PointsParDegre"] = etude.donnees.PointsParDegre;
     return donnees;
 }
 
 Json JsonZones() {
     Json zones = Json::array();
-    for (const Zone& z : etude.Zones) zones.push_back(Objet<Zone>(z, membresZone));
+    for (const Zone& z : etude.donnees.Zones) zones.push_back(Objet<Zone>(z, membresZone));
     return zones;
 }
 
 Json JsonResume(bool calcule) {
-    Json valeurs = Objet<Etude>(etude, membresResume);
-    if (!calcule)
-        for (auto& valeur : valeurs) valeur = nullptr;
+    Json valeurs = Json::object();
+    for (const auto& membre : membresResume) valeurs[membre.nom] = calcule ? membre.valeur() : Json(nullptr);
     return valeurs;
 }
 
@@ -151,10 +160,10 @@ Json JsonLoi(const Tableau<PointLoi>& table) {
     return Colonnes<PointLoi>(table, membresLoi);
 }
 Json JsonPoints() {
-    return Colonnes<Point>(etude.Points, membresPoint);
+    return Colonnes<Point>(etude.resultats.Points, membresPoint);
 }
 Json JsonProfil() {
-    return Colonnes<PointProfil>(etude.Profil, membresProfil);
+    return Colonnes<PointProfil>(etude.resultats.Profil, membresProfil);
 }
 
 Json JsonMessages(const DialoguesCollecte& dialogues) {

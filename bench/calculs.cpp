@@ -22,19 +22,19 @@ void PrepareEtude(long points, const char* exemple = "Exemple.Ang") {
     etude = Etude{};
     ChargeLois();
     LitFichierEtude(CheminAppli / NomDossierEtudes / exemple);
-    etude.PointsParDegre = Entier16(static_cast<double>(points) / 360.0);
+    etude.donnees.PointsParDegre = Entier16(static_cast<double>(points) / 360.0);
 }
 
 void MesureAppliqueLoi(benchmark::State& etat, const char* nomLoi) {
     etude = Etude{};
     ChargeLois();
-    etude.Zones.Redimensionne(1);
-    etude.Zones[1].NomLoi = nomLoi;
-    etude.Zones[1].CoefSymetrie = 0.5;
-    etude.Zones[1].AngleCame = PasLoi;
+    etude.donnees.Zones.Redimensionne(1);
+    etude.donnees.Zones[1].NomLoi = nomLoi;
+    etude.donnees.Zones[1].CoefSymetrie = 0.5;
+    etude.donnees.Zones[1].AngleCame = PasLoi;
     for (auto _ : etat) {
         AppliqueLoi(1);
-        benchmark::DoNotOptimize(etude.LoiUnite[PasLoi].Course);
+        benchmark::DoNotOptimize(etude.lois.LoiUnite[PasLoi].Course);
     }
 }
 
@@ -53,9 +53,9 @@ void MesureCame(benchmark::State& etat, const char* exemple) {
     PrepareEtude(etat.range(0), exemple);
     for (auto _ : etat) {
         CalculeEtude();
-        benchmark::DoNotOptimize(etude.CoupleMax);
+        benchmark::DoNotOptimize(etude.resultats.CoupleMax);
     }
-    if (etude.NombrePoints != etat.range(0) || !SansErreur()) etat.SkipWithError("not calculated");
+    if (etude.resultats.NombrePoints != etat.range(0) || !SansErreur()) etat.SkipWithError("not calculated");
 }
 
 /// Angles in radians, of which a calculation takes sine and cosine together.
@@ -138,7 +138,7 @@ void PlancherTextes(benchmark::State& etat, double (*premier)(long), double (*se
     for (auto _ : etat) {
         std::string texte;
         char tampon[32];
-        for (long i = 0; i <= etude.NombrePoints; ++i)
+        for (long i = 0; i <= etude.resultats.NombrePoints; ++i)
             for (const double valeur : {premier(i), second(i)})
                 texte.append(tampon, std::to_chars(tampon, tampon + sizeof tampon, valeur).ptr);
         benchmark::DoNotOptimize(texte);
@@ -155,12 +155,13 @@ void MesureEcriturePoints(benchmark::State& etat) {
 
 BENCHMARK(MesureFichierPoints)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(
-    PlancherTextes, Points, [](long i) { return etude.Points[i].Angle; }, [](long i) { return etude.Points[i].Rayon; })
+    PlancherTextes, Points, [](long i) { return etude.resultats.Points[i].Angle; },
+    [](long i) { return etude.resultats.Points[i].Rayon; })
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(MesureScript)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(
-    PlancherTextes, Script, [](long i) { return etude.Profil[i].XExterieur; },
-    [](long i) { return etude.Profil[i].YExterieur; })
+    PlancherTextes, Script, [](long i) { return etude.resultats.Profil[i].XExterieur; },
+    [](long i) { return etude.resultats.Profil[i].YExterieur; })
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(MesureEcriturePoints)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(MesureAppliqueLoi, MS, "MS");

@@ -4,7 +4,7 @@
 
 double RayonGaletCentre(double a, double b, double L, double angle, double decalage) {
     const double phi = (angle + decalage) * Pi / 180.0;
-    etude.Erreur = Faux;
+    etude.resultats.Erreur = Faux;
     const double c = std::cos(phi), s = std::sin(phi);
     const double limite = Divise((a * a + b * b + L * L) / 2.0, L);
     if (c * a + s * b <= limite) {
@@ -13,29 +13,30 @@ double RayonGaletCentre(double a, double b, double L, double angle, double decal
         if (carre < 0.0) throw ErreurExecution(NumeroErreur::AppelIncorrect);
         return std::sqrt(carre);
     }
-    etude.Erreur = Vrai;
+    etude.resultats.Erreur = Vrai;
     return 0.0;
 }
 
 void CompleteZone(std::int16_t z, bool bras) {
-    Zone& zone = etude.Zones[z];
-    zone.Temps = TempsZone(zone.AngleCame, etude.VitesseCame);
-    etude.Erreur = Faux;
+    Zone& zone = etude.donnees.Zones[z];
+    zone.Temps = TempsZone(zone.AngleCame, etude.donnees.VitesseCame);
+    etude.resultats.Erreur = Faux;
     if (!bras) return;
     const auto rayon = [](double angle) {
-        return RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, angle, etude.AnglePO1A);
+        return RayonGaletCentre(etude.donnees.CoteA, etude.donnees.CoteB, etude.donnees.RayonO1P, angle,
+                                etude.donnees.AnglePO1A);
     };
-    zone.RayonDepart = z == 1 ? rayon(zone.AngleDepart) : etude.Zones[z - 1].RayonFinal;
+    zone.RayonDepart = z == 1 ? rayon(zone.AngleDepart) : etude.donnees.Zones[z - 1].RayonFinal;
     const bool departAtteint = SansErreur();
     zone.RayonFinal = rayon(zone.AngleFinal);
-    if (!departAtteint) etude.Erreur = Vrai;
+    if (!departAtteint) etude.resultats.Erreur = Vrai;
 }
 
 void CompleteZones(bool bras) {
     bool atteintes = true;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
         CompleteZone(z, bras);
         atteintes = atteintes && SansErreur();
     }
-    etude.Erreur = atteintes ? Faux : Vrai;
+    etude.resultats.Erreur = atteintes ? Faux : Vrai;
 }

@@ -28,27 +28,28 @@ double RayonCourburePrimitif(const Point& point, const PointProfil& profil, bool
 }
 
 void CalculeRayonsCourbure() {
-    const bool developpee = etude.Developpee;
-    const long N = etude.NombrePoints, p = etude.PointsParDegre;
-    etude.RayonCourbureMin = 1e99;
+    const bool developpee = etude.resultats.Developpee;
+    const long N = etude.resultats.NombrePoints, p = etude.donnees.PointsParDegre;
+    etude.resultats.RayonCourbureMin = 1e99;
     for (long i = 0; i < N; i += p) {
-        const double rho = RayonCourburePrimitif(etude.Points[i], etude.Profil[i], developpee);
-        etude.Profil[i].RayonCourbure = rho;
-        if (rho != 0.0 && std::abs(rho) < etude.RayonCourbureMin) etude.RayonCourbureMin = std::abs(rho);
+        const double rho = RayonCourburePrimitif(etude.resultats.Points[i], etude.resultats.Profil[i], developpee);
+        etude.resultats.Profil[i].RayonCourbure = rho;
+        if (rho != 0.0 && std::abs(rho) < etude.resultats.RayonCourbureMin)
+            etude.resultats.RayonCourbureMin = std::abs(rho);
     }
-    for (long i = 0; i <= N && etude.ProfilExterieur; i += p) {
-        PointProfil& c = etude.Profil[i];
+    for (long i = 0; i <= N && etude.resultats.ProfilExterieur; i += p) {
+        PointProfil& c = etude.resultats.Profil[i];
         c.RayonCourbureExterieur = RayonDeCourbure(c.XExterieur1, c.YExterieur1, c.XExterieur2, c.YExterieur2);
     }
     for (long i = 0; i <= N; ++i) {
-        PointProfil& c = etude.Profil[i];
+        PointProfil& c = etude.resultats.Profil[i];
         c.RayonCourbureInterieur = RayonDeCourbure(c.XInterieur1, c.YInterieur1, c.XInterieur2, c.YInterieur2);
     }
 }
 
 /// An offset curve that is straight keeps the radius 0 and counts as too small: kept on purpose.
 bool TropPetit(double rayonCourbure) {
-    return std::abs(rayonCourbure) < etude.RayonGalet;
+    return std::abs(rayonCourbure) < etude.donnees.RayonGalet;
 }
 
 std::string LigneCourbure(long point, int texte) {
@@ -62,14 +63,15 @@ void ControleCourbure() {
 
     int nombre = 0;
     std::string pitch, exterieur;
-    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
-        const PointProfil& c = etude.Profil[i];
+    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
+        const PointProfil& c = etude.resultats.Profil[i];
         if (c.RayonCourbure < 0.0) {
             if (TropPetit(c.RayonCourbureInterieur)) {
                 ++nombre;
                 pitch += LigneCourbure(i, 632);
             }
-            if (etude.ProfilExterieur && TropPetit(c.RayonCourbureExterieur)) exterieur += LigneCourbure(i, 633);
+            if (etude.resultats.ProfilExterieur && TropPetit(c.RayonCourbureExterieur))
+                exterieur += LigneCourbure(i, 633);
         } else if (c.RayonCourbure > 0.0 && TropPetit(c.RayonCourbure)) {
             ++nombre;
             pitch += LigneCourbure(i, 631);

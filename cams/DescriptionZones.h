@@ -16,7 +16,7 @@ struct DescriptionZones {
 
     /// Value that zone `z`, from 1, begins with.
     double Depart(long z) const {
-        return departsSuivis && z > 1 ? etude.Zones[z - 1].*valeurFinale : etude.Zones[z].*valeurDepart;
+        return departsSuivis && z > 1 ? etude.donnees.Zones[z - 1].*valeurFinale : etude.donnees.Zones[z].*valeurDepart;
     }
 
     /// True where the zones are those of an arm, and the motion table holds its angles.

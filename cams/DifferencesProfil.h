@@ -24,19 +24,19 @@ inline constexpr Difference DifferencesSecondes[] = {
 /// Fills the first differences at points 0 to `NombrePoints` - 1.
 /// @param derive called with the value at a point and at the next
 template <class Derive> void CalculePremieresDifferences(Derive derive) {
-    for (long i = 0; i < etude.NombrePoints; ++i) {
-        PointProfil& ici = etude.Profil[i];
-        const PointProfil& suivant = etude.Profil[i + 1];
-        ici.DeriveeRayon = derive(etude.Points[i].Rayon, etude.Points[i + 1].Rayon);
+    for (long i = 0; i < etude.resultats.NombrePoints; ++i) {
+        PointProfil& ici = etude.resultats.Profil[i];
+        const PointProfil& suivant = etude.resultats.Profil[i + 1];
+        ici.DeriveeRayon = derive(etude.resultats.Points[i].Rayon, etude.resultats.Points[i + 1].Rayon);
         for (const auto& d : DifferencesPremieres) ici.*d.vers = derive(ici.*d.de, suivant.*d.de);
     }
 }
 
 /// The same for the second ones, from the first.
 template <class Derive> void CalculeSecondesDifferences(Derive derive) {
-    for (long i = 0; i < etude.NombrePoints; ++i) {
-        PointProfil& ici = etude.Profil[i];
-        const PointProfil& suivant = etude.Profil[i + 1];
+    for (long i = 0; i < etude.resultats.NombrePoints; ++i) {
+        PointProfil& ici = etude.resultats.Profil[i];
+        const PointProfil& suivant = etude.resultats.Profil[i + 1];
         for (const auto& d : DifferencesSecondes) ici.*d.vers = derive(ici.*d.de, suivant.*d.de);
     }
 }

@@ -7,7 +7,7 @@
 
 std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites) {
     for (const auto& limite : limites)
-        if (limite.interdit(etude.*limite.faute.membre)) return limite.faute;
+        if (limite.interdit(etude.donnees.*limite.faute.membre)) return limite.faute;
     return {};
 }
 
@@ -31,8 +31,8 @@ bool EstPointsParDegre(const std::string& texte) {
 
 int FautePoints(std::int16_t pointsParDegre) {
     double points = 0, decalage = 0, dernier = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        const double n = etude.Zones[z].AngleCame * pointsParDegre;
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+        const double n = etude.donnees.Zones[z].AngleCame * pointsParDegre;
         points += Arrondi(n);
         dernier = decalage + Int(n);
         decalage = Arrondi(decalage + n);

@@ -11,7 +11,7 @@
 
 /// A scalar that cannot be calculated with: its member of the record, and the number of the text that says why.
 struct FauteDonnee {
-    double Etude::*membre;
+    double DonneesEtude::*membre;
     int texte;
 };
 

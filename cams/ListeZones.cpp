@@ -27,7 +27,7 @@ template <int DescriptionZones::*entre, int donne> int EnteteRayon(const Descrip
 }
 
 template <double Zone::*membre> std::string Entre(const DescriptionZones&, long z) {
-    return StrTrim(etude.Zones[z].*membre);
+    return StrTrim(etude.donnees.Zones[z].*membre);
 }
 
 /// What was entered stands as it is; a radius that the arm gave is rounded.
@@ -42,11 +42,11 @@ const ColonneZone colonnes[] = {
     {EnteteCame, false, Entre<&Zone::AngleCame>},
     {EnteteRayon<&DescriptionZones::texteDepart, 183>, false,
      [](const DescriptionZones& d, long z) {
-         return EcritRayon(d, d.Bras() ? etude.Zones[z].RayonDepart : d.Depart(z));
+         return EcritRayon(d, d.Bras() ? etude.donnees.Zones[z].RayonDepart : d.Depart(z));
      }},
     {EnteteRayon<&DescriptionZones::texteFinale, 184>, false,
-     [](const DescriptionZones& d, long z) { return EcritRayon(d, etude.Zones[z].RayonFinal); }},
-    {Toujours<105>, true, [](const DescriptionZones&, long z) { return etude.Zones[z].NomLoi; }},
+     [](const DescriptionZones& d, long z) { return EcritRayon(d, etude.donnees.Zones[z].RayonFinal); }},
+    {Toujours<105>, true, [](const DescriptionZones&, long z) { return etude.donnees.Zones[z].NomLoi; }},
     {Toujours<185>, false, Entre<&Zone::CoefSymetrie>},
 };
 
@@ -73,6 +73,6 @@ std::vector<bool> ColonnesTexteZones(const DescriptionZones& zones) {
 
 std::string CelluleZone(const DescriptionZones& zones, int ligne, int colonne, std::int16_t entrees) {
     if (colonne == 0) return Texte(187) + std::to_string(ligne + 1);
-    if (ligne >= entrees || ligne + 1 > etude.Zones.BorneHaute()) return {};
+    if (ligne >= entrees || ligne + 1 > etude.donnees.Zones.BorneHaute()) return {};
     return ColonnesZones(zones)[static_cast<std::size_t>(colonne)]->valeur(zones, ligne + 1);
 }

@@ -11,7 +11,7 @@
 
 /// True when a law file has filled the unit law already, and left the catalogue with its one row.
 inline bool LoiDeFichier() {
-    return etude.ListeLois[1].NomLoi == NomLoiFichier;
+    return etude.lois.DeFichier;
 }
 
 /// What a zone gives to each of its points.
@@ -46,24 +46,24 @@ struct MarcheZones {
 
 /// Clears the extreme values of the radius that every walk starts with.
 inline void RemetExtremes() {
-    etude.RayonMax = 0;
-    etude.RayonMin = 1e18;
-    etude.VitesseRayonMax = 0;
-    etude.AccelRayonMax = 0;
+    etude.resultats.RayonMax = 0;
+    etude.resultats.RayonMin = 1e18;
+    etude.resultats.VitesseRayonMax = 0;
+    etude.resultats.AccelRayonMax = 0;
 }
 
 inline void SuitExtremes(const Point& p, double repere) {
-    if (p.Rayon > etude.RayonMax) etude.RayonMax = p.Rayon;
-    if (p.Rayon < etude.RayonMin) etude.RayonMin = p.Rayon;
-    SuitMaximum(p.VitesseRayon, repere, etude.VitesseRayonMax, etude.VitesseRayonMaxAngle);
-    SuitMaximum(p.AccelRayon, repere, etude.AccelRayonMax, etude.AccelRayonMaxAngle);
-    if (p.VitesseGalet > etude.VitesseGaletMax) etude.VitesseGaletMax = p.VitesseGalet;
+    if (p.Rayon > etude.resultats.RayonMax) etude.resultats.RayonMax = p.Rayon;
+    if (p.Rayon < etude.resultats.RayonMin) etude.resultats.RayonMin = p.Rayon;
+    SuitMaximum(p.VitesseRayon, repere, etude.resultats.VitesseRayonMax, etude.resultats.VitesseRayonMaxAngle);
+    SuitMaximum(p.AccelRayon, repere, etude.resultats.AccelRayonMax, etude.resultats.AccelRayonMaxAngle);
+    if (p.VitesseGalet > etude.durables.VitesseGaletMax) etude.durables.VitesseGaletMax = p.VitesseGalet;
 }
 
 inline void CalculeVitesseGaletMoyenne() {
     double somme = 0;
-    for (long k = 1; k <= etude.NombrePoints; ++k) somme += etude.Points[k].VitesseGalet;
-    etude.VitesseGaletMoyenne = Int(Divise(somme, etude.NombrePoints));
+    for (long k = 1; k <= etude.resultats.NombrePoints; ++k) somme += etude.resultats.Points[k].VitesseGalet;
+    etude.resultats.VitesseGaletMoyenne = Int(Divise(somme, etude.resultats.NombrePoints));
 }
 
 /// Walks the zones and calculates each point.
@@ -75,21 +75,21 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
     RemetExtremes();
     std::int16_t decalage = 0;
     long atteint = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
         if (!marche.loiDeFichier) AppliqueLoi(z);
-        const Zone& zone = etude.Zones[z];
-        if (z == 1) etude.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;
-        const double depart = etude.Zones[z - 1].*marche.valeurFinale;
+        const Zone& zone = etude.donnees.Zones[z];
+        if (z == 1) etude.donnees.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;
+        const double depart = etude.donnees.Zones[z - 1].*marche.valeurFinale;
         const double origine = marche.coursesSuivies ? depart : zone.*marche.valeurDepart;
         const Parcours parcours{CourseSignee(origine, zone.*marche.valeurFinale), depart, zone.Temps};
         if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
         // The last point of a zone is written again by the first of the next.
         for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
             const long k = decalage + j;
-            Point& p = etude.Points[k];
-            p.Angle = static_cast<double>(k) / etude.PointsParDegre;
+            Point& p = etude.resultats.Points[k];
+            p.Angle = static_cast<double>(k) / etude.donnees.PointsParDegre;
             const Lieu lieu{k, marche.reperesIndices ? static_cast<double>(k) : p.Angle};
-            calcule(lieu, etude.LoiUnite[j], parcours);
+            calcule(lieu, etude.lois.LoiUnite[j], parcours);
             if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon))
                 throw ErreurExecution(NumeroErreur::ResultatNonFini);
             SuitExtremes(p, lieu.repere);
@@ -98,6 +98,6 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
         decalage = Entier16(decalage + zone.AngleCame);
     }
     // Rounding may have made room for a point that no zone reached.
-    if (atteint != etude.NombrePoints) throw ErreurExecution(NumeroErreur::PointsIncomplets);
+    if (atteint != etude.resultats.NombrePoints) throw ErreurExecution(NumeroErreur::PointsIncomplets);
     CalculeVitesseGaletMoyenne();
 }

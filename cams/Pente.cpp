@@ -3,9 +3,9 @@
 #include "core/Etude.h"
 
 double Pente(double angleTangent) {
-    return angleTangent * 180.0 / Pi - (etude.Developpee ? 0.0 : 90.0);
+    return angleTangent * 180.0 / Pi - (etude.resultats.Developpee ? 0.0 : 90.0);
 }
 
 double PenteMaxi() {
-    return Pente(etude.AngleTangentMax);
+    return Pente(etude.resultats.AngleTangentMax);
 }

@@ -1,21 +1,21 @@
 #include "cams/Pipeline.h"
 
 ZonesEnPoints::ZonesEnPoints() {
-    for (const Zone& zone : etude.Zones) degres_.push_back(zone.AngleCame);
+    for (const Zone& zone : etude.donnees.Zones) degres_.push_back(zone.AngleCame);
 }
 
 ZonesEnPoints::~ZonesEnPoints() {
     std::size_t z = 0;
-    for (Zone& zone : etude.Zones)
+    for (Zone& zone : etude.donnees.Zones)
         if (z < degres_.size()) zone.AngleCame = degres_[z++];
 }
 
 void ZonesEnPoints::Passe() {
-    etude.NombrePoints = 0;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        Zone& zone = etude.Zones[z];
-        zone.AngleCame = zone.AngleCame * etude.PointsParDegre;
-        etude.NombrePoints = Entier16(etude.NombrePoints + Arrondi(zone.AngleCame));
+    etude.resultats.NombrePoints = 0;
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+        Zone& zone = etude.donnees.Zones[z];
+        zone.AngleCame = zone.AngleCame * etude.donnees.PointsParDegre;
+        etude.resultats.NombrePoints = Entier16(etude.resultats.NombrePoints + Arrondi(zone.AngleCame));
     }
 }
 
@@ -23,12 +23,12 @@ namespace {
 
 /// Takes the tables of a calculation that a run-time failure stopped out of reach: nobody is to read them as results.
 void OublieResultats() {
-    etude.Points = {};
-    etude.Mouvement = {};
-    etude.Profil = {};
-    etude.NombrePoints = 0;
-    etude.ResultatsPrets = Faux;
-    etude.Erreur = Vrai;
+    etude.resultats.Points = {};
+    etude.resultats.Mouvement = {};
+    etude.resultats.Profil = {};
+    etude.resultats.NombrePoints = 0;
+    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.Erreur = Vrai;
 }
 
 } // namespace
@@ -37,12 +37,12 @@ void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes
     ZonesEnPoints zones;
     try {
         zones.Passe();
-        etude.Points.Redimensionne(etude.NombrePoints);
-        etude.Mouvement.Redimensionne(nature.bras ? etude.NombrePoints : -1);
-        etude.Profil.Redimensionne(etude.NombrePoints);
-        etude.Developpee = nature.developpee;
-        etude.ProfilExterieur = nature.profilExterieur;
-        etude.Erreur = Faux;
+        etude.resultats.Points.Redimensionne(etude.resultats.NombrePoints);
+        etude.resultats.Mouvement.Redimensionne(nature.bras ? etude.resultats.NombrePoints : -1);
+        etude.resultats.Profil.Redimensionne(etude.resultats.NombrePoints);
+        etude.resultats.Developpee = nature.developpee;
+        etude.resultats.ProfilExterieur = nature.profilExterieur;
+        etude.resultats.Erreur = Faux;
         for (const Etape etape : etapes) {
             etape();
             if (!SansErreur()) return;

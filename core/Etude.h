@@ -87,7 +87,8 @@ struct PointProfil {
     double RayonCourbureExterieur = 0;
 };
 
-struct Etude {
+/// What is entered for a study, on a data screen or from a file. The same names serve every kind of cam that has them.
+struct DonneesEtude {
     std::string TypeCame;   ///< "Angulaire", "Lineaire", "Cylindrique", "Oscillation" or "ConjuguesOscillation"
     std::string NomFichier; ///< file name of the study without its directory
 
@@ -103,32 +104,20 @@ struct Etude {
     double ForceX = 0, ForceY = 0;             ///< outer forces at A, N
     double EpaisseurCame = 0;                  ///< mm
     double DiametreCame = 0;                   ///< of a cylindrical cam, mm
-    double CoupleConstantO1 = 0;               ///< constant torques about O1, N m
-    double RayonBrasR1 = 0, RayonGaletG1 = 0;  ///< arm and roller of the guide cam of a conjugate pair, mm
-    double RayonBrasR2 = 0, RayonGaletG2 = 0;  ///< arm and roller of the follower cam, mm
-    double AngleBras = 0;                      ///< between the two arms of a conjugate pair, degrees
-    double InertieO1 = 0;                      ///< inertia driven at O1, kg m²
+    double InertieMasseA = 0;    ///< driven by a cylindrical cam's arm; the plane arm cam's stage works it out
+    double CoupleConstantO1 = 0; ///< constant torques about O1, N m
+    double RayonBrasR1 = 0, RayonGaletG1 = 0; ///< arm and roller of the guide cam of a conjugate pair, mm
+    double RayonBrasR2 = 0, RayonGaletG2 = 0; ///< arm and roller of the follower cam, mm
+    double AngleBras = 0;                     ///< between the two arms of a conjugate pair, degrees
+    double InertieO1 = 0;                     ///< inertia driven at O1, kg m²
 
     std::int16_t NombreZones = 0;
     std::int16_t PointsParDegre = 0; ///< 1, 2, 4, 5, 8 or 10
-    std::int16_t NombrePoints = 0;   ///< last subscript of the point tables
     std::int16_t ZoneCourante = 0;   ///< zone shown on the data screen
-
-    Tableau<Zone> Zones; ///< 0..NombreZones; element 0 holds only the value that zone 1 starts from
+    Tableau<Zone> Zones;             ///< 0..NombreZones; element 0 holds only the value that zone 1 starts from
     Tableau<Zone> ZonesConjuguees;
-    Tableau<PointLoi> LoiUnite; ///< unit law of one zone: course 0 to 1 and its two derivatives
-    Tableau<PointLoi> Mouvement;
-    Tableau<Point> Points;
-    Tableau<PointProfil> Profil;
-    bool Developpee = false;     ///< the curves are those of a developed cylinder
-    bool ProfilExterieur = true; ///< `Profil` has an outer profile
 
-    Tableau<Loi> ListeLois; ///< 0..NombreLois, row 0 empty
-    std::int16_t NombreLois = 0;
-    Loi LoiEtude;           ///< the row that a law study works on
-    std::string LoiChoisie; ///< key of the law picked in a chooser
-
-    // Inputs of a law study.
+    // Of a law study.
     double AngleIndexage = 0;               ///< cam angle of the motion, degrees
     double AngleAvanceRapide = 0;           ///< its part in fast advance
     double AngleMontee = 0;                 ///< cam angle of the rise, degrees
@@ -140,28 +129,6 @@ struct Etude {
     double PourcentageLoi = 0;              ///< share at constant speed of a custom law, %
     double ExcentriciteLiq = 0;             ///< coefficient A of the first rise of the law for liquids
     Booleen16 SortieEnDegres = Faux;        ///< the output is an angle
-
-    // The angle of a maximum is a cam angle in whole degrees; on a cylindrical cam it is the subscript of its point.
-    double RayonMax = 0, RayonMin = 0; ///< mm
-    double VitesseRayonMax = 0, AccelRayonMax = 0;
-    std::int16_t VitesseRayonMaxAngle = 0, AccelRayonMaxAngle = 0;
-    double LoiCourseMax = 0, LoiVitesseMax = 0, LoiAccelMax = 0;
-    std::int16_t LoiVitesseMaxAngle = 0, LoiAccelMaxAngle = 0;
-    double VitesseGaletMax = 0, VitesseGaletMoyenne = 0; ///< Tr/min
-    double ForceGaletMax = 0, CoupleMax = 0;
-    std::int16_t ForceGaletMaxAngle = 0, CoupleMaxAngle = 0;
-    double AngleTangentMax = 0;                                 ///< of largest magnitude, signed, radians
-    double RayonCourbureMin = 0;                                ///< smallest magnitude, mm
-    double InertieBras = 0, InertieMasseA = 0, InertieCame = 0; ///< kg m²
-    double MasseCame = 0;                                       ///< kg
-    double CoupleDemarrage = 0;                                 ///< torque to start in 0.25 s, N m
-    double AngleDemarrage = 0;                                  ///< cam angle run through meanwhile, degrees
-
-    Booleen16 Erreur = Faux;          ///< a pipeline stage runs only while it is clear
-    Booleen16 EtudeModifiee = Faux;   ///< calculated from a data screen; saving needs it
-    Booleen16 ResultatsPrets = Faux;  ///< results exist; printing needs it
-    Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
-    double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
     std::string TypeLoi; ///< law screen in use: "LoiMouv", "LoiHesser", "LoiLiquide", "LoiSpecial", "LoiMSHDis"
 
     // Which law screen is open: the print command goes to it.
@@ -169,14 +136,80 @@ struct Etude {
               LoiHesActive = Faux;
 };
 
+/// What a calculation makes of them. A copy is a whole set of results.
+struct ResultatsEtude {
+    std::int16_t NombrePoints = 0; ///< last subscript of the point tables
+    Tableau<PointLoi> Mouvement;
+    Tableau<Point> Points;
+    Tableau<PointProfil> Profil;
+    bool Developpee = false;     ///< the curves are those of a developed cylinder
+    bool ProfilExterieur = true; ///< `Profil` has an outer profile
+
+    // The angle of a maximum is a cam angle in whole degrees; on a cylindrical cam it is the subscript of its point.
+    double RayonMax = 0, RayonMin = 0; ///< mm
+    double VitesseRayonMax = 0, AccelRayonMax = 0;
+    std::int16_t VitesseRayonMaxAngle = 0, AccelRayonMaxAngle = 0;
+    double VitesseGaletMoyenne = 0; ///< Tr/min
+    double ForceGaletMax = 0, CoupleMax = 0;
+    std::int16_t ForceGaletMaxAngle = 0, CoupleMaxAngle = 0;
+    double AngleTangentMax = 0;              ///< of largest magnitude, signed, radians
+    double RayonCourbureMin = 0;             ///< smallest magnitude, mm
+    double InertieBras = 0, InertieCame = 0; ///< kg m²
+    double MasseCame = 0;                    ///< kg
+    double CoupleDemarrage = 0;              ///< torque to start in 0.25 s, N m
+    double AngleDemarrage = 0;               ///< cam angle run through meanwhile, degrees
+
+    Booleen16 Erreur = Faux;          ///< a pipeline stage runs only while it is clear
+    Booleen16 EtudeModifiee = Faux;   ///< calculated from a data screen; saving needs it
+    Booleen16 ResultatsPrets = Faux;  ///< results exist; printing needs it
+    Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
+    double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
+};
+
+/// The catalogue of laws as it is by now, and the law at work.
+struct LoisEtude {
+    Tableau<Loi> ListeLois; ///< 0..NombreLois, row 0 empty
+    std::int16_t NombreLois = 0;
+    bool DeFichier = false;     ///< a law file has filled `LoiUnite` and left the catalogue with its one row
+    std::string LoiChoisie;     ///< key of the law picked in a chooser
+    Loi LoiEtude;               ///< the row that a law study works on
+    Tableau<PointLoi> LoiUnite; ///< unit law of one zone: course 0 to 1 and its two derivatives
+};
+
+/// Maxima that go on growing from one calculation to the next while the program runs.
+struct DurablesEtude {
+    double LoiCourseMax = 0, LoiVitesseMax = 0, LoiAccelMax = 0;
+    std::int16_t LoiVitesseMaxAngle = 0, LoiAccelMaxAngle = 0;
+    double VitesseGaletMax = 0; ///< Tr/min
+};
+
+/// The record, its parts named by their life: the first two go with the study, the others stay until the program ends.
+struct Etude {
+    DonneesEtude donnees;
+    ResultatsEtude resultats;
+    LoisEtude lois;
+    DurablesEtude durables;
+};
+
 /// The one study of the running process.
 extern Etude etude;
 
 /// True while the flag of the running calculation is clear.
 inline bool SansErreur() {
-    return static_cast<std::uint16_t>(etude.Erreur) < 65535;
+    return static_cast<std::uint16_t>(etude.resultats.Erreur) < 65535;
 }
 
-/// Empties the study record for another study. What lives as long as the program stays: the catalogue of laws as it is
-/// by now, the law last chosen, the last unit law, and the maxima that go on growing from one calculation to the next.
+/// The value of a member, whatever part of the record it stands in.
+template <class T> T& ValeurDe(T DonneesEtude::*membre) {
+    return etude.donnees.*membre;
+}
+template <class T> T& ValeurDe(T ResultatsEtude::*membre) {
+    return etude.resultats.*membre;
+}
+template <class T> T& ValeurDe(T DurablesEtude::*membre) {
+    return etude.durables.*membre;
+}
+
+/// Empties the study record for another study: its data and its results. The laws stay as they are by now, and so do
+/// the maxima that go on growing.
 void VideEtude();

@@ -19,7 +19,7 @@ constexpr double RayonPivot = 8; ///< room around the pivot, mm
 constexpr Trait traitGraduation{Couleur::Graduation, 1.0}, traitRepere{Couleur::Repere, 1.0, true};
 
 bool ABras() {
-    return !etude.Mouvement.Vide();
+    return !etude.resultats.Mouvement.Vide();
 }
 
 /// What the drawing covers: the sheet, and the pivot of the arm wherever it is carried.
@@ -30,7 +30,7 @@ struct Etendue {
 Etendue CalculeEtendue(const Developpee& d) {
     Etendue e{{0, d.bas}, {d.largeur, d.haut}};
     if (!ABras()) return e;
-    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
+    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
         const PointDessin pivot = PivotDeveloppe(i);
         e.bas = {std::min(e.bas.x, pivot.x - RayonPivot), std::min(e.bas.y, pivot.y - RayonPivot)};
         e.haut = {std::max(e.haut.x, pivot.x + RayonPivot), std::max(e.haut.y, pivot.y + RayonPivot)};
@@ -61,7 +61,7 @@ void DessineTours(PlanDessin& plan, const Developpee& d) {
 void DessineSuiveur(Dessin& dessin, PlanDessin& plan, const Developpee& d, long i) {
     const PointDessin P = CentreGaletDeveloppe(i);
     plan.Ligne({P.x, d.bas}, {P.x, d.haut}, traitRepere);
-    plan.Disque(P, etude.RayonGalet, {Couleur::Galet, 1.8});
+    plan.Disque(P, etude.donnees.RayonGalet, {Couleur::Galet, 1.8});
     if (ABras()) {
         const PointDessin O1 = PivotDeveloppe(i), place = plan(O1);
         plan.Ligne(O1, P, {Couleur::Bras, 2.4});
@@ -70,8 +70,8 @@ void DessineSuiveur(Dessin& dessin, PlanDessin& plan, const Developpee& d, long 
     }
     dessin.Disque(plan(P), 2.5, {Couleur::Axe, 1.2});
     const PointDessin tete = plan({P.x, d.haut});
-    const std::string position =
-        Format(etude.Points[i].Angle, "##0") + "°   " + Texte(244) + " " + Format(P.y, "0.00") + " " + Texte(UniteMm);
+    const std::string position = Format(etude.resultats.Points[i].Angle, "##0") + "°   " + Texte(244) + " " +
+                                 Format(P.y, "0.00") + " " + Texte(UniteMm);
     const double demi = dessin.LargeurTexte(position, HauteurTexte) / 2 + 4;
     const double x = std::clamp(tete.x, demi, std::max(demi, dessin.Largeur() - demi));
     dessin.Texte({x, tete.y - HauteurTexte}, position, Ancrage::Centre, HauteurTexte, Couleur::Repere);
@@ -88,8 +88,8 @@ constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
 void DessinProfilCyl(Dessin& dessin, double angle) {
     const Developpee d = CalculeDeveloppee();
     if (d.tours.empty()) return;
-    const long i =
-        std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
+    const long i = std::clamp(static_cast<long>(Arrondi(angle * etude.donnees.PointsParDegre)), 0L,
+                              static_cast<long>(etude.resultats.NombrePoints));
     const Etendue etendue = CalculeEtendue(d);
     PlanDessin plan(dessin, etendue.bas, etendue.haut, Marge, Bandeau);
     DessineFeuille(dessin, plan, d);

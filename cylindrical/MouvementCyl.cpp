@@ -12,13 +12,13 @@ namespace {
 
 /// Peripheral speed of the cam, m/s.
 double VitessePeripherique() {
-    return 2.0 * etude.VitesseCame * Pi / 60.0 * etude.DiametreCame / 2.0 / 1000.0;
+    return 2.0 * etude.donnees.VitesseCame * Pi / 60.0 * etude.donnees.DiametreCame / 2.0 / 1000.0;
 }
 
 /// Roller speed in Tr/min, rounded down. @param V peripheral speed of the cam, m/s
 double VitesseGalet(double V, double vitesseRayon) {
     const double vitesse = std::sqrt(V * V + vitesseRayon * vitesseRayon);
-    return Int(Divise((60.0 / (2.0 * Pi)) * vitesse, etude.RayonGalet / 1000.0));
+    return Int(Divise((60.0 / (2.0 * Pi)) * vitesse, etude.donnees.RayonGalet / 1000.0));
 }
 
 /// A row of the motion of a zone, from its row of the unit law.
@@ -30,11 +30,11 @@ PointLoi LigneMouvement(const PointLoi& unite, const Parcours& zone) {
 } // namespace
 
 void MouvementCyl() {
-    etude.VitesseGaletMax = 0;
+    etude.durables.VitesseGaletMax = 0;
     const double V = VitessePeripherique();
     DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, LoiDeFichier(), true, true},
                  [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
-                     Point& p = etude.Points[lieu.k];
+                     Point& p = etude.resultats.Points[lieu.k];
                      const PointLoi m = LigneMouvement(unite, zone);
                      p.Rayon = m.Course;
                      p.VitesseRayon = m.Vitesse;
@@ -44,30 +44,32 @@ void MouvementCyl() {
 }
 
 void MouvementCylOsc() {
-    etude.VitesseGaletMax = 0;
-    etude.LoiVitesseMax = 0;
-    etude.LoiAccelMax = 0;
+    etude.durables.VitesseGaletMax = 0;
+    etude.durables.LoiVitesseMax = 0;
+    etude.durables.LoiAccelMax = 0;
     const double V = VitessePeripherique();
     DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), true, true},
                  [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
-                     Point& p = etude.Points[lieu.k];
-                     PointLoi& m = etude.Mouvement[lieu.k];
+                     Point& p = etude.resultats.Points[lieu.k];
+                     PointLoi& m = etude.resultats.Mouvement[lieu.k];
                      m = LigneMouvement(unite, zone);
-                     SuitMaximum(m.Vitesse, lieu.repere, etude.LoiVitesseMax, etude.LoiVitesseMaxAngle);
-                     SuitMaximum(m.Accel, lieu.repere, etude.LoiAccelMax, etude.LoiAccelMaxAngle);
-                     p.Rayon = etude.RayonO1P * std::sin(m.Course * Pi / 180.0);
-                     p.VitesseRayon = etude.RayonO1P * m.Vitesse / 1000.0;
-                     p.AccelRayon = etude.RayonO1P * m.Accel / 1000.0;
+                     SuitMaximum(m.Vitesse, lieu.repere, etude.durables.LoiVitesseMax,
+                                 etude.durables.LoiVitesseMaxAngle);
+                     SuitMaximum(m.Accel, lieu.repere, etude.durables.LoiAccelMax, etude.durables.LoiAccelMaxAngle);
+                     p.Rayon = etude.donnees.RayonO1P * std::sin(m.Course * Pi / 180.0);
+                     p.VitesseRayon = etude.donnees.RayonO1P * m.Vitesse / 1000.0;
+                     p.AccelRayon = etude.donnees.RayonO1P * m.Accel / 1000.0;
                      p.VitesseGalet = VitesseGalet(V, p.VitesseRayon);
                  });
     // The cam is as thick as the roller's travel and one roller, with 5 mm at either edge.
     const double X = AngleBrasExtreme() * Pi / 180.0;
-    etude.EpaisseurCame = Val(Format(etude.RayonO1P * std::sin(X) + 2.0 * etude.RayonGalet + 10.0, "####.##"));
-    etude.RayonMax = etude.EpaisseurCame;
+    etude.donnees.EpaisseurCame =
+        Val(Format(etude.donnees.RayonO1P * std::sin(X) + 2.0 * etude.donnees.RayonGalet + 10.0, "####.##"));
+    etude.resultats.RayonMax = etude.donnees.EpaisseurCame;
 }
 
 double AngleBrasExtreme() {
     double extreme = 0;
-    for (const PointLoi& m : etude.Mouvement) extreme = std::max(extreme, std::abs(m.Course));
+    for (const PointLoi& m : etude.resultats.Mouvement) extreme = std::max(extreme, std::abs(m.Course));
     return extreme;
 }

@@ -86,8 +86,9 @@ Tableau<Loi> LitLois() {
 }
 
 void ChargeLois() {
-    etude.ListeLois = LitLois();
-    etude.NombreLois = Entier16(static_cast<double>(etude.ListeLois.BorneHaute()));
+    etude.lois.ListeLois = LitLois();
+    etude.lois.DeFichier = false;
+    etude.lois.NombreLois = Entier16(static_cast<double>(etude.lois.ListeLois.BorneHaute()));
 }
 
 bool EstLoiSpe(const std::string& nomLoi) {
@@ -97,15 +98,16 @@ bool EstLoiSpe(const std::string& nomLoi) {
 }
 
 std::int16_t ChercheLoi(const std::string& nomLoi) {
-    for (std::int16_t i = 1; i <= etude.NombreLois && i <= etude.ListeLois.BorneHaute(); ++i)
-        if (etude.ListeLois[i].NomLoi == nomLoi) return i;
+    for (std::int16_t i = 1; i <= etude.lois.NombreLois && i <= etude.lois.ListeLois.BorneHaute(); ++i)
+        if (etude.lois.ListeLois[i].NomLoi == nomLoi) return i;
     return 0;
 }
 
 std::vector<std::string> NomsLoisZones() {
     std::vector<std::string> noms;
-    for (long i = 1; i <= etude.ListeLois.BorneHaute(); ++i)
-        if (etude.ListeLois[i].NomLoi.find("MSH") == std::string::npos) noms.push_back(etude.ListeLois[i].NomLoi);
+    for (long i = 1; i <= etude.lois.ListeLois.BorneHaute(); ++i)
+        if (etude.lois.ListeLois[i].NomLoi.find("MSH") == std::string::npos)
+            noms.push_back(etude.lois.ListeLois[i].NomLoi);
     return noms;
 }
 
@@ -122,7 +124,7 @@ void CalculeCoefs(Loi& loi, double pourcentage) {
 }
 
 void PrepareLoi(std::int16_t numeroLoi) {
-    PrepareLoi(etude.ListeLois[numeroLoi]);
+    PrepareLoi(etude.lois.ListeLois[numeroLoi]);
 }
 
 void PrepareLoi(Loi& loi) {
@@ -198,17 +200,17 @@ void EvalueLoiSymetrie(double& x) {
 }
 
 void AppliqueLoi(std::int16_t numeroZone) {
-    const Zone& zone = etude.Zones[numeroZone];
+    const Zone& zone = etude.donnees.Zones[numeroZone];
     std::int16_t numeroLoi = numeroZone;
     if (EstLoiSpe(zone.NomLoi)) {
         // The row of the zone's own number is overwritten, on purpose: a later zone that names the law of that row gets
         // these coefficients, until the program is started again.
-        CalculeCoefs(etude.ListeLois[numeroLoi], PourcentageLoiSpe(zone.NomLoi));
+        CalculeCoefs(etude.lois.ListeLois[numeroLoi], PourcentageLoiSpe(zone.NomLoi));
     } else {
-        etude.Erreur = Faux;
-        for (numeroLoi = 1; etude.ListeLois[numeroLoi].NomLoi != zone.NomLoi;) ++numeroLoi;
+        etude.resultats.Erreur = Faux;
+        for (numeroLoi = 1; etude.lois.ListeLois[numeroLoi].NomLoi != zone.NomLoi;) ++numeroLoi;
     }
-    RemplitTable(etude.ListeLois[numeroLoi], zone.CoefSymetrie, zone.AngleCame, etude.LoiUnite);
+    RemplitTable(etude.lois.ListeLois[numeroLoi], zone.CoefSymetrie, zone.AngleCame, etude.lois.LoiUnite);
 }
 
 void RemplitTable(Loi& loi, double symetrie, double n, Tableau<PointLoi>& table) {

@@ -102,9 +102,10 @@ const ChoixLoi* TrouveChoixLoi(std::string_view cle) {
 }
 
 std::string TitreLoiChoisie() {
-    const auto trouve = std::find_if(std::begin(choix), std::end(choix),
-                                     [](const ChoixLoi& c) { return c.loi != nullptr && etude.LoiChoisie == c.loi; });
-    if (trouve == std::end(choix)) return etude.LoiChoisie;
+    const auto trouve = std::find_if(std::begin(choix), std::end(choix), [](const ChoixLoi& c) {
+        return c.loi != nullptr && etude.lois.LoiChoisie == c.loi;
+    });
+    if (trouve == std::end(choix)) return etude.lois.LoiChoisie;
     const std::string& famille = Texte(trouve->famille);
     return trouve->part == nullptr ? famille : famille + trouve->part + Texte(TexteVitesseConstante);
 }

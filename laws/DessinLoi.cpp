@@ -56,7 +56,9 @@ struct Boite {
     double mini = 0, maxi = 0, pas = 1; ///< values at the edges, step between graduations
 
     double Y(double valeur) const { return bas - (bas - haut) * (valeur - mini) / (maxi - mini); }
-    double X(long i) const { return gauche + (droite - gauche) * static_cast<double>(i) / etude.NombrePoints; }
+    double X(long i) const {
+        return gauche + (droite - gauche) * static_cast<double>(i) / etude.resultats.NombrePoints;
+    }
 
     /// From graduation to graduation around the values, with room for the marks of the extremes; around 0 too, unless
     /// the values lie far from it.
@@ -92,7 +94,7 @@ std::string TexteExtreme(double valeur) {
 }
 
 void DessineAngles(Dessin& dessin, const Boite& b, bool nombres) {
-    const double total = static_cast<double>(etude.NombrePoints) / etude.PointsParDegre;
+    const double total = static_cast<double>(etude.resultats.NombrePoints) / etude.donnees.PointsParDegre;
     const double pas = PasGraduationAngle(total, 13);
     for (double angle = 0; angle <= total + 1e-9; angle += pas) {
         const double x = b.gauche + (b.droite - b.gauche) * angle / total;
@@ -117,9 +119,9 @@ void DessineValeurs(Dessin& dessin, const Boite& b) {
 
 /// A dot on the curve, its value and its cam angle beside it, inside the graph.
 void MarqueExtreme(Dessin& dessin, const Boite& b, const CourbeLoi& courbe, long i, bool dessus) {
-    const double valeur = etude.Mouvement[i].*courbe.membre;
+    const double valeur = etude.resultats.Mouvement[i].*courbe.membre;
     const PointDessin p{b.X(i), b.Y(valeur)};
-    const std::string texte = TexteExtreme(valeur) + "  (" + StrTrim(etude.Points[i].Angle) + "°)";
+    const std::string texte = TexteExtreme(valeur) + "  (" + StrTrim(etude.resultats.Points[i].Angle) + "°)";
     const double demi = dessin.LargeurTexte(texte, b.texte) / 2;
     dessin.Disque(p, 0.28 * b.texte, {courbe.couleur, 0.15 * b.texte});
     dessin.Texte({std::clamp(p.x, b.gauche + demi, b.droite - demi), p.y + (dessus ? -1.0 : 1.0) * b.texte}, texte,
@@ -127,10 +129,10 @@ void MarqueExtreme(Dessin& dessin, const Boite& b, const CourbeLoi& courbe, long
 }
 
 void DessineCourbe(Dessin& dessin, Boite b, const CourbeLoi& courbe, bool derniere) {
-    const Extremes extremes = ChercheExtremes(etude.Mouvement, courbe.membre);
-    const double zero = Arrondi0 * PlusGrand(etude.Mouvement, extremes, courbe.membre);
+    const Extremes extremes = ChercheExtremes(etude.resultats.Mouvement, courbe.membre);
+    const double zero = Arrondi0 * PlusGrand(etude.resultats.Mouvement, extremes, courbe.membre);
     const auto valeur = [&](long i) {
-        const double v = etude.Mouvement[i].*courbe.membre;
+        const double v = etude.resultats.Mouvement[i].*courbe.membre;
         return std::abs(v) < zero ? 0.0 : v;
     };
     const double mini = valeur(extremes.mini), maxi = valeur(extremes.maxi);
@@ -141,8 +143,9 @@ void DessineCourbe(Dessin& dessin, Boite b, const CourbeLoi& courbe, bool dernie
                  Texte(courbe.texte) + " (" + Texte(UniteLoi(courbe.grandeur)) + ")", Ancrage::Gauche, b.texte,
                  courbe.couleur);
     std::vector<PointDessin> points;
-    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
-    for (long i = 0; i <= etude.NombrePoints; ++i) points.push_back({b.X(i), b.Y(etude.Mouvement[i].*courbe.membre)});
+    points.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints) + 1);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i)
+        points.push_back({b.X(i), b.Y(etude.resultats.Mouvement[i].*courbe.membre)});
     dessin.Polyligne(points, {courbe.couleur, 0.14 * b.texte});
     // The value that the lift starts from was typed in, and 0 is on the axis.
     const auto marque = [&](long i) { return valeur(i) != 0.0 && (i > 0 || courbe.membre != &PointLoi::Course); };
@@ -193,7 +196,9 @@ void DessineNomsCourbes(Dessin& dessin) {
 }
 
 void DessineCourbes(Dessin& dessin) {
-    if (etude.Mouvement.BorneHaute() < 1 || etude.Mouvement.BorneHaute() != etude.NombrePoints) return;
+    if (etude.resultats.Mouvement.BorneHaute() < 1 ||
+        etude.resultats.Mouvement.BorneHaute() != etude.resultats.NombrePoints)
+        return;
     const double texte = std::min(dessin.Largeur() / 62, dessin.Hauteur() / 54);
     const double pied = 3.2 * texte, titre = 2.2 * texte;
     const double hauteur = (dessin.Hauteur() - pied) / static_cast<double>(std::size(courbes));

@@ -35,7 +35,7 @@ std::optional<std::string> EnregistreLoi(const std::string& nom) {
     const GenreFichier* genre = DemandeGenre();
     if (genre == nullptr) return {};
     // A reader takes the first 720 points and no more: a longer law would be cut without a word.
-    if (genre->compose == ComposeFichierLoi && etude.NombrePoints > PointsLoiFichier) {
+    if (genre->compose == ComposeFichierLoi && etude.resultats.NombrePoints > PointsLoiFichier) {
         LesDialogues().Message(Icone::Avertissement, Texte(800));
         return {};
     }

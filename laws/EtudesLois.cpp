@@ -23,10 +23,10 @@ bool SansMSH() {
 
 // What the tables of inputs and results have in common.
 constexpr ChampLoi ChampVitesse(const char* controle) {
-    return {controle, "VitesseEntree", 327, 0, Grandeur::Tours, &Etude::VitesseEntree};
+    return {controle, "VitesseEntree", 327, 0, Grandeur::Tours, &DonneesEtude::VitesseEntree};
 }
-constexpr ChampLoi champAngle{"Text1", "AngleIndexage", 270, 0, Grandeur::AngleEntree, &Etude::AngleIndexage};
-constexpr ChampLoi champSortie{"Text2", "AngleSortie", 364, 365, Grandeur::Sortie, &Etude::ValeurFin};
+constexpr ChampLoi champAngle{"Text1", "AngleIndexage", 270, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage};
+constexpr ChampLoi champSortie{"Text2", "AngleSortie", 364, 365, Grandeur::Sortie, &DonneesEtude::ValeurFin};
 
 constexpr ValeurLoi coefAccel{"CoefAccel", 320, Grandeur::Nombre, &ResultatLoi::CoefAccel, MasqueCoefficient};
 constexpr ValeurLoi coefVitesse{"CoefVitesse", 321, Grandeur::Nombre, &ResultatLoi::CoefVitesse, MasqueCoefficient};
@@ -34,28 +34,28 @@ constexpr ValeurLoi vitesseMaxi{"VitesseMaxi", 332, Grandeur::Vitesse, &Resultat
 constexpr ValeurLoi accelMaxi{"AccelerationMaxi", 333, Grandeur::Accel, &ResultatLoi::AccelerationMaxi, MasqueValeur};
 constexpr ValeurLoi duree{"Duree", 334, Grandeur::Duree, &ResultatLoi::Duree, MasqueDuree};
 
-constexpr double Etude::*angleEntier[] = {&Etude::AngleIndexage};
+constexpr double DonneesEtude::*angleEntier[] = {&DonneesEtude::AngleIndexage};
 
-FauteLoi DonneesIncompletes(double Etude::*membre) {
+FauteLoi DonneesIncompletes(double DonneesEtude::*membre) {
     return {Texte(TexteDonneesIncompletes), membre};
 }
 
 /// `LoiUnite` from a law of x, 0..1, over the points.
 template <class Evalue> void RemplitLoiUnite(const Evalue& evalue) {
-    const long n = etude.NombrePoints;
-    etude.LoiUnite.Redimensionne(n);
-    for (long i = 0; i <= n; ++i) etude.LoiUnite[i] = evalue(static_cast<double>(i) / static_cast<double>(n));
+    const long n = etude.resultats.NombrePoints;
+    etude.lois.LoiUnite.Redimensionne(n);
+    for (long i = 0; i <= n; ++i) etude.lois.LoiUnite[i] = evalue(static_cast<double>(i) / static_cast<double>(n));
 }
 
 // ---- laws of the catalogue
 
 constexpr ChampLoi champsMouv[] = {
-    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &Etude::SymetrieLoi, true, SansMSH},
-    {"Text1", "AngleIndexage", 324, 0, Grandeur::AngleEntree, &Etude::AngleIndexage},
-    {"Text2", "ValeurDepart", 325, 0, Grandeur::Sortie, &Etude::ValeurDepart, true},
-    {"Text3", "ValeurFin", 326, 0, Grandeur::Sortie, &Etude::ValeurFin, true},
+    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &DonneesEtude::SymetrieLoi, true, SansMSH},
+    {"Text1", "AngleIndexage", 324, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage},
+    {"Text2", "ValeurDepart", 325, 0, Grandeur::Sortie, &DonneesEtude::ValeurDepart, true},
+    {"Text3", "ValeurFin", 326, 0, Grandeur::Sortie, &DonneesEtude::ValeurFin, true},
     ChampVitesse("Text4"),
-    {"Text5", "Pourcentage", 73, 0, Grandeur::Pourcentage, &Etude::PourcentageLoi, false, LoiChoisieSpe},
+    {"Text5", "Pourcentage", 73, 0, Grandeur::Pourcentage, &DonneesEtude::PourcentageLoi, false, LoiChoisieSpe},
 };
 constexpr ValeurLoi valeursMouv[] = {
     {"CoefA", 568, Grandeur::Nombre, &ResultatLoi::CoefA, MasqueCoefficient},
@@ -71,44 +71,45 @@ constexpr ValeurLoi valeursMouv[] = {
 
 /// The law chosen: the custom one from its percentage, any other as the catalogue has it by now.
 Loi LigneChoisie() {
-    if (!LoiChoisieSpe()) return etude.ListeLois[ChercheLoi(etude.LoiChoisie)];
+    if (!LoiChoisieSpe()) return etude.lois.ListeLois[ChercheLoi(etude.lois.LoiChoisie)];
     Loi loi;
-    loi.NomLoi = etude.LoiChoisie + "_" + StrTrim(etude.PourcentageLoi);
-    CalculeCoefs(loi, etude.PourcentageLoi);
+    loi.NomLoi = etude.lois.LoiChoisie + "_" + StrTrim(etude.donnees.PourcentageLoi);
+    CalculeCoefs(loi, etude.donnees.PourcentageLoi);
     return loi;
 }
 
 std::optional<FauteLoi> ChercheFauteMouv() {
     // A law file that was read leaves no other law in the catalogue.
-    if (!LoiChoisieSpe() && ChercheLoi(etude.LoiChoisie) == 0)
-        return FauteLoi{Texte(521) + " " + etude.LoiChoisie + " " + Texte(103), &Etude::AngleIndexage};
-    const double S = etude.SymetrieLoi;
-    if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &Etude::SymetrieLoi};
-    if (etude.ValeurDepart <= 0.0 && etude.ValeurFin <= 0.0)
-        return FauteLoi{Texte(101) + " " + Texte(102), &Etude::ValeurDepart};
-    const double pourcentage = LoiChoisieSpe() ? etude.PourcentageLoi : 1.0;
-    if (etude.VitesseEntree * etude.AngleIndexage * pourcentage == 0.0 || pourcentage >= 100.0)
-        return DonneesIncompletes(&Etude::AngleIndexage);
-    if (S == 0.0 && !LoiChoisieMSH()) return FauteLoi{Texte(197), &Etude::SymetrieLoi}; // the rise would take no time
+    if (!LoiChoisieSpe() && ChercheLoi(etude.lois.LoiChoisie) == 0)
+        return FauteLoi{Texte(521) + " " + etude.lois.LoiChoisie + " " + Texte(103), &DonneesEtude::AngleIndexage};
+    const double S = etude.donnees.SymetrieLoi;
+    if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &DonneesEtude::SymetrieLoi};
+    if (etude.donnees.ValeurDepart <= 0.0 && etude.donnees.ValeurFin <= 0.0)
+        return FauteLoi{Texte(101) + " " + Texte(102), &DonneesEtude::ValeurDepart};
+    const double pourcentage = LoiChoisieSpe() ? etude.donnees.PourcentageLoi : 1.0;
+    if (etude.donnees.VitesseEntree * etude.donnees.AngleIndexage * pourcentage == 0.0 || pourcentage >= 100.0)
+        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
+    if (S == 0.0 && !LoiChoisieMSH())
+        return FauteLoi{Texte(197), &DonneesEtude::SymetrieLoi}; // the rise would take no time
     return {};
 }
 
 /// The row is studied in `LoiEtude`, so that the percentage is taken whole and no row of the catalogue changes.
 void RemplitMouv(ResultatLoi& resultat) {
     const Loi ligne = LigneChoisie();
-    Loi& loi = etude.LoiEtude;
+    Loi& loi = etude.lois.LoiEtude;
     loi = ligne;
     resultat.CoefA = loi.CoefA;
     resultat.CoefB = loi.CoefB;
     resultat.CoefC = loi.CoefC;
     resultat.CoefD = loi.CoefD;
 
-    etude.NombreZones = 1;
-    etude.Zones.Redimensionne(1);
-    Zone& zone = etude.Zones[1];
+    etude.donnees.NombreZones = 1;
+    etude.donnees.Zones.Redimensionne(1);
+    Zone& zone = etude.donnees.Zones[1];
     zone.NomLoi = loi.NomLoi;
-    zone.CoefSymetrie = etude.SymetrieLoi;
-    zone.AngleCame = etude.NombrePoints;
+    zone.CoefSymetrie = etude.donnees.SymetrieLoi;
+    zone.AngleCame = etude.resultats.NombrePoints;
     zone.Temps = resultat.Duree;
     if (LoiChoisieMSH()) {
         // Speed and acceleration are per unit of the rise's share of the angle, and are scaled as if they were per unit
@@ -117,7 +118,7 @@ void RemplitMouv(ResultatLoi& resultat) {
         CalculeLoiMSH();
         zone.CoefSymetrie = 0.5;
     } else {
-        RemplitTable(loi, zone.CoefSymetrie, zone.AngleCame, etude.LoiUnite);
+        RemplitTable(loi, zone.CoefSymetrie, zone.AngleCame, etude.lois.LoiUnite);
     }
     const double S = zone.CoefSymetrie;
     resultat.CoefAccel = S == 0.5 ? loi.Ca : loi.Ca * 0.5 / S;
@@ -133,8 +134,8 @@ constexpr ValeurLoi valeursHesser[] = {
 };
 
 std::optional<FauteLoi> ChercheFauteHesser() {
-    if (etude.AngleIndexage * etude.ValeurFin * etude.VitesseEntree == 0.0)
-        return DonneesIncompletes(&Etude::AngleIndexage);
+    if (etude.donnees.AngleIndexage * etude.donnees.ValeurFin * etude.donnees.VitesseEntree == 0.0)
+        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
     return {};
 }
 
@@ -148,10 +149,10 @@ void RemplitHesser(ResultatLoi& resultat) {
 // ---- fast advance, slow approach
 
 constexpr ChampLoi champsRapide[] = {
-    {"Text1", "AngleTotal", 367, 0, Grandeur::AngleEntree, &Etude::AngleIndexage},
-    {"Text2", "AngleAvanceRapide", 368, 0, Grandeur::AngleEntree, &Etude::AngleAvanceRapide},
-    {"Text3", "SortieTotale", 369, 371, Grandeur::Sortie, &Etude::ValeurFin},
-    {"Text4", "SortieAvanceRapide", 370, 372, Grandeur::Sortie, &Etude::SortieAvanceRapide},
+    {"Text1", "AngleTotal", 367, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage},
+    {"Text2", "AngleAvanceRapide", 368, 0, Grandeur::AngleEntree, &DonneesEtude::AngleAvanceRapide},
+    {"Text3", "SortieTotale", 369, 371, Grandeur::Sortie, &DonneesEtude::ValeurFin},
+    {"Text4", "SortieAvanceRapide", 370, 372, Grandeur::Sortie, &DonneesEtude::SortieAvanceRapide},
     ChampVitesse("Text5"),
 };
 constexpr ValeurLoi valeursRapide[] = {
@@ -167,17 +168,18 @@ constexpr ValeurLoi valeursRapide[] = {
 };
 
 AvanceRapide AvanceDemandee() {
-    return PrepareAvanceRapide(etude.AngleAvanceRapide / etude.AngleIndexage,
-                               etude.SortieAvanceRapide / etude.ValeurFin);
+    return PrepareAvanceRapide(etude.donnees.AngleAvanceRapide / etude.donnees.AngleIndexage,
+                               etude.donnees.SortieAvanceRapide / etude.donnees.ValeurFin);
 }
 
 std::optional<FauteLoi> ChercheFauteRapide() {
-    const bool complet = etude.AngleIndexage * etude.AngleAvanceRapide * etude.ValeurFin * etude.SortieAvanceRapide *
-                             etude.VitesseEntree !=
+    const bool complet = etude.donnees.AngleIndexage * etude.donnees.AngleAvanceRapide * etude.donnees.ValeurFin *
+                             etude.donnees.SortieAvanceRapide * etude.donnees.VitesseEntree !=
                          0.0;
-    if (!complet || !(etude.AngleAvanceRapide < etude.AngleIndexage) || !(etude.SortieAvanceRapide < etude.ValeurFin))
-        return DonneesIncompletes(&Etude::AngleIndexage);
-    if (!AvanceDemandee().place) return FauteLoi{"\n" + Texte(622), &Etude::AngleAvanceRapide};
+    if (!complet || !(etude.donnees.AngleAvanceRapide < etude.donnees.AngleIndexage) ||
+        !(etude.donnees.SortieAvanceRapide < etude.donnees.ValeurFin))
+        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
+    if (!AvanceDemandee().place) return FauteLoi{"\n" + Texte(622), &DonneesEtude::AngleAvanceRapide};
     return {};
 }
 
@@ -198,7 +200,7 @@ constexpr ChampLoi champsLiquide[] = {
     champAngle,
     champSortie,
     ChampVitesse("Text3"),
-    {"Text4", "ExcentriciteLiq", 380, 0, Grandeur::Nombre, &Etude::ExcentriciteLiq},
+    {"Text4", "ExcentriciteLiq", 380, 0, Grandeur::Nombre, &DonneesEtude::ExcentriciteLiq},
 };
 constexpr ValeurLoi valeursLiquide[] = {
     coefAccel,   coefVitesse, {"DecelerationMaxi", 381, Grandeur::Accel, &ResultatLoi::DecelerationMaxi, MasqueValeur},
@@ -206,15 +208,17 @@ constexpr ValeurLoi valeursLiquide[] = {
 };
 
 std::optional<FauteLoi> ChercheFauteLiquide() {
-    if (etude.AngleIndexage * etude.ValeurFin * etude.VitesseEntree * etude.ExcentriciteLiq == 0.0)
-        return DonneesIncompletes(&Etude::AngleIndexage);
+    if (etude.donnees.AngleIndexage * etude.donnees.ValeurFin * etude.donnees.VitesseEntree *
+            etude.donnees.ExcentriciteLiq ==
+        0.0)
+        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
     // At 0.5 nothing is left for the deceleration.
-    if (!(etude.ExcentriciteLiq < 0.5)) return FauteLoi{Texte(382), &Etude::ExcentriciteLiq};
+    if (!(etude.donnees.ExcentriciteLiq < 0.5)) return FauteLoi{Texte(382), &DonneesEtude::ExcentriciteLiq};
     return {};
 }
 
 void RemplitLiquide(ResultatLoi& resultat) {
-    const LoiLiquide loi = PrepareLiquide(etude.ExcentriciteLiq);
+    const LoiLiquide loi = PrepareLiquide(etude.donnees.ExcentriciteLiq);
     RemplitLoiUnite([&](double x) { return EvalueLiquide(loi, x); });
     resultat.CoefAccel = std::max(loi.Ca, loi.Cd);
     resultat.CoefVitesse = loi.Cv;
@@ -224,32 +228,35 @@ void RemplitLiquide(ResultatLoi& resultat) {
 // ---- asymmetric rise and return
 
 constexpr ChampLoi champsDissyme[] = {
-    {"Text1", "AngleMontee", 385, 0, Grandeur::AngleEntree, &Etude::AngleMontee},
-    {"Text2", "AngleDescente", 388, 0, Grandeur::AngleEntree, &Etude::AngleDescente},
-    {"Text3", "Course", 250, 0, Grandeur::Sortie, &Etude::ValeurFin},
+    {"Text1", "AngleMontee", 385, 0, Grandeur::AngleEntree, &DonneesEtude::AngleMontee},
+    {"Text2", "AngleDescente", 388, 0, Grandeur::AngleEntree, &DonneesEtude::AngleDescente},
+    {"Text3", "Course", 250, 0, Grandeur::Sortie, &DonneesEtude::ValeurFin},
     ChampVitesse("Text4"),
 };
 constexpr ValeurLoi valeursDissyme[] = {coefAccel, coefVitesse, vitesseMaxi, accelMaxi, duree};
-constexpr double Etude::*deuxAngles[] = {&Etude::AngleMontee, &Etude::AngleDescente};
+constexpr double DonneesEtude::*deuxAngles[] = {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente};
 
 std::optional<FauteLoi> ChercheFauteDissyme() {
-    if (etude.AngleMontee * etude.AngleDescente * etude.ValeurFin * etude.VitesseEntree == 0.0)
-        return DonneesIncompletes(&Etude::AngleMontee);
-    if (!PrepareMSHDissyme(etude.AngleDescente / etude.AngleMontee).existe)
-        return FauteLoi{Texte(389), &Etude::AngleDescente};
+    if (etude.donnees.AngleMontee * etude.donnees.AngleDescente * etude.donnees.ValeurFin *
+            etude.donnees.VitesseEntree ==
+        0.0)
+        return DonneesIncompletes(&DonneesEtude::AngleMontee);
+    if (!PrepareMSHDissyme(etude.donnees.AngleDescente / etude.donnees.AngleMontee).existe)
+        return FauteLoi{Texte(389), &DonneesEtude::AngleDescente};
     return {};
 }
 
 /// Speed and acceleration of both halves are per unit of the rise's angle, and are scaled by the duration of the whole
 /// motion like those of the other MSH laws: kept on purpose.
 void RemplitDissyme(ResultatLoi& resultat) {
-    const LoiMSHDissyme loi = PrepareMSHDissyme(etude.AngleDescente / etude.AngleMontee);
-    const long n = etude.NombrePoints, sommet = Entier16(etude.AngleMontee * etude.PointsParDegre);
-    etude.LoiUnite.Redimensionne(n);
+    const LoiMSHDissyme loi = PrepareMSHDissyme(etude.donnees.AngleDescente / etude.donnees.AngleMontee);
+    const long n = etude.resultats.NombrePoints,
+               sommet = Entier16(etude.donnees.AngleMontee * etude.donnees.PointsParDegre);
+    etude.lois.LoiUnite.Redimensionne(n);
     for (long i = 0; i <= sommet; ++i)
-        etude.LoiUnite[i] = EvalueMonteeMSH(loi.montee, static_cast<double>(i) / static_cast<double>(sommet));
+        etude.lois.LoiUnite[i] = EvalueMonteeMSH(loi.montee, static_cast<double>(i) / static_cast<double>(sommet));
     for (long i = sommet + 1; i <= n; ++i)
-        etude.LoiUnite[i] = EvalueDescente(loi, static_cast<double>(i - sommet) / static_cast<double>(n - sommet));
+        etude.lois.LoiUnite[i] = EvalueDescente(loi, static_cast<double>(i - sommet) / static_cast<double>(n - sommet));
     resultat.CoefAccel = loi.montee.Ca;
     resultat.CoefVitesse = loi.montee.Cv;
 }
@@ -257,22 +264,22 @@ void RemplitDissyme(ResultatLoi& resultat) {
 // ----
 
 constexpr EtudeLoi etudes[] = {
-    {"LoiMouv", "LoiMouv", nullptr, 0, &Etude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
+    {"LoiMouv", "LoiMouv", nullptr, 0, &DonneesEtude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
      angleEntier, RemplitMouv},
-    {"LoiHes", "LoiHesser", "hesser", 363, &Etude::LoiHesActive, true, champsHesser, valeursHesser, ChercheFauteHesser,
-     angleEntier, RemplitHesser},
-    {"LoiSpe", "LoiSpecial", "avance-rapide", 116, &Etude::LoiSpeActive, true, champsRapide, valeursRapide,
+    {"LoiHes", "LoiHesser", "hesser", 363, &DonneesEtude::LoiHesActive, true, champsHesser, valeursHesser,
+     ChercheFauteHesser, angleEntier, RemplitHesser},
+    {"LoiSpe", "LoiSpecial", "avance-rapide", 116, &DonneesEtude::LoiSpeActive, true, champsRapide, valeursRapide,
      ChercheFauteRapide, angleEntier, RemplitRapide},
-    {"LoisLiq", "LoiLiquide", "liquides", 379, &Etude::LoisLiqActive, true, champsLiquide, valeursLiquide,
+    {"LoisLiq", "LoiLiquide", "liquides", 379, &DonneesEtude::LoisLiqActive, true, champsLiquide, valeursLiquide,
      ChercheFauteLiquide, angleEntier, RemplitLiquide},
-    {"LoiMSHDis", "LoiMSHDis", "msh-dissymetrique", 114, &Etude::LoiMSHDisActive, true, champsDissyme, valeursDissyme,
-     ChercheFauteDissyme, deuxAngles, RemplitDissyme},
+    {"LoiMSHDis", "LoiMSHDis", "msh-dissymetrique", 114, &DonneesEtude::LoiMSHDisActive, true, champsDissyme,
+     valeursDissyme, ChercheFauteDissyme, deuxAngles, RemplitDissyme},
 };
 
 /// A value below 0 where the screen lets none be typed.
 std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
     for (const ChampLoi& champ : loi.champs)
-        if (!champ.signe && etude.*champ.membre < 0.0)
+        if (!champ.signe && etude.donnees.*champ.membre < 0.0)
             return FauteLoi{Texte(champ.Libelle()) + " : " + Texte(196), champ.membre};
     return {};
 }
@@ -281,7 +288,7 @@ std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
 std::optional<FauteLoi> ChercheFautePoints(const EtudeLoi& loi) {
     double points = 0;
     for (const auto angle : loi.angles) {
-        const double n = Arrondi(etude.*angle * etude.PointsParDegre);
+        const double n = Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre);
         if (n < 1.0) return FauteLoi{Texte(794), angle};
         points += n;
     }
@@ -291,18 +298,18 @@ std::optional<FauteLoi> ChercheFautePoints(const EtudeLoi& loi) {
 
 /// The motion of the output: the unit law over the stroke and the duration.
 void DerouleMouvement(ResultatLoi& resultat) {
-    const double depart = etude.ValeurDepart, course = etude.ValeurFin - depart;
-    const double courseSI = etude.SortieEnDegres ? course * Pi / 180.0 : course / 1000.0; // rad or m
+    const double depart = etude.donnees.ValeurDepart, course = etude.donnees.ValeurFin - depart;
+    const double courseSI = etude.donnees.SortieEnDegres ? course * Pi / 180.0 : course / 1000.0; // rad or m
     const double T = resultat.Duree;
     const double parVitesse = Divise(courseSI, T), parAccel = Divise(courseSI, T * T);
-    const long n = etude.NombrePoints;
-    etude.Mouvement.Redimensionne(n);
-    etude.Points.Redimensionne(n);
+    const long n = etude.resultats.NombrePoints;
+    etude.resultats.Mouvement.Redimensionne(n);
+    etude.resultats.Points.Redimensionne(n);
     for (long i = 0; i <= n; ++i) {
-        const PointLoi& unite = etude.LoiUnite[i];
-        PointLoi& point = etude.Mouvement[i];
+        const PointLoi& unite = etude.lois.LoiUnite[i];
+        PointLoi& point = etude.resultats.Mouvement[i];
         point = {depart + course * unite.Course, parVitesse * unite.Vitesse, parAccel * unite.Accel};
-        etude.Points[i].Angle = static_cast<double>(i) / etude.PointsParDegre;
+        etude.resultats.Points[i].Angle = static_cast<double>(i) / etude.donnees.PointsParDegre;
         resultat.VitesseMaxi = std::max(resultat.VitesseMaxi, std::abs(point.Vitesse));
         resultat.AccelerationMaxi = std::max(resultat.AccelerationMaxi, std::abs(point.Accel));
     }
@@ -315,15 +322,15 @@ void DerouleMouvement(ResultatLoi& resultat) {
 } // namespace
 
 bool LoiChoisieSpe() {
-    return EstLoiSpe(etude.LoiChoisie);
+    return EstLoiSpe(etude.lois.LoiChoisie);
 }
 
 bool LoiChoisieMSH() {
-    return etude.LoiChoisie.starts_with("MSH");
+    return etude.lois.LoiChoisie.starts_with("MSH");
 }
 
 int UniteLoi(Grandeur grandeur) {
-    const bool degres = etude.SortieEnDegres != Faux;
+    const bool degres = etude.donnees.SortieEnDegres != Faux;
     switch (grandeur) {
     case Grandeur::Nombre:
         return 0;
@@ -362,21 +369,22 @@ const EtudeLoi* TrouveGenreLoi(std::string_view genre) {
 }
 
 std::optional<FauteLoi> ChercheFauteLoi(const EtudeLoi& loi) {
-    etude.Erreur = Faux;
+    etude.resultats.Erreur = Faux;
     auto faute = ChercheFauteCommune(loi);
     if (!faute) faute = loi.chercheFaute();
     if (!faute) faute = ChercheFautePoints(loi);
-    if (faute) etude.Erreur = Vrai;
+    if (faute) etude.resultats.Erreur = Vrai;
     return faute;
 }
 
 ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi) {
     double points = 0;
-    for (const auto angle : loi.angles) points += Arrondi(etude.*angle * etude.PointsParDegre);
-    etude.NombrePoints = Entier16(points);
+    for (const auto angle : loi.angles) points += Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre);
+    etude.resultats.NombrePoints = Entier16(points);
     ResultatLoi resultat;
     // The motion lasts its whole steps, so that table and speeds agree whatever the angle.
-    resultat.Duree = static_cast<double>(etude.NombrePoints) / etude.PointsParDegre / 6.0 / etude.VitesseEntree;
+    resultat.Duree = static_cast<double>(etude.resultats.NombrePoints) / etude.donnees.PointsParDegre / 6.0 /
+                     etude.donnees.VitesseEntree;
     loi.remplit(resultat);
     DerouleMouvement(resultat);
     return resultat;

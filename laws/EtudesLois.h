@@ -25,13 +25,13 @@ struct ChampLoi {
     int texte;       ///< text number of the label
     int texteMm;     ///< of the label when the output is a length; 0 when it is the same
     Grandeur grandeur;
-    double Etude::*membre;
+    double DonneesEtude::*membre;
     bool signe = false;          ///< a negative value may be typed
     bool (*employe)() = nullptr; ///< whether the law chosen asks for it; none when every law does
 
     bool Employe() const { return employe == nullptr || employe(); }
     /// Text number of the label in the present output unit.
-    int Libelle() const { return texteMm != 0 && !etude.SortieEnDegres ? texteMm : texte; }
+    int Libelle() const { return texteMm != 0 && !etude.donnees.SortieEnDegres ? texteMm : texte; }
 };
 
 /// What a study gives besides its tables.
@@ -57,7 +57,7 @@ struct ValeurLoi {
 /// Why a study is refused, and the input that the focus goes to.
 struct FauteLoi {
     std::string texte;
-    double Etude::*membre;
+    double DonneesEtude::*membre;
 };
 
 struct EtudeLoi {
@@ -65,12 +65,12 @@ struct EtudeLoi {
     const char* typeLoi; ///< `TypeLoi` while that screen is open
     const char* genre;   ///< what the batch companion calls it; none when it has another command
     int titre;           ///< text number of its caption; 0 for that of the law chosen
-    Booleen16 Etude::*active;
+    Booleen16 DonneesEtude::*active;
     bool degresDabord; ///< the first of the two units is degrees
     std::span<const ChampLoi> champs;
     std::span<const ValeurLoi> valeurs;
     std::optional<FauteLoi> (*chercheFaute)();
-    std::span<double Etude::*const> angles; ///< the cam angles of the motion, one after the other
+    std::span<double DonneesEtude::*const> angles; ///< the cam angles of the motion, one after the other
     /// The unit law into `LoiUnite`, its coefficients into the result; the amplitudes shown are unit values still.
     void (*remplit)(ResultatLoi& resultat);
 };

@@ -29,20 +29,22 @@ std::string Decimales(double valeur, const char* masque) {
 
 std::string ComposeFichierLoi() {
     std::string contenu;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const PointLoi& p = etude.LoiUnite[i];
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const PointLoi& p = etude.lois.LoiUnite[i];
         contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + FinDeLigne;
     }
-    for (long i = etude.NombrePoints; i <= PointsLoiFichier; ++i) contenu += std::string("1;0;0") + FinDeLigne;
+    for (long i = etude.resultats.NombrePoints; i <= PointsLoiFichier; ++i)
+        contenu += std::string("1;0;0") + FinDeLigne;
     return contenu;
 }
 
 std::string ComposeListageLoi() {
     std::string contenu;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const PointLoi& p = etude.Mouvement[i];
-        contenu += StrTrim(Divise(static_cast<double>(i), etude.PointsParDegre)) + ";" + Decimales(p.Course, "0.000") +
-                   ";" + Decimales(p.Vitesse, "0.00000") + ";" + Decimales(p.Accel, "0.00000") + FinDeLigne;
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const PointLoi& p = etude.resultats.Mouvement[i];
+        contenu += StrTrim(Divise(static_cast<double>(i), etude.donnees.PointsParDegre)) + ";" +
+                   Decimales(p.Course, "0.000") + ";" + Decimales(p.Vitesse, "0.00000") + ";" +
+                   Decimales(p.Accel, "0.00000") + FinDeLigne;
     }
     return contenu;
 }
@@ -58,9 +60,10 @@ void LitLoi(std::string_view contenu) {
         loi.Cv = std::max(loi.Cv, table[i].Vitesse);
         loi.Ca = std::max(loi.Ca, table[i].Accel);
     }
-    etude.LoiUnite = std::move(table);
-    etude.ListeLois.Redimensionne(1);
-    etude.ListeLois[1] = loi;
+    etude.lois.LoiUnite = std::move(table);
+    etude.lois.ListeLois.Redimensionne(1);
+    etude.lois.ListeLois[1] = loi;
+    etude.lois.DeFichier = true;
 }
 
 void LitFichierLoi(const std::filesystem::path& chemin) {

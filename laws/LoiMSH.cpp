@@ -78,7 +78,7 @@ Loi PartsMSH(const Loi& ligne) {
 }
 
 void PrepareLoiMSH(const Loi& ligne) {
-    etude.LoiEtude = PartsMSH(ligne);
+    etude.lois.LoiEtude = PartsMSH(ligne);
 }
 
 PointLoi EvalueMonteeMSH(const Loi& loi, double x) {
@@ -102,13 +102,13 @@ PointLoi EvalueMonteeMSH(const Loi& loi, double x) {
 }
 
 void CalculeLoiMSH() {
-    const long n = etude.NombrePoints;
-    etude.LoiUnite.Redimensionne(n);
+    const long n = etude.resultats.NombrePoints;
+    etude.lois.LoiUnite.Redimensionne(n);
     for (long i = 0; i <= n / 2; ++i) {
         const PointLoi p =
-            EvalueMonteeMSH(etude.LoiEtude, Divise(2.0 * static_cast<double>(i), static_cast<double>(n)));
-        etude.LoiUnite[i] = p;
-        etude.LoiUnite[n - i] = {p.Course, -p.Vitesse, p.Accel};
+            EvalueMonteeMSH(etude.lois.LoiEtude, Divise(2.0 * static_cast<double>(i), static_cast<double>(n)));
+        etude.lois.LoiUnite[i] = p;
+        etude.lois.LoiUnite[n - i] = {p.Course, -p.Vitesse, p.Accel};
     }
 }
 

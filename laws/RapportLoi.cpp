@@ -12,10 +12,10 @@ constexpr int TexteCourbes = 337, TextePoints = 466, TextePointsParDegre = 174;
 constexpr int ColonneValeur = 46; ///< of the values of data and results, characters
 
 template <double PointLoi::*membre> double DuMouvement(long i) {
-    return etude.Mouvement[i].*membre;
+    return etude.resultats.Mouvement[i].*membre;
 }
 double Angle(long i) {
-    return etude.Points[i].Angle;
+    return etude.resultats.Points[i].Angle;
 }
 
 /// The columns, in the unit of the output.
@@ -40,8 +40,8 @@ void ImprimeLigne(int libelle, Grandeur grandeur, const std::string& valeur) {
 
 void ImprimeDonnees(const RapportLoi& rapport) {
     for (const ChampLoi& champ : rapport.loi->champs)
-        if (champ.Employe()) ImprimeLigne(champ.Libelle(), champ.grandeur, StrTrim(etude.*champ.membre));
-    ImprimeLigne(TextePointsParDegre, Grandeur::Nombre, std::to_string(etude.PointsParDegre));
+        if (champ.Employe()) ImprimeLigne(champ.Libelle(), champ.grandeur, StrTrim(etude.donnees.*champ.membre));
+    ImprimeLigne(TextePointsParDegre, Grandeur::Nombre, std::to_string(etude.donnees.PointsParDegre));
     ImprimeLigneCames({});
     for (const ValeurLoi& valeur : rapport.loi->valeurs)
         ImprimeLigne(valeur.texte, valeur.grandeur, Format(rapport.resultat.*valeur.membre, valeur.masque));

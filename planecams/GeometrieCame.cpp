@@ -13,27 +13,27 @@ namespace {
 /// Difference of two neighbours against the cam angle. The division by `PointsParDegre` is required as it stands, so
 /// that this is the true derivative with one point per degree only.
 double Derive(double ici, double suivant) {
-    return (ici - suivant) * 180.0 / etude.PointsParDegre / Pi;
+    return (ici - suivant) * 180.0 / etude.donnees.PointsParDegre / Pi;
 }
 
 void CalculeAnglesTangents() {
-    etude.AngleTangentMax = 0;
-    const long N = etude.NombrePoints;
+    etude.resultats.AngleTangentMax = 0;
+    const long N = etude.resultats.NombrePoints;
     for (long i = 0; i <= N; ++i) {
-        const double R = etude.Points[i].Rayon;
-        const double R2 = i < N ? etude.Points[i + 1].Rayon : R;
-        const double angle = std::atan(Divise((R - R2) * etude.PointsParDegre * (180.0 / Pi), R)) + Pi / 2.0;
-        etude.Profil[i].AngleTangent = angle;
-        if (std::abs(angle) > std::abs(etude.AngleTangentMax)) etude.AngleTangentMax = angle;
+        const double R = etude.resultats.Points[i].Rayon;
+        const double R2 = i < N ? etude.resultats.Points[i + 1].Rayon : R;
+        const double angle = std::atan(Divise((R - R2) * etude.donnees.PointsParDegre * (180.0 / Pi), R)) + Pi / 2.0;
+        etude.resultats.Profil[i].AngleTangent = angle;
+        if (std::abs(angle) > std::abs(etude.resultats.AngleTangentMax)) etude.resultats.AngleTangentMax = angle;
     }
 }
 
 void CalculeCourbesDecalees() {
-    const double G = etude.RayonGalet;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        PointProfil& profil = etude.Profil[i];
-        const double R = etude.Points[i].Rayon;
-        const double a = etude.Points[i].Angle * Pi / 180.0;
+    const double G = etude.donnees.RayonGalet;
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        PointProfil& profil = etude.resultats.Profil[i];
+        const double R = etude.resultats.Points[i].Rayon;
+        const double a = etude.resultats.Points[i].Angle * Pi / 180.0;
         const double t = a + profil.AngleTangent;
         const double cosA = std::cos(a), sinA = std::sin(a), cosT = std::cos(t), sinT = std::sin(t);
         profil.XInterieur = cosA * R - sinT * G;
@@ -46,10 +46,10 @@ void CalculeCourbesDecalees() {
 void CalculeDifferences() {
     // Index of the last degree, not of the last point: with more than one point per degree the closing value lands in
     // mid-table and the last point keeps 0, as required.
-    const long M = Entier16(static_cast<double>(etude.NombrePoints) / etude.PointsParDegre);
+    const long M = Entier16(static_cast<double>(etude.resultats.NombrePoints) / etude.donnees.PointsParDegre);
     CalculePremieresDifferences(Derive);
-    PointProfil& fin = etude.Profil[M];
-    const PointProfil& debut = etude.Profil[0];
+    PointProfil& fin = etude.resultats.Profil[M];
+    const PointProfil& debut = etude.resultats.Profil[0];
     fin.DeriveeRayon = debut.DeriveeRayon;
     fin.YExterieur1 = debut.YExterieur1;
     fin.YInterieur1 = debut.YInterieur1;
@@ -68,11 +68,11 @@ void CalculeProfil() {
 }
 
 void ControleBrasCentre() {
-    const double B = std::atan(Divise(etude.CoteB, etude.CoteA)) * 180.0 / Pi;
-    const double P0 = etude.AnglePO1A + etude.Points[0].AngleBras;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const double P = etude.AnglePO1A + etude.Points[i].AngleBras;
-        if ((P0 < B && P > B) || (P0 > B && P < B)) etude.Erreur = Vrai;
+    const double B = std::atan(Divise(etude.donnees.CoteB, etude.donnees.CoteA)) * 180.0 / Pi;
+    const double P0 = etude.donnees.AnglePO1A + etude.resultats.Points[0].AngleBras;
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const double P = etude.donnees.AnglePO1A + etude.resultats.Points[i].AngleBras;
+        if ((P0 < B && P > B) || (P0 > B && P < B)) etude.resultats.Erreur = Vrai;
     }
     if (!SansErreur()) LesDialogues().Message(Icone::Critique, Texte(427));
 }

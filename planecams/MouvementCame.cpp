@@ -13,7 +13,7 @@ struct PointsTropPetits {
     std::string liste;
 
     void Controle(double rayon, long point) {
-        if (2.0 * etude.RayonGalet > rayon) liste += " ; " + Format(static_cast<double>(point), "###");
+        if (2.0 * etude.donnees.RayonGalet > rayon) liste += " ; " + Format(static_cast<double>(point), "###");
     }
 
     /// The study goes on all the same.
@@ -25,14 +25,15 @@ struct PointsTropPetits {
 
 /// Roller speed in Tr/min, rounded down: the roller runs on the profile at the radius of the cam there.
 void CalculeVitesseGalet(Point& p) {
-    p.VitesseGalet = Int(Divise((p.Rayon - etude.RayonGalet) * etude.VitesseCame, etude.RayonGalet));
+    p.VitesseGalet =
+        Int(Divise((p.Rayon - etude.donnees.RayonGalet) * etude.donnees.VitesseCame, etude.donnees.RayonGalet));
 }
 
 /// Speed and acceleration of the radius, from those of the arm. phi is the direction of O1-P; metres and seconds.
 void CalculeVitesseRayon(Point& p, const PointLoi& m) {
-    const double phi = (etude.AnglePO1A + p.AngleBras) * Pi / 180.0;
-    const double a = etude.CoteA / 1000.0, b = etude.CoteB / 1000.0;
-    const double L = etude.RayonO1P / 1000.0, R = p.Rayon / 1000.0;
+    const double phi = (etude.donnees.AnglePO1A + p.AngleBras) * Pi / 180.0;
+    const double a = etude.donnees.CoteA / 1000.0, b = etude.donnees.CoteB / 1000.0;
+    const double L = etude.donnees.RayonO1P / 1000.0, R = p.Rayon / 1000.0;
     const double s = std::sin(phi), c = std::cos(phi);
     const double V = m.Vitesse, A = m.Accel;
     p.VitesseRayon = V * ((c * b - s * a) * (-Divise(L, R)));
@@ -44,14 +45,14 @@ void CalculePointA(Point& p, const PointLoi& m) {
     const double phi2 = p.AngleBras * Pi / 180.0;
     const double s2 = std::sin(phi2), c2 = std::cos(phi2);
     const double V = m.Vitesse, A = m.Accel;
-    p.XA = c2 * etude.CoteA;
-    p.YA = s2 * etude.CoteA;
-    p.VxA = -0.001 * etude.CoteA * V * s2;
-    p.VyA = 0.001 * etude.CoteA * V * c2;
-    p.VA = 0.001 * etude.CoteA * V;
-    p.AxA = -0.001 * etude.CoteA * (s2 * A + c2 * V * V);
-    p.AyA = 0.001 * etude.CoteA * (c2 * A - s2 * V * V);
-    p.AA = 0.001 * etude.CoteA * std::sqrt(A * A + V * V * V * V);
+    p.XA = c2 * etude.donnees.CoteA;
+    p.YA = s2 * etude.donnees.CoteA;
+    p.VxA = -0.001 * etude.donnees.CoteA * V * s2;
+    p.VyA = 0.001 * etude.donnees.CoteA * V * c2;
+    p.VA = 0.001 * etude.donnees.CoteA * V;
+    p.AxA = -0.001 * etude.donnees.CoteA * (s2 * A + c2 * V * V);
+    p.AyA = 0.001 * etude.donnees.CoteA * (c2 * A - s2 * V * V);
+    p.AA = 0.001 * etude.donnees.CoteA * std::sqrt(A * A + V * V * V * V);
 }
 
 void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcours& zone) {
@@ -59,11 +60,12 @@ void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcou
     m.Course = course * unite.Course + zone.depart;
     m.Vitesse = unite.Vitesse * (course * Pi / 180.0) / T;
     m.Accel = unite.Accel * (course * Pi / 180.0) / (T * T);
-    if (std::abs(m.Course) > etude.LoiCourseMax) etude.LoiCourseMax = std::abs(m.Course);
-    SuitMaximum(m.Vitesse, p.Angle, etude.LoiVitesseMax, etude.LoiVitesseMaxAngle);
-    SuitMaximum(m.Accel, p.Angle, etude.LoiAccelMax, etude.LoiAccelMaxAngle);
+    if (std::abs(m.Course) > etude.durables.LoiCourseMax) etude.durables.LoiCourseMax = std::abs(m.Course);
+    SuitMaximum(m.Vitesse, p.Angle, etude.durables.LoiVitesseMax, etude.durables.LoiVitesseMaxAngle);
+    SuitMaximum(m.Accel, p.Angle, etude.durables.LoiAccelMax, etude.durables.LoiAccelMaxAngle);
     p.AngleBras = m.Course;
-    p.Rayon = RayonGaletCentre(etude.CoteA, etude.CoteB, etude.RayonO1P, p.AngleBras, etude.AnglePO1A);
+    p.Rayon = RayonGaletCentre(etude.donnees.CoteA, etude.donnees.CoteB, etude.donnees.RayonO1P, p.AngleBras,
+                               etude.donnees.AnglePO1A);
     CalculeVitesseRayon(p, m);
     CalculePointA(p, m);
 }
@@ -84,8 +86,8 @@ void CalculeMouvementBras() {
     PointsTropPetits tropPetits;
     DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
-                     Point& p = etude.Points[lieu.k];
-                     CalculePointBras(p, etude.Mouvement[lieu.k], unite, zone);
+                     Point& p = etude.resultats.Points[lieu.k];
+                     CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone);
                      tropPetits.Controle(p.Rayon, lieu.k);
                      CalculeVitesseGalet(p);
                  });
@@ -96,7 +98,7 @@ void CalculeMouvementLineaire() {
     PointsTropPetits tropPetits;
     DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, false, false, false},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
-                     Point& p = etude.Points[lieu.k];
+                     Point& p = etude.resultats.Points[lieu.k];
                      CalculePointLineaire(p, unite, zone);
                      tropPetits.Controle(p.Rayon, lieu.k);
                      CalculeVitesseGalet(p);

@@ -96,7 +96,7 @@ void ImprimePiedDePage(int numeroPage) {
 }
 
 void DebutPageCames(const std::string& titre) {
-    DebutPage(etude.NomFichier, titre);
+    DebutPage(etude.donnees.NomFichier, titre);
 }
 
 void DebutPage(const std::string& nom, const std::string& titre) {

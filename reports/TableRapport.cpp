@@ -17,7 +17,7 @@ int Blancs(std::size_t colonne) {
 int LargeurColonne(const ColonneRapport& colonne, int blancs) {
     if (colonne.valeur == nullptr) return colonne.largeur;
     double mini = 0, maxi = 0;
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
         mini = std::min(mini, colonne.valeur(i));
         maxi = std::max(maxi, colonne.valeur(i));
     }
@@ -67,7 +67,7 @@ void ImprimeTable(std::span<const ColonneRapport> colonnes, EnTete enTete, const
     impression.NombrePages = pages;
     ImprimeEnTete(colonnes);
     const std::vector<int> largeurs = LargeursColonnes(colonnes);
-    for (long i = 0; i <= etude.NombrePoints; ++i) ImprimeLigneTable(colonnes, largeurs, i);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) ImprimeLigneTable(colonnes, largeurs, i);
     impression.TypeEnTete = SansEnTete;
     ImprimePiedDePage(Entier16(impression.NumeroPage + 1));
     ImprimanteEnCours().NouvellePage();
@@ -76,6 +76,6 @@ void ImprimeTable(std::span<const ColonneRapport> colonnes, EnTete enTete, const
 std::int16_t NombrePagesTable() {
     // Page heading, two empty lines and column heading; a page that is turned begins with its column heading.
     constexpr int premiere = LignesPage + 1 - 4 - 2 - 3, autres = LignesPage + 1 - 3;
-    const int lignes = etude.NombrePoints + 1;
+    const int lignes = etude.resultats.NombrePoints + 1;
     return static_cast<std::int16_t>(lignes < premiere ? 1 : 2 + (lignes - premiere) / autres);
 }

@@ -15,27 +15,27 @@
 namespace {
 
 PointDessin Pivot() {
-    return {-etude.CoteA, -etude.CoteB};
+    return {-etude.donnees.CoteA, -etude.donnees.CoteB};
 }
 
 bool ABras() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     return type != nullptr && type->zones->rayonsBras;
 }
 
 PointDessin CentreGalet(long i) {
     // A translating follower stands on the vertical through the cam centre.
-    if (!ABras()) return {0, etude.Points[i].Rayon};
-    return Polaire(Pivot(), etude.RayonO1P, etude.AnglePO1A + etude.Points[i].AngleBras);
+    if (!ABras()) return {0, etude.resultats.Points[i].Rayon};
+    return Polaire(Pivot(), etude.donnees.RayonO1P, etude.donnees.AnglePO1A + etude.resultats.Points[i].AngleBras);
 }
 
 PointDessin PointA(long i) {
-    return Polaire(Pivot(), etude.RayonO1A, etude.Points[i].AngleBras);
+    return Polaire(Pivot(), etude.donnees.RayonO1A, etude.resultats.Points[i].AngleBras);
 }
 
 /// Length of the stem above the roller of a translating follower, mm.
 double LongueurTige() {
-    return etude.RayonMax / 3;
+    return etude.resultats.RayonMax / 3;
 }
 
 /// What the drawing covers at any angle, so that the scale does not change while the cam turns.
@@ -51,16 +51,16 @@ struct Etendue {
 };
 
 Etendue CalculeEtendue() {
-    const double came = etude.RayonMax + etude.RayonGalet;
+    const double came = etude.resultats.RayonMax + etude.donnees.RayonGalet;
     Etendue e{-came, -came, came, came};
     if (!ABras()) {
         e.Contient({0, came + LongueurTige()}, 2);
         return e;
     }
     e.Contient(Pivot(), 8);
-    for (long i = 0; i <= etude.NombrePoints; i += etude.PointsParDegre) {
+    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
         e.Contient(PointA(i), 6);
-        e.Contient(CentreGalet(i), etude.RayonGalet);
+        e.Contient(CentreGalet(i), etude.donnees.RayonGalet);
     }
     return e;
 }
@@ -69,8 +69,9 @@ Etendue CalculeEtendue() {
 template <class X, class Y> std::vector<PointDessin> CourbeTournee(const PlanDessin& vue, double radians, X x, Y y) {
     const double c = std::cos(radians), s = std::sin(radians);
     std::vector<PointDessin> points;
-    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
-    for (long i = 0; i <= etude.NombrePoints; ++i) points.push_back(vue({c * x(i) - s * y(i), s * x(i) + c * y(i)}));
+    points.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints) + 1);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i)
+        points.push_back(vue({c * x(i) - s * y(i), s * x(i) + c * y(i)}));
     return points;
 }
 
@@ -82,15 +83,16 @@ constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
 
 void DessineProfils(Dessin& dessin, const PlanDessin& vue, double radians) {
     const auto interieur = CourbeTournee(
-        vue, radians, [](long i) { return etude.Profil[i].XInterieur; },
-        [](long i) { return etude.Profil[i].YInterieur; });
+        vue, radians, [](long i) { return etude.resultats.Profil[i].XInterieur; },
+        [](long i) { return etude.resultats.Profil[i].YInterieur; });
     const auto exterieur = CourbeTournee(
-        vue, radians, [](long i) { return etude.Profil[i].XExterieur; },
-        [](long i) { return etude.Profil[i].YExterieur; });
+        vue, radians, [](long i) { return etude.resultats.Profil[i].XExterieur; },
+        [](long i) { return etude.resultats.Profil[i].YExterieur; });
     const auto primitif = CourbeTournee(
-        vue, radians, [](long i) { return etude.Points[i].Rayon * std::cos(etude.Points[i].Angle / RadDeg); },
-        [](long i) { return etude.Points[i].Rayon * std::sin(etude.Points[i].Angle / RadDeg); });
-    const bool ferme = etude.NombrePoints >= 360 * etude.PointsParDegre;
+        vue, radians,
+        [](long i) { return etude.resultats.Points[i].Rayon * std::cos(etude.resultats.Points[i].Angle / RadDeg); },
+        [](long i) { return etude.resultats.Points[i].Rayon * std::sin(etude.resultats.Points[i].Angle / RadDeg); });
+    const bool ferme = etude.resultats.NombrePoints >= 360 * etude.donnees.PointsParDegre;
     const Trait came{Couleur::Came, 1.8};
     ferme ? dessin.Surface(interieur, came) : dessin.Polyligne(interieur, came);
     dessin.Polyligne(exterieur, {Couleur::TexteDiscret, 1.0});
@@ -115,25 +117,25 @@ void DessineBras(Dessin& dessin, const PlanDessin& vue, long i) {
 } // namespace
 
 void DessineCamePlate(Dessin& dessin, double angle) {
-    if (etude.Points.Vide() || etude.NombrePoints == 0) return;
-    const long i =
-        std::clamp(static_cast<long>(Arrondi(angle * etude.PointsParDegre)), 0L, static_cast<long>(etude.NombrePoints));
+    if (etude.resultats.Points.Vide() || etude.resultats.NombrePoints == 0) return;
+    const long i = std::clamp(static_cast<long>(Arrondi(angle * etude.donnees.PointsParDegre)), 0L,
+                              static_cast<long>(etude.resultats.NombrePoints));
     constexpr double marge = 14, bandeau = 26;
     const Etendue etendue = CalculeEtendue();
     const PlanDessin vue(dessin, {etendue.gauche, etendue.bas}, {etendue.droite, etendue.haut}, marge, bandeau);
     const PointDessin P = CentreGalet(i);
-    const double radians = std::atan2(P.y, P.x) - etude.Points[i].Angle / RadDeg;
+    const double radians = std::atan2(P.y, P.x) - etude.resultats.Points[i].Angle / RadDeg;
     DessineProfils(dessin, vue, radians);
-    const double croix = etude.RayonMin / 6;
+    const double croix = etude.resultats.RayonMin / 6;
     const Trait axe{Couleur::Axe, 1.0};
     dessin.Ligne(vue({-croix, 0}), vue({croix, 0}), axe);
     dessin.Ligne(vue({0, -croix}), vue({0, croix}), axe);
     NommePoint(dessin, vue, {0, 0}, "O");
-    dessin.Disque(vue(P), etude.RayonGalet * vue.Echelle(), {Couleur::Galet, 1.6});
+    dessin.Disque(vue(P), etude.donnees.RayonGalet * vue.Echelle(), {Couleur::Galet, 1.6});
     if (ABras())
         DessineBras(dessin, vue, i);
     else
-        dessin.Ligne(vue(P), vue({P.x, P.y + etude.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
+        dessin.Ligne(vue(P), vue({P.x, P.y + etude.donnees.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
     // The arm stands last.
     DessineLegende(dessin, {14, 16}, 12, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
 }

@@ -48,29 +48,29 @@ void TraceCroixCentre(Script& script) {
 
 /// The arm at the start of the motion: a cross at its pivot, the arm itself, and the roller.
 void TraceBras(Script& script) {
-    const double x0 = -etude.CoteA, y0 = -etude.CoteB;
-    const double a = (etude.AnglePO1A + etude.Zones[1].AngleDepart) * Pi / 180.0;
-    const double px = std::cos(a) * etude.RayonO1P + x0, py = std::sin(a) * etude.RayonO1P + y0;
+    const double x0 = -etude.donnees.CoteA, y0 = -etude.donnees.CoteB;
+    const double a = (etude.donnees.AnglePO1A + etude.donnees.Zones[1].AngleDepart) * Pi / 180.0;
+    const double px = std::cos(a) * etude.donnees.RayonO1P + x0, py = std::sin(a) * etude.donnees.RayonO1P + y0;
     script.Mot("LIGNE ").Point(x0 - DemiCroix, y0).Fin().Point(x0 + DemiCroix, y0).FinCommande();
     script.Mot("LIGNE ").Point(x0, y0 - DemiCroix).Fin().Point(x0, y0 + DemiCroix).FinCommande();
     script.Mot("LIGNE ").Point(x0, y0).Fin().Point(px, py).FinCommande();
-    script.Mot("CERCLE ").Point(px, py).Mot(" d ").Nombre(2.0 * etude.RayonGalet).Fin();
+    script.Mot("CERCLE ").Point(px, py).Mot(" d ").Nombre(2.0 * etude.donnees.RayonGalet).Fin();
 }
 
 /// One profile, turned by `AngleRotation`.
 struct CourbeScript {
     double PointProfil::*x;
     double PointProfil::*y;
-    double c = std::cos(etude.AngleRotation), s = std::sin(etude.AngleRotation);
+    double c = std::cos(etude.resultats.AngleRotation), s = std::sin(etude.resultats.AngleRotation);
 
     void Pose(Script& script, long i) const {
-        const double xi = etude.Profil[i].*x, yi = etude.Profil[i].*y;
+        const double xi = etude.resultats.Profil[i].*x, yi = etude.resultats.Profil[i].*y;
         script.Point(c * xi + s * yi, -xi * s + yi * c);
     }
 
     void TracePolyligne(Script& script) const {
         script.Mot("_pline").Fin();
-        for (long i = 1; i <= etude.NombrePoints; ++i) {
+        for (long i = 1; i <= etude.resultats.NombrePoints; ++i) {
             Pose(script, i);
             script.Fin();
         }
@@ -89,12 +89,12 @@ void EcritDemande(int titre, const std::string& nom, const char* extension, std:
 } // namespace
 
 std::string ComposeFichierPoints() {
-    std::string contenu = "Rayon du galet ," + StrTrim(etude.RayonGalet) + FinDeLigne;
-    contenu.reserve(static_cast<std::size_t>(etude.NombrePoints + 2) * 24);
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        AjouteStr(contenu, etude.Points[i].Angle);
+    std::string contenu = "Rayon du galet ," + StrTrim(etude.donnees.RayonGalet) + FinDeLigne;
+    contenu.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints + 2) * 24);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        AjouteStr(contenu, etude.resultats.Points[i].Angle);
         contenu += ',';
-        AjouteFormat(contenu, etude.Points[i].Rayon, "###.######");
+        AjouteFormat(contenu, etude.resultats.Points[i].Rayon, "###.######");
         contenu += FinDeLigne;
     }
     return contenu;
@@ -115,17 +115,17 @@ std::string ComposeScriptInterieur() {
     const CourbeScript courbe{&PointProfil::XInterieur, &PointProfil::YInterieur};
     Script script;
     TraceCroixCentre(script);
-    if (etude.TypeCame == "Angulaire") TraceBras(script);
+    if (etude.donnees.TypeCame == "Angulaire") TraceBras(script);
     courbe.TracePolyligne(script);
     return script.texte_;
 }
 
 void FichiersPoints() {
-    EcritDemande(124, NomSansExtension(etude.NomFichier), "Pnt", ComposeFichierPoints);
+    EcritDemande(124, NomSansExtension(etude.donnees.NomFichier), "Pnt", ComposeFichierPoints);
 }
 
 void FichiersScripts() {
-    const std::string nom = NomSansExtension(etude.NomFichier);
+    const std::string nom = NomSansExtension(etude.donnees.NomFichier);
     EcritDemande(315, nom + "_Ext", "Scr", ComposeScriptExterieur);
     EcritDemande(316, nom + "_Int", "Scr", ComposeScriptInterieur);
 }

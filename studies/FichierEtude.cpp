@@ -54,12 +54,12 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
     Lignes lignes(contenu);
     lignes.Suivante();
     lignes.Suivante();
-    for (const auto& champ : type.champs) etude.*champ.membre = LitNombre(lignes);
-    etude.NombreZones = Entier16(LitNombre(lignes));
-    etude.Zones.Redimensionne(etude.NombreZones);
-    etude.TypeCame = type.nom;
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        Zone& zone = etude.Zones[z];
+    for (const auto& champ : type.champs) etude.donnees.*champ.membre = LitNombre(lignes);
+    etude.donnees.NombreZones = Entier16(LitNombre(lignes));
+    etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
+    etude.donnees.TypeCame = type.nom;
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+        Zone& zone = etude.donnees.Zones[z];
         LitZone(lignes, type, zone);
         if (!LoiConnue(zone.NomLoi)) {
             LesDialogues().Message(Icone::Critique,
@@ -68,8 +68,8 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
         }
         CompleteZone(z, type.zones->rayonsBras);
     }
-    if (type.conjuguees) etude.ZonesConjuguees = etude.Zones;
-    etude.PointsParDegre = Entier16(LitNombre(lignes));
+    if (type.conjuguees) etude.donnees.ZonesConjuguees = etude.donnees.Zones;
+    etude.donnees.PointsParDegre = Entier16(LitNombre(lignes));
     return true;
 }
 
@@ -78,7 +78,7 @@ bool LitFichierEtude(const std::filesystem::path& chemin) {
     if (type == nullptr) throw ErreurExecution(NumeroErreur::ExtensionInconnue, chemin.extension().string());
     if (!type->Disponible()) throw ErreurExecution(NumeroErreur::TypeNonCalcule, Texte(type->titre));
     const std::string contenu = LitFichierEntier(chemin);
-    etude.NomFichier = chemin.filename().string();
+    etude.donnees.NomFichier = chemin.filename().string();
     return LitEtude(contenu, *type);
 }
 
@@ -92,31 +92,32 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     };
     ligne(Texte(type.titre) + type.suffixeTitre);
     ligne(Texte(387) + DateDuJour());
-    for (const auto& champ : type.champs) nombre(Format(etude.*champ.membre, champ.masque));
-    nombre(Format(etude.NombreZones, type.masqueNombreZones));
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) {
-        const Zone& zone = etude.Zones[z];
+    for (const auto& champ : type.champs) nombre(Format(etude.donnees.*champ.membre, champ.masque));
+    nombre(Format(etude.donnees.NombreZones, type.masqueNombreZones));
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+        const Zone& zone = etude.donnees.Zones[z];
         ligne(Texte(187) + Format(z, "##"));
         nombre(Format(zone.*type.zones->valeurDepart, type.masqueValeur));
         nombre(Format(zone.*type.zones->valeurFinale, type.masqueValeur));
         nombre(Format(zone.AngleCame, type.masqueAngleCame));
-        const Zone& loi = type.conjuguees ? etude.ZonesConjuguees[z] : zone;
+        const Zone& loi = type.conjuguees ? etude.donnees.ZonesConjuguees[z] : zone;
         ligne(loi.NomLoi);
         nombre(StrTrim(loi.CoefSymetrie));
     }
-    ligne(std::to_string(etude.PointsParDegre));
+    ligne(std::to_string(etude.donnees.PointsParDegre));
     return contenu;
 }
 
 bool DonneesDepart() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
-    const auto chemin = LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
-                                                       CheminAppli / NomDossierEtudes,
-                                                       NomSansExtension(etude.NomFichier) + "." + type->extension,
-                                                       {FiltreEtude(*type)}});
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    const auto chemin =
+        LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
+                                       CheminAppli / NomDossierEtudes,
+                                       NomSansExtension(etude.donnees.NomFichier) + "." + type->extension,
+                                       {FiltreEtude(*type)}});
     if (!chemin || chemin->empty()) return false;
     EcritFichierEntier(*chemin, ComposeFichierEtude(*type, SeparateurRegional()));
-    etude.NomFichier = chemin->filename().string();
+    etude.donnees.NomFichier = chemin->filename().string();
     return true;
 }

@@ -30,7 +30,7 @@ struct Cadre {
 };
 
 double AngleTotal() {
-    return etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
+    return etude.resultats.NombrePoints / static_cast<double>(etude.donnees.PointsParDegre);
 }
 
 void DessineAxeHorizontal(Dessin& dessin, const Cadre& c) {
@@ -65,48 +65,50 @@ void DessineNoms(Dessin& dessin, const Cadre& c, std::span<const Courbe> courbes
 
 void DessineCourbe(Dessin& dessin, const Cadre& c, const Courbe& courbe, double maximum, std::size_t rang) {
     std::vector<PointDessin> points;
-    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
-    const double pas = (c.droite - c.gauche) / etude.NombrePoints, echelle = c.DemiHauteur() / maximum;
-    for (long i = courbe.premier; i <= etude.NombrePoints; ++i)
+    points.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints) + 1);
+    const double pas = (c.droite - c.gauche) / etude.resultats.NombrePoints, echelle = c.DemiHauteur() / maximum;
+    for (long i = courbe.premier; i <= etude.resultats.NombrePoints; ++i)
         points.push_back({c.gauche + pas * static_cast<double>(i), c.Milieu() - echelle * courbe.valeur(i)});
     dessin.Polyligne(points, {couleurs[rang], 1.6});
 }
 
 /// The forces of a cylindrical cam are calculated from the second point on.
 long PremierEffort() {
-    return etude.Developpee ? 1 : 0;
+    return etude.resultats.Developpee ? 1 : 0;
 }
 
 } // namespace
 
 std::vector<Courbe> CourbesGalet() {
     // Heights may lie below 0 further than above it.
-    const bool hauteurs = etude.Developpee;
-    const double maximum = hauteurs ? std::max(etude.RayonMax, -etude.RayonMin) : etude.RayonMax;
-    return {{hauteurs ? TexteHauteurMm : 281, maximum, [](long i) { return etude.Points[i].Rayon; }},
-            {282, etude.VitesseRayonMax, [](long i) { return etude.Points[i].VitesseRayon; }},
-            {283, etude.AccelRayonMax, [](long i) { return etude.Points[i].AccelRayon; }}};
+    const bool hauteurs = etude.resultats.Developpee;
+    const double maximum =
+        hauteurs ? std::max(etude.resultats.RayonMax, -etude.resultats.RayonMin) : etude.resultats.RayonMax;
+    return {{hauteurs ? TexteHauteurMm : 281, maximum, [](long i) { return etude.resultats.Points[i].Rayon; }},
+            {282, etude.resultats.VitesseRayonMax, [](long i) { return etude.resultats.Points[i].VitesseRayon; }},
+            {283, etude.resultats.AccelRayonMax, [](long i) { return etude.resultats.Points[i].AccelRayon; }}};
 }
 
 std::vector<Courbe> CourbesBras() {
     // The angle of the arm is drawn to the scale of the radius, so that both graphs compare; on a cylinder no radius
     // holds for it.
-    const double maximum = etude.Developpee ? AngleBrasExtreme() : etude.RayonMax;
-    return {{284, maximum, [](long i) { return etude.Mouvement[i].Course; }},
-            {285, etude.LoiVitesseMax, [](long i) { return etude.Mouvement[i].Vitesse; }},
-            {286, etude.LoiAccelMax, [](long i) { return etude.Mouvement[i].Accel; }}};
+    const double maximum = etude.resultats.Developpee ? AngleBrasExtreme() : etude.resultats.RayonMax;
+    return {{284, maximum, [](long i) { return etude.resultats.Mouvement[i].Course; }},
+            {285, etude.durables.LoiVitesseMax, [](long i) { return etude.resultats.Mouvement[i].Vitesse; }},
+            {286, etude.durables.LoiAccelMax, [](long i) { return etude.resultats.Mouvement[i].Accel; }}};
 }
 
 std::vector<Courbe> CourbesForce() {
-    return {{287, etude.ForceGaletMax, [](long i) { return etude.Points[i].ForceGalet; }, PremierEffort()}};
+    return {{287, etude.resultats.ForceGaletMax, [](long i) { return etude.resultats.Points[i].ForceGalet; },
+             PremierEffort()}};
 }
 
 std::vector<Courbe> CourbesCouple() {
-    return {{288, etude.CoupleMax, [](long i) { return etude.Points[i].Couple; }, PremierEffort()}};
+    return {{288, etude.resultats.CoupleMax, [](long i) { return etude.resultats.Points[i].Couple; }, PremierEffort()}};
 }
 
 void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes) {
-    if (etude.Points.Vide() || etude.NombrePoints == 0) return;
+    if (etude.resultats.Points.Vide() || etude.resultats.NombrePoints == 0) return;
     const Cadre cadre(dessin, courbes.size());
     DessineAxeHorizontal(dessin, cadre);
     for (std::size_t rang = 0; rang < courbes.size(); ++rang) {

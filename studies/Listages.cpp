@@ -10,18 +10,18 @@ constexpr const char* M3Court = "##.###";
 constexpr const char* M2 = "###.##";
 
 template <double Point::*membre> double DuPoint(long i) {
-    return etude.Points[i].*membre;
+    return etude.resultats.Points[i].*membre;
 }
 template <double PointLoi::*membre> double DuMouvement(long i) {
-    return etude.Mouvement[i].*membre;
+    return etude.resultats.Mouvement[i].*membre;
 }
 template <double PointProfil::*membre> double DuProfil(long i) {
-    return etude.Profil[i].*membre;
+    return etude.resultats.Profil[i].*membre;
 }
 
 /// Pressure angle in degrees: 0 where the follower rests.
 double AnglePression(long i) {
-    return Pente(etude.Profil[i].AngleTangent);
+    return Pente(etude.resultats.Profil[i].AngleTangent);
 }
 
 constexpr Colonne angle = {245, 19, DuPoint<&Point::Angle>, "##0"};
@@ -82,13 +82,13 @@ std::span<const Colonne> ColonnesCame() {
 }
 
 int TexteColonne(const Colonne& colonne) {
-    return colonne.texteDeveloppee != 0 && etude.Developpee ? colonne.texteDeveloppee : colonne.texte;
+    return colonne.texteDeveloppee != 0 && etude.resultats.Developpee ? colonne.texteDeveloppee : colonne.texte;
 }
 
 int LignesListage() {
-    return etude.Points.Vide() ? 0 : etude.NombrePoints / etude.PointsParDegre + 1;
+    return etude.resultats.Points.Vide() ? 0 : etude.resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
 }
 
 std::string CelluleListage(const Colonne& colonne, int ligne) {
-    return Format(colonne.valeur(static_cast<long>(ligne) * etude.PointsParDegre), colonne.masque);
+    return Format(colonne.valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre), colonne.masque);
 }

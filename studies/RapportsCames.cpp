@@ -45,7 +45,7 @@ void ImprimeRapportsCames(Imprimante& imprimante, const MarquesImpression& marqu
     for (const Rapport& rapport : rapports) {
         impression.NumeroLigne = 0;
         const bool pourCeType =
-            std::find(rapport.types.begin(), rapport.types.end(), etude.TypeCame) != rapport.types.end();
+            std::find(rapport.types.begin(), rapport.types.end(), etude.donnees.TypeCame) != rapport.types.end();
         if (pourCeType && marques.at(static_cast<std::size_t>(rapport.marque))) rapport.imprime();
     }
     imprimante.FinDocument();

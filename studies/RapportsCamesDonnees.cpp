@@ -69,13 +69,13 @@ void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, cons
         }
         const char* masque = champ.unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
         lignes.push_back(
-            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(etude.*champ.membre, masque))});
+            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(etude.donnees.*champ.membre, masque))});
     }
     lignes.push_back({});
 }
 
 void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::int16_t z) {
-    const Zone& zone = etude.Zones[z];
+    const Zone& zone = etude.donnees.Zones[z];
     const DescriptionZones& zones = *type.zones;
     const auto ligne = [&](int texte, int unite, const std::string& valeur) {
         lignes.push_back({LigneValeur(Texte(texte), unite == 0 ? SansUnite : UniteTexte(unite), valeur)});
@@ -91,14 +91,14 @@ void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::i
 }
 
 void ImprimeDonnees() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     std::vector<LigneRapport> lignes;
     for (const Groupe& groupe : GroupesDonnees(*type)) AjouteGroupe(lignes, *type, groupe);
-    lignes.push_back({LigneValeur(Texte(172), SansUnite, std::to_string(etude.NombreZones))});
-    lignes.push_back({LigneValeur(Texte(174), SansUnite, std::to_string(etude.PointsParDegre))});
+    lignes.push_back({LigneValeur(Texte(172), SansUnite, std::to_string(etude.donnees.NombreZones))});
+    lignes.push_back({LigneValeur(Texte(174), SansUnite, std::to_string(etude.donnees.PointsParDegre))});
     lignes.push_back({});
-    for (std::int16_t z = 1; z <= etude.NombreZones; ++z) AjouteZone(lignes, *type, z);
+    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) AjouteZone(lignes, *type, z);
     lignes.pop_back(); // the empty line behind the last block
     ImprimeRapportLignes(Texte(TitreDonnees), lignes);
 }

@@ -37,7 +37,7 @@ struct Etiquette {
 };
 
 void DessineAxeAngles(Dessin& dessin) {
-    const double total = etude.NombrePoints / static_cast<double>(etude.PointsParDegre);
+    const double total = etude.resultats.NombrePoints / static_cast<double>(etude.donnees.PointsParDegre);
     const double pas = PasGraduationAngle(total, 13);
     for (double angle = 0; angle <= total + 1e-9; angle += pas) {
         const double x = OrigineX + LargeurBoite * angle / total;
@@ -73,11 +73,11 @@ void DessineAxeValeurs(Dessin& dessin, double maximum, const Etiquette& etiquett
 }
 
 void DessineCourbe(Dessin& dessin, const Courbe& courbe, Couleur couleur) {
-    const double echelleX = LargeurBoite / etude.NombrePoints;
+    const double echelleX = LargeurBoite / etude.resultats.NombrePoints;
     const double echelleY = HauteurBoite / 2 / (courbe.maximum == 0.0 ? 1.0 : courbe.maximum);
     std::vector<PointDessin> points;
-    points.reserve(static_cast<std::size_t>(etude.NombrePoints) + 1);
-    for (long i = courbe.premier; i <= etude.NombrePoints; ++i)
+    points.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints) + 1);
+    for (long i = courbe.premier; i <= etude.resultats.NombrePoints; ++i)
         points.push_back({OrigineX + echelleX * static_cast<double>(i), OrigineY - echelleY * courbe.valeur(i)});
     dessin.Polyligne(points, {couleur, 0.4});
 }

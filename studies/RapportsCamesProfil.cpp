@@ -40,9 +40,9 @@ using Courbes = std::vector<std::vector<PointDessin>>;
 /// Inner profile, outer profile and pitch curve, cam millimetres.
 Courbes CourbesCame() {
     Courbes courbes(3);
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const PointProfil& p = etude.Profil[i];
-        const double angle = etude.Points[i].Angle / RadDeg, rayon = etude.Points[i].Rayon;
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const PointProfil& p = etude.resultats.Profil[i];
+        const double angle = etude.resultats.Points[i].Angle / RadDeg, rayon = etude.resultats.Points[i].Rayon;
         courbes[0].push_back({p.XInterieur, p.YInterieur});
         courbes[1].push_back({p.XExterieur, p.YExterieur});
         courbes[2].push_back({rayon * std::cos(angle), rayon * std::sin(angle)});
@@ -99,12 +99,12 @@ double DessineProfil(Dessin& dessin) {
 
     const PointDessin galet = surPapier(courbes[2].front()), centre = surPapier({0, 0});
     for (auto& courbe : courbes) std::transform(courbe.begin(), courbe.end(), courbe.begin(), surPapier);
-    const double croix = echelle * etude.RayonMin / 6;
+    const double croix = echelle * etude.resultats.RayonMin / 6;
     dessin.Ligne({centre.x - croix, centre.y}, {centre.x + croix, centre.y}, traitAxe);
     dessin.Ligne({centre.x, centre.y - croix}, {centre.x, centre.y + croix}, traitAxe);
     dessin.Ligne(centre, galet, {Couleur::Repere, 0.18});
     dessin.Polyligne(courbes[2], traitPrimitif);
-    dessin.Cercle(galet, echelle * etude.RayonGalet, traitGalet);
+    dessin.Cercle(galet, echelle * etude.donnees.RayonGalet, traitGalet);
     dessin.Polyligne(courbes[0], traitProfil);
     dessin.Polyligne(courbes[1], traitProfil);
     return echelle;
@@ -163,7 +163,7 @@ void DessineGraduationsDeveloppee(Dessin& dessin, const PapierDeveloppee& papier
             dessin.Texte({bord.x, bord.y + 2 * ligne}, arc, Ancrage::Centre, HauteurTexte * 0.8);
         }
     }
-    const double galet = papier.echelle * etude.RayonGalet;
+    const double galet = papier.echelle * etude.donnees.RayonGalet;
     for (const double y : {d.hauteurMini, d.hauteurMaxi}) {
         const PointDessin bord = papier({0, y});
         const std::string hauteur = Format(y, MasqueDeveloppee);
@@ -186,7 +186,7 @@ double DessineDeveloppee(Dessin& dessin) {
         dessin.Polyligne(papier(tour.interieur), traitProfil);
         dessin.Polyligne(papier(tour.exterieur), traitProfil);
     }
-    dessin.Cercle(papier(CentreGaletDeveloppe(0)), papier.echelle * etude.RayonGalet, traitGalet);
+    dessin.Cercle(papier(CentreGaletDeveloppe(0)), papier.echelle * etude.donnees.RayonGalet, traitGalet);
     return papier.echelle;
 }
 

@@ -15,7 +15,7 @@ std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
         // Whole degrees; the last digit always shows, so that a maximum at the start of the cam has its 0.
         constexpr int largeurValeur = 8;
         valeur += Espaces(std::max(1, largeurValeur - NombreCaracteres(valeur))) + Texte(227) + " " +
-                  Format(AngleExtreme(ligne.repere), "##0") + "°";
+                  Format(AngleExtreme(ligne.repere()), "##0") + "°";
     }
     const int libelle = ligne.texteRapport != 0 ? ligne.texteRapport : texte;
     return LigneValeur(Texte(libelle), ligne.uniteRapport != nullptr ? ligne.uniteRapport : UniteTexte(ligne.unite),
@@ -25,8 +25,8 @@ std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
 } // namespace
 
 void ImprimePointsRemarquables() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     std::vector<LigneRapport> lignes;
     int groupe = 0;
     for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {

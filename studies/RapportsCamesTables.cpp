@@ -19,10 +19,10 @@ struct TableRapport {
 };
 
 template <double Point::*membre> double DuPoint(long i) {
-    return etude.Points[i].*membre;
+    return etude.resultats.Points[i].*membre;
 }
 template <double PointLoi::*membre> double DuMouvement(long i) {
-    return etude.Mouvement[i].*membre;
+    return etude.resultats.Mouvement[i].*membre;
 }
 
 constexpr int Angle = 706, Rayon = 247, Vitesse = 790, Accel = 707, Bras = 217, Force = 251, Couple = 252;
@@ -74,14 +74,14 @@ constexpr TableRapport tablesMouvement[] = {
 
 const TableRapport& TableMouvement() {
     const auto table = std::find_if(std::begin(tablesMouvement), std::end(tablesMouvement),
-                                    [](const TableRapport& t) { return t.type == etude.TypeCame; });
-    if (table == std::end(tablesMouvement)) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
+                                    [](const TableRapport& t) { return t.type == etude.donnees.TypeCame; });
+    if (table == std::end(tablesMouvement)) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     return *table;
 }
 
 /// Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
 std::int16_t PagesAnnoncees() {
-    return Entier16(Int((etude.NombrePoints + 8) / 61.0));
+    return Entier16(Int((etude.resultats.NombrePoints + 8) / 61.0));
 }
 
 } // namespace
@@ -95,10 +95,10 @@ void EnTeteForces() {
 }
 
 void ImprimePointsMouvement() {
-    ImprimeTable(TableMouvement().colonnes, EnTeteDuMouvement, etude.NomFichier, Texte(TitrePointsMouvement),
+    ImprimeTable(TableMouvement().colonnes, EnTeteDuMouvement, etude.donnees.NomFichier, Texte(TitrePointsMouvement),
                  PagesAnnoncees());
 }
 
 void ImprimePointsForces() {
-    ImprimeTable(colonnesForces, EnTeteDesForces, etude.NomFichier, Texte(TitrePointsForces), PagesAnnoncees());
+    ImprimeTable(colonnesForces, EnTeteDesForces, etude.donnees.NomFichier, Texte(TitrePointsForces), PagesAnnoncees());
 }

@@ -21,60 +21,60 @@ constexpr const char* M3 = "###.###";
 constexpr const char* M3Large = "####.###";
 
 const ChampFichier champsAngulaire[] = {
-    {"CoteA", &Etude::CoteA, M2, 152, UniteMm},
-    {"CoteB", &Etude::CoteB, M2, 153, UniteMm},
-    {"RayonO1A", &Etude::RayonO1A, M2, 154, UniteMm},
-    {"RayonO1P", &Etude::RayonO1P, M2, 155, UniteMm},
-    {"AnglePO1A", &Etude::AnglePO1A, M2, 156, UniteDegres},
-    {"RayonGalet", &Etude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &Etude::AnglePesanteur, M2, 169, UniteDegres},
-    {"MasseBrasO1A", &Etude::MasseBrasO1A, M2, 159, UniteKg},
-    {"MasseBrasO1P", &Etude::MasseBrasO1P, M2, 160, UniteKg},
-    {"EpaisseurCame", &Etude::EpaisseurCame, M2, 161, UniteMm},
-    {"MasseA", &Etude::MasseA, M2, 163, UniteKg},
-    {"ForceX", &Etude::ForceX, M2Large, 166, UniteN},
-    {"ForceY", &Etude::ForceY, M2Large, 167, UniteN},
+    {"CoteA", &DonneesEtude::CoteA, M2, 152, UniteMm},
+    {"CoteB", &DonneesEtude::CoteB, M2, 153, UniteMm},
+    {"RayonO1A", &DonneesEtude::RayonO1A, M2, 154, UniteMm},
+    {"RayonO1P", &DonneesEtude::RayonO1P, M2, 155, UniteMm},
+    {"AnglePO1A", &DonneesEtude::AnglePO1A, M2, 156, UniteDegres},
+    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
+    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
+    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
+    {"MasseBrasO1A", &DonneesEtude::MasseBrasO1A, M2, 159, UniteKg},
+    {"MasseBrasO1P", &DonneesEtude::MasseBrasO1P, M2, 160, UniteKg},
+    {"EpaisseurCame", &DonneesEtude::EpaisseurCame, M2, 161, UniteMm},
+    {"MasseA", &DonneesEtude::MasseA, M2, 163, UniteKg},
+    {"ForceX", &DonneesEtude::ForceX, M2Large, 166, UniteN},
+    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
 };
 
 const ChampFichier champsLineaire[] = {
-    {"RayonGalet", &Etude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &Etude::AnglePesanteur, M2, 169, UniteDegres},
-    {"EpaisseurCame", &Etude::EpaisseurCame, M2, 161, UniteMm},
-    {"MasseA", &Etude::MasseA, M2, 163, UniteKg},
-    {"ForceY", &Etude::ForceY, M2Large, 167, UniteN},
+    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
+    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
+    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
+    {"EpaisseurCame", &DonneesEtude::EpaisseurCame, M2, 161, UniteMm},
+    {"MasseA", &DonneesEtude::MasseA, M2, 163, UniteKg},
+    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
 };
 
 const ChampFichier champsCylindrique[] = {
-    {"RayonGalet", &Etude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &Etude::AnglePesanteur, M2, 169, UniteDegres},
-    {"DiametreCame", &Etude::DiametreCame, M2, 394, UniteMm},
-    {"MasseA", &Etude::MasseA, M2, 395, UniteKg},
-    {"ForceY", &Etude::ForceY, M2Large, 167, UniteN},
+    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
+    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
+    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
+    {"DiametreCame", &DonneesEtude::DiametreCame, M2, 394, UniteMm},
+    {"MasseA", &DonneesEtude::MasseA, M2, 395, UniteKg},
+    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
 };
 
 const ChampFichier champsOscillation[] = {
-    {"RayonGalet", &Etude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &Etude::VitesseCame, M2, 157, UniteTours},
-    {"DiametreCame", &Etude::DiametreCame, M2, 394, UniteMm},
-    {"CoteA", &Etude::CoteA, M2, 400, UniteMm},
-    {"RayonO1P", &Etude::RayonO1P, M2, 155, UniteMm},
-    {"InertieMasseA", &Etude::InertieMasseA, M2, 239, UniteKgM2},
-    {"CoupleConstantO1", &Etude::CoupleConstantO1, M2, 240, UniteNm},
+    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
+    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
+    {"DiametreCame", &DonneesEtude::DiametreCame, M2, 394, UniteMm},
+    {"CoteA", &DonneesEtude::CoteA, M2, 400, UniteMm},
+    {"RayonO1P", &DonneesEtude::RayonO1P, M2, 155, UniteMm},
+    {"InertieMasseA", &DonneesEtude::InertieMasseA, M2, 239, UniteKgM2},
+    {"CoupleConstantO1", &DonneesEtude::CoupleConstantO1, M2, 240, UniteNm},
 };
 
 const ChampFichier champsConjuguees[] = {
-    {"CoteA", &Etude::CoteA, M3, 152, UniteMm},
-    {"CoteB", &Etude::CoteB, M3, 153, UniteMm},
-    {"RayonBrasR1", &Etude::RayonBrasR1, M3, 470, UniteMm},
-    {"RayonGaletG1", &Etude::RayonGaletG1, M3, 471, UniteMm},
-    {"RayonBrasR2", &Etude::RayonBrasR2, M3, 472, UniteMm},
-    {"RayonGaletG2", &Etude::RayonGaletG2, M3, 473, UniteMm},
-    {"VitesseCame", &Etude::VitesseCame, M3, 157, UniteTours},
-    {"AngleBras", &Etude::AngleBras, M3, 474, UniteDegres},
-    {"InertieO1", &Etude::InertieO1, M3Large, 475, UniteKgM2},
+    {"CoteA", &DonneesEtude::CoteA, M3, 152, UniteMm},
+    {"CoteB", &DonneesEtude::CoteB, M3, 153, UniteMm},
+    {"RayonBrasR1", &DonneesEtude::RayonBrasR1, M3, 470, UniteMm},
+    {"RayonGaletG1", &DonneesEtude::RayonGaletG1, M3, 471, UniteMm},
+    {"RayonBrasR2", &DonneesEtude::RayonBrasR2, M3, 472, UniteMm},
+    {"RayonGaletG2", &DonneesEtude::RayonGaletG2, M3, 473, UniteMm},
+    {"VitesseCame", &DonneesEtude::VitesseCame, M3, 157, UniteTours},
+    {"AngleBras", &DonneesEtude::AngleBras, M3, 474, UniteDegres},
+    {"InertieO1", &DonneesEtude::InertieO1, M3Large, 475, UniteKgM2},
 };
 
 constexpr DescriptionZones zonesConjuguees{
@@ -129,23 +129,24 @@ std::string NomSansExtension(const std::string& nomFichier) {
     return TrouveTypeFichier(nom) == nullptr ? nomFichier : nom.stem().string();
 }
 
-bool AChamp(const TypeEtude& type, double Etude::*membre) {
+bool AChamp(const TypeEtude& type, double DonneesEtude::*membre) {
     return std::any_of(type.champs.begin(), type.champs.end(),
                        [membre](const ChampFichier& champ) { return champ.membre == membre; });
 }
 
 int DernierAngleDessin(const TypeEtude& type) {
-    return type.developpee && NombreTours() > 1 ? etude.NombrePoints / etude.PointsParDegre : 360;
+    return type.developpee && NombreTours() > 1 ? etude.resultats.NombrePoints / etude.donnees.PointsParDegre : 360;
 }
 
-double AngleExtreme(std::int16_t Etude::*repere) {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    const double place = etude.*repere;
-    return type != nullptr && type->developpee ? Arrondi(place / etude.PointsParDegre) : place;
+double AngleExtreme(std::int16_t place) {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    return type != nullptr && type->developpee ? Arrondi(static_cast<double>(place) / etude.donnees.PointsParDegre)
+                                               : place;
 }
 
 void CalculeEtude() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
-    if (type == nullptr || !type->Disponible()) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.TypeCame);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr || !type->Disponible())
+        throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     type->calcule();
 }

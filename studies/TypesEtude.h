@@ -16,7 +16,7 @@
 /// and what the screens and reports call it.
 struct ChampFichier {
     const char* nom;
-    double Etude::*membre;
+    double DonneesEtude::*membre;
     const char* masque;
     int texte; ///< text number of its caption
     int unite; ///< text number of its unit
@@ -56,14 +56,15 @@ FiltreFichier FiltreEtude(const TypeEtude& type);
 std::string NomSansExtension(const std::string& nomFichier);
 
 /// True when the kind of study has that scalar.
-bool AChamp(const TypeEtude& type, double Etude::*membre);
+bool AChamp(const TypeEtude& type, double DonneesEtude::*membre);
 
 /// Last cam angle that the drawing of the present results can be brought to, in whole degrees: a plane cam turns once,
 /// a developed one is walked along to the end of its last turn.
 int DernierAngleDessin(const TypeEtude& type);
 
 /// Cam angle at which an extreme value of the present study stands, in whole degrees.
-double AngleExtreme(std::int16_t Etude::*repere);
+/// @param place the angle that a maximum of the record keeps
+double AngleExtreme(std::int16_t place);
 
 /// Runs the pipeline of the present study's kind.
 /// @throws ErreurExecution whatever stops the pipeline; the zones are back in degrees.

@@ -6,8 +6,12 @@
 
 namespace {
 
-template <double Etude::*membre> double De() {
-    return etude.*membre;
+template <auto membre> double De() {
+    return ValeurDe(membre);
+}
+
+template <auto membre> std::int16_t Repere() {
+    return ValeurDe(membre);
 }
 
 template <int texte> int Toutes(const TypeEtude&) {
@@ -38,31 +42,37 @@ constexpr const char* M2Force = "####.##";
 constexpr const char* MInertie = "##.#####";
 
 const ValeurRemarquable valeurs[] = {
-    {GroupeCame, "RayonMin", LibelleMini, De<&Etude::RayonMin>, M3, UniteMm, M3, "(mm) : "},
-    {GroupeCame, "RayonMax", LibelleMaxi, De<&Etude::RayonMax>, M3, UniteMm, M3, "(mm) : "},
-    {GroupeCame, "RayonCourbureMin", Toutes<222>, De<&Etude::RayonCourbureMin>, M2Court, UniteMm, M2Court, "(mm) : "},
+    {GroupeCame, "RayonMin", LibelleMini, De<&ResultatsEtude::RayonMin>, M3, UniteMm, M3, "(mm) : "},
+    {GroupeCame, "RayonMax", LibelleMaxi, De<&ResultatsEtude::RayonMax>, M3, UniteMm, M3, "(mm) : "},
+    {GroupeCame, "RayonCourbureMin", Toutes<222>, De<&ResultatsEtude::RayonCourbureMin>, M2Court, UniteMm, M2Court,
+     "(mm) : "},
     {GroupeCame, "AngleTangentMax", Toutes<223>, PenteMaxi, M2Court, UniteDegres, M2Court, nullptr},
-    {GroupeCame, "CoupleMax", Toutes<232>, De<&Etude::CoupleMax>, M2, UniteNm, M2, "(Nm) : ", &Etude::CoupleMaxAngle},
-    {GroupeCame, "CoupleDemarrage", SiDeveloppee<241>, De<&Etude::CoupleDemarrage>, M2, UniteNm, M2, "(Nm) : ", nullptr,
-     705, " 0.25 sec"},
-    {GroupeCame, "AngleDemarrage", SiDeveloppee<243>, De<&Etude::AngleDemarrage>, M2, UniteDegres, M2, nullptr},
-    {GroupeCame, "MasseCame", Toutes<234>, De<&Etude::MasseCame>, M2Court, UniteKg, M2Court, "(Kg) : "},
-    {GroupeCame, "InertieCame", Toutes<233>, De<&Etude::InertieCame>, M2Court, UniteKgM2, MInertie, "(Kgm²) : "},
-    {GroupeGalet, "VitesseRayonMax", Toutes<225>, De<&Etude::VitesseRayonMax>, M2Court, UniteMS, M2,
-     "(m/sec) : ", &Etude::VitesseRayonMaxAngle},
-    {GroupeGalet, "AccelRayonMax", Toutes<226>, De<&Etude::AccelRayonMax>, M2Court, UniteMS2, M2,
-     "(m/sec²) : ", &Etude::AccelRayonMaxAngle},
-    {GroupeGalet, "VitesseGaletMoyenne", Toutes<229>, De<&Etude::VitesseGaletMoyenne>, M2, UniteTours, M2, nullptr},
-    {GroupeGalet, "VitesseGaletMax", Toutes<230>, De<&Etude::VitesseGaletMax>, M2, UniteTours, M2, nullptr},
-    {GroupeGalet, "ForceGaletMax", Toutes<231>, De<&Etude::ForceGaletMax>, M2Force, UniteN, M2Force,
-     "(N) : ", &Etude::ForceGaletMaxAngle},
-    {GroupeBras, "LoiCourseMax", SiRayonsBras<237>, De<&Etude::LoiCourseMax>, M2, UniteDegres, M2, nullptr},
-    {GroupeBras, "LoiVitesseMax", SiBras<225>, De<&Etude::LoiVitesseMax>, M2Court, UniteRadS, M2,
-     "(rad/sec) : ", &Etude::LoiVitesseMaxAngle},
-    {GroupeBras, "LoiAccelMax", SiBras<226>, De<&Etude::LoiAccelMax>, M2Court, UniteRadS2, M2,
-     "(rad/sec²): ", &Etude::LoiAccelMaxAngle},
-    {GroupeBras, "InertieBras", SiRayonsBras<235>, De<&Etude::InertieBras>, MInertie, UniteKgM2, MInertie, "(Kgm²) : "},
-    {GroupeBras, "InertieMasseA", SiRayonsBras<236>, De<&Etude::InertieMasseA>, MInertie, UniteKgM2, MInertie,
+    {GroupeCame, "CoupleMax", Toutes<232>, De<&ResultatsEtude::CoupleMax>, M2, UniteNm, M2,
+     "(Nm) : ", Repere<&ResultatsEtude::CoupleMaxAngle>},
+    {GroupeCame, "CoupleDemarrage", SiDeveloppee<241>, De<&ResultatsEtude::CoupleDemarrage>, M2, UniteNm, M2,
+     "(Nm) : ", nullptr, 705, " 0.25 sec"},
+    {GroupeCame, "AngleDemarrage", SiDeveloppee<243>, De<&ResultatsEtude::AngleDemarrage>, M2, UniteDegres, M2,
+     nullptr},
+    {GroupeCame, "MasseCame", Toutes<234>, De<&ResultatsEtude::MasseCame>, M2Court, UniteKg, M2Court, "(Kg) : "},
+    {GroupeCame, "InertieCame", Toutes<233>, De<&ResultatsEtude::InertieCame>, M2Court, UniteKgM2, MInertie,
+     "(Kgm²) : "},
+    {GroupeGalet, "VitesseRayonMax", Toutes<225>, De<&ResultatsEtude::VitesseRayonMax>, M2Court, UniteMS, M2,
+     "(m/sec) : ", Repere<&ResultatsEtude::VitesseRayonMaxAngle>},
+    {GroupeGalet, "AccelRayonMax", Toutes<226>, De<&ResultatsEtude::AccelRayonMax>, M2Court, UniteMS2, M2,
+     "(m/sec²) : ", Repere<&ResultatsEtude::AccelRayonMaxAngle>},
+    {GroupeGalet, "VitesseGaletMoyenne", Toutes<229>, De<&ResultatsEtude::VitesseGaletMoyenne>, M2, UniteTours, M2,
+     nullptr},
+    {GroupeGalet, "VitesseGaletMax", Toutes<230>, De<&DurablesEtude::VitesseGaletMax>, M2, UniteTours, M2, nullptr},
+    {GroupeGalet, "ForceGaletMax", Toutes<231>, De<&ResultatsEtude::ForceGaletMax>, M2Force, UniteN, M2Force,
+     "(N) : ", Repere<&ResultatsEtude::ForceGaletMaxAngle>},
+    {GroupeBras, "LoiCourseMax", SiRayonsBras<237>, De<&DurablesEtude::LoiCourseMax>, M2, UniteDegres, M2, nullptr},
+    {GroupeBras, "LoiVitesseMax", SiBras<225>, De<&DurablesEtude::LoiVitesseMax>, M2Court, UniteRadS, M2,
+     "(rad/sec) : ", Repere<&DurablesEtude::LoiVitesseMaxAngle>},
+    {GroupeBras, "LoiAccelMax", SiBras<226>, De<&DurablesEtude::LoiAccelMax>, M2Court, UniteRadS2, M2,
+     "(rad/sec²): ", Repere<&DurablesEtude::LoiAccelMaxAngle>},
+    {GroupeBras, "InertieBras", SiRayonsBras<235>, De<&ResultatsEtude::InertieBras>, MInertie, UniteKgM2, MInertie,
+     "(Kgm²) : "},
+    {GroupeBras, "InertieMasseA", SiRayonsBras<236>, De<&DonneesEtude::InertieMasseA>, MInertie, UniteKgM2, MInertie,
      "(Kgm²) : "},
 };
 

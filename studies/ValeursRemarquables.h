@@ -18,10 +18,10 @@ struct ValeurRemarquable {
     const char* masque; ///< on the screen
     int unite;          ///< text number
     const char* masqueRapport;
-    const char* uniteRapport; ///< on paper, the same in every language; none where it is that of the screen
-    std::int16_t Etude::*repere = nullptr; ///< where the extreme stands
-    int texteRapport = 0;                  ///< caption on paper, where it is another
-    const char* suiteRapport = "";         ///< what follows the value on paper
+    const char* uniteRapport;           ///< on paper, the same in every language; none where it is that of the screen
+    std::int16_t (*repere)() = nullptr; ///< where the extreme stands
+    int texteRapport = 0;               ///< caption on paper, where it is another
+    const char* suiteRapport = "";      ///< what follows the value on paper
 };
 
 std::span<const ValeurRemarquable> LesValeursRemarquables();

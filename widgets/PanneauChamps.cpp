@@ -43,7 +43,7 @@ PanneauChamps::PanneauChamps(const char* nom, int titre, std::span<const ChampSa
 }
 
 void PanneauChamps::Charge() {
-    for (std::size_t i = 0; i < lesChamps_.size(); ++i) lesChamps_[i]->Montre(etude.*table_[i].membre);
+    for (std::size_t i = 0; i < lesChamps_.size(); ++i) lesChamps_[i]->Montre(etude.donnees.*table_[i].membre);
 }
 
 bool PanneauChamps::Lit() {
@@ -51,8 +51,8 @@ bool PanneauChamps::Lit() {
     for (const ChampNombre* champ : lesChamps_) valeurs.push_back(champ->Valeur());
     bool change = false;
     for (std::size_t i = 0; i < valeurs.size(); ++i) {
-        change = change || etude.*table_[i].membre != valeurs[i];
-        etude.*table_[i].membre = valeurs[i];
+        change = change || etude.donnees.*table_[i].membre != valeurs[i];
+        etude.donnees.*table_[i].membre = valeurs[i];
     }
     return change;
 }
@@ -66,7 +66,7 @@ ChampNombre* PanneauChamps::Champ(const char* controle) const {
     throw std::logic_error(std::string("no field ") + controle + " among:" + noms);
 }
 
-ChampNombre* PanneauChamps::ChampDe(double Etude::*membre) const {
+ChampNombre* PanneauChamps::ChampDe(double DonneesEtude::*membre) const {
     for (std::size_t i = 0; i < lesChamps_.size(); ++i)
         if (table_[i].membre == membre) return lesChamps_[i];
     return nullptr;

@@ -16,7 +16,7 @@ struct ChampSaisie {
     const char* controle;
     int texte;
     int unite; ///< text number, 0 for none
-    double Etude::*membre;
+    double DonneesEtude::*membre;
 };
 
 class PanneauChamps : public QGroupBox {
@@ -36,7 +36,7 @@ public:
     /// @throws std::logic_error when there is no such field, with the names there are.
     ChampNombre* Champ(const char* controle) const;
     /// The field of a member of the record; none when this panel does not have it.
-    ChampNombre* ChampDe(double Etude::*membre) const;
+    ChampNombre* ChampDe(double DonneesEtude::*membre) const;
     const std::vector<ChampNombre*>& Champs() const { return lesChamps_; }
 
 signals:

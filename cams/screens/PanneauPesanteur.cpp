@@ -37,14 +37,14 @@ void PanneauPesanteur::Lit() {
 }
 
 void PanneauPesanteur::Change(double angle) {
-    const double ancien = std::exchange(etude.AnglePesanteur, std::clamp(angle, 0.0, 360.0));
+    const double ancien = std::exchange(etude.donnees.AnglePesanteur, std::clamp(angle, 0.0, 360.0));
     Montre();
-    if (etude.AnglePesanteur != ancien) emit Modifie();
+    if (etude.donnees.AnglePesanteur != ancien) emit Modifie();
 }
 
 void PanneauPesanteur::Montre() {
-    champ_->Montre(etude.AnglePesanteur);
+    champ_->Montre(etude.donnees.AnglePesanteur);
     const QSignalBlocker muet(defilement_);
-    defilement_->setValue(static_cast<int>(Arrondi(std::clamp(etude.AnglePesanteur, 0.0, 360.0))));
-    dessin_->Peint([angle = etude.AnglePesanteur](Dessin& dessin) { DessinePesanteur(dessin, angle); });
+    defilement_->setValue(static_cast<int>(Arrondi(std::clamp(etude.donnees.AnglePesanteur, 0.0, 360.0))));
+    dessin_->Peint([angle = etude.donnees.AnglePesanteur](Dessin& dessin) { DessinePesanteur(dessin, angle); });
 }

@@ -62,7 +62,7 @@ PanneauRotation::PanneauRotation(QWidget* parent) : QWidget(parent), pas_(new QT
 }
 
 PanneauRotation::~PanneauRotation() {
-    etude.RotationEnCours = Faux;
+    etude.resultats.RotationEnCours = Faux;
 }
 
 void PanneauRotation::FaitCommandes(QBoxLayout& disposition) {
@@ -115,10 +115,10 @@ void PanneauRotation::Montre(const Vue& vue) {
 void PanneauRotation::MontreAngle(int angle) {
     texteAngle_->Montre(angle);
     if (vue_.dessine == nullptr) return;
-    etude.AngleRotation = vue_.couchee ? 0.0 : angle / RadDeg;
-    const long point = static_cast<long>(etude.PointsParDegre) * angle;
-    const bool present = point <= etude.Profil.BorneHaute();
-    pression_->setText(present ? Q(Format(Pente(etude.Profil[point].AngleTangent), "0.00")) : QString());
+    etude.resultats.AngleRotation = vue_.couchee ? 0.0 : angle / RadDeg;
+    const long point = static_cast<long>(etude.donnees.PointsParDegre) * angle;
+    const bool present = point <= etude.resultats.Profil.BorneHaute();
+    pression_->setText(present ? Q(Format(Pente(etude.resultats.Profil[point].AngleTangent), "0.00")) : QString());
     dessin_->Peint([dessine = vue_.dessine, angle](Dessin& dessin) { dessine(dessin, angle); });
 }
 
@@ -131,14 +131,14 @@ void PanneauRotation::EntreAngle() {
 }
 
 bool PanneauRotation::RotationEnCours() const {
-    return etude.RotationEnCours != Faux;
+    return etude.resultats.RotationEnCours != Faux;
 }
 
 void PanneauRotation::Tourne() {
     arret_->setEnabled(true);
     tourner_->setEnabled(false);
     arret_->setFocus();
-    etude.RotationEnCours = Vrai;
+    etude.resultats.RotationEnCours = Vrai;
     ArmePas();
 }
 
@@ -161,7 +161,7 @@ void PanneauRotation::Avance() {
 
 void PanneauRotation::Arrete() {
     pas_->stop();
-    etude.RotationEnCours = Faux;
+    etude.resultats.RotationEnCours = Faux;
     arret_->setEnabled(false);
     tourner_->setEnabled(true);
 }

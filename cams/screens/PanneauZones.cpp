@@ -64,10 +64,11 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     AppliqueLegendes(*this, legendes);
     RelieChamps();
 
-    zonesEntrees_ = etude.NombreZones;
-    etude.ZoneCourante = 1;
-    nombreZones_->Montre(etude.NombreZones);
-    pointsParDegre_->setCurrentText(etude.PointsParDegre == 0 ? "1" : QString::number(etude.PointsParDegre));
+    zonesEntrees_ = etude.donnees.NombreZones;
+    etude.donnees.ZoneCourante = 1;
+    nombreZones_->Montre(etude.donnees.NombreZones);
+    pointsParDegre_->setCurrentText(etude.donnees.PointsParDegre == 0 ? "1"
+                                                                      : QString::number(etude.donnees.PointsParDegre));
     ProposeFichier();
     MontreZone();
     RemplitGrille();
@@ -131,11 +132,11 @@ void PanneauZones::EntreNombreZones() {
         return;
     }
     nombreZones_->Montre(nombre);
-    if (Entier16(nombre) == etude.NombreZones) return;
-    etude.NombreZones = Entier16(nombre);
+    if (Entier16(nombre) == etude.donnees.NombreZones) return;
+    etude.donnees.NombreZones = Entier16(nombre);
     emit Modifie();
-    etude.Zones.Redimensionne(etude.NombreZones);
-    etude.ZoneCourante = 1;
+    etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
+    etude.donnees.ZoneCourante = 1;
     zonesEntrees_ = 0;
     ProposeFichier();
     MontreZone();
@@ -144,7 +145,7 @@ void PanneauZones::EntreNombreZones() {
 
 /// A study of one zone may take its law from a file; any other may not.
 bool PanneauZones::FichierPermis() const {
-    return description_.loiDeFichier && etude.NombreZones == 1;
+    return description_.loiDeFichier && etude.donnees.NombreZones == 1;
 }
 
 void PanneauZones::ProposeFichier() {
@@ -155,13 +156,14 @@ void PanneauZones::ProposeFichier() {
 }
 
 void PanneauZones::MontreZone() {
-    const std::int16_t z = etude.ZoneCourante;
+    const std::int16_t z = etude.donnees.ZoneCourante;
     cadreZone_->setTitle(QTexte(187) + " " + Q(Format(z, "###")));
     const bool entree = z <= zonesEntrees_;
-    const Zone zone = entree ? etude.Zones[z] : Zone{};
+    const Zone zone = entree ? etude.donnees.Zones[z] : Zone{};
     // A zone begins where the one before ends.
     const bool propre = z <= 1 || (entree && !description_.departsSuivis);
-    valeurDepart_->Montre(propre ? zone.*description_.valeurDepart : etude.Zones[z - 1].*description_.valeurFinale);
+    valeurDepart_->Montre(propre ? zone.*description_.valeurDepart
+                                 : etude.donnees.Zones[z - 1].*description_.valeurFinale);
     valeurDepart_->setEnabled(z <= 1 || !description_.departsSuivis);
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
@@ -172,26 +174,26 @@ void PanneauZones::MontreZone() {
 }
 
 void PanneauZones::MontreBoutons() {
-    suivante_->setEnabled(etude.NombreZones > 0);
+    suivante_->setEnabled(etude.donnees.NombreZones > 0);
     suivante_->setDefault(!Complet());
     emit Change();
 }
 
 void PanneauZones::RemplitGrille() {
-    grille_->Remplit({EntetesZones(description_), etude.NombreZones,
+    grille_->Remplit({EntetesZones(description_), etude.donnees.NombreZones,
                       [&zones = description_, entrees = zonesEntrees_](int ligne, int colonne) {
                           return CelluleZone(zones, ligne, colonne, entrees);
                       },
                       ColonnesTexteZones(description_)});
     double somme = 0;
-    for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.Zones[z].AngleCame;
+    for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.donnees.Zones[z].AngleCame;
     somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));
 }
 
 void PanneauZones::VaALaZone(int ligne) {
     // Only zones already entered, or the first that is not, can be gone to.
-    if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.NombreZones)) return;
-    etude.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
+    if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones)) return;
+    etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
     (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
 }
@@ -234,17 +236,17 @@ bool PanneauZones::ChercheFichier() {
     if (!chemin || chemin->empty()) return false;
     LitFichierLoi(*chemin);
     emit Modifie();
-    etude.Erreur = Faux;
-    etude.Zones.Redimensionne(1);
-    Zone& zone = etude.Zones[1];
+    etude.resultats.Erreur = Faux;
+    etude.donnees.Zones.Redimensionne(1);
+    Zone& zone = etude.donnees.Zones[1];
     zone.*description_.valeurDepart = valeurDepart_->Valeur();
     zone.*description_.valeurFinale = valeurFinale_->Valeur();
     zone.NomLoi = NomLoiFichier;
     zone.CoefSymetrie = symetrie_->Valeur();
     // A law file is 720 points over a whole turn.
     zone.AngleCame = 360;
-    etude.NombreZones = 1;
-    etude.ZoneCourante = 1;
+    etude.donnees.NombreZones = 1;
+    etude.donnees.ZoneCourante = 1;
     zonesEntrees_ = 1;
     nombreZones_->Montre(1);
     pointsParDegre_->setCurrentText("2");
@@ -268,7 +270,7 @@ bool PanneauZones::DemandePourcentage(std::string& nomLoi) {
 }
 
 void PanneauZones::Suivante() {
-    if (etude.ZoneCourante > etude.NombreZones) return;
+    if (etude.donnees.ZoneCourante > etude.donnees.NombreZones) return;
     Zone zone;
     zone.*description_.valeurDepart = valeurDepart_->Valeur();
     zone.*description_.valeurFinale = valeurFinale_->Valeur();
@@ -288,11 +290,11 @@ void PanneauZones::Suivante() {
 }
 
 void PanneauZones::TermineZone(const Zone& zone) {
-    etude.Zones[etude.ZoneCourante] = zone;
+    etude.donnees.Zones[etude.donnees.ZoneCourante] = zone;
     emit Modifie();
-    zonesEntrees_ = std::max(zonesEntrees_, etude.ZoneCourante);
-    const bool derniere = etude.ZoneCourante == etude.NombreZones;
-    if (!derniere) ++etude.ZoneCourante;
+    zonesEntrees_ = std::max(zonesEntrees_, etude.donnees.ZoneCourante);
+    const bool derniere = etude.donnees.ZoneCourante == etude.donnees.NombreZones;
+    if (!derniere) ++etude.donnees.ZoneCourante;
     MontreZone();
     RemplitGrille();
     if (derniere)
@@ -309,7 +311,7 @@ bool PanneauZones::LitPointsParDegre() {
     else if (const int texte = FautePoints(Entier16(Val(points))))
         faute = Texte(texte);
     if (faute.empty()) {
-        etude.PointsParDegre = Entier16(Val(points));
+        etude.donnees.PointsParDegre = Entier16(Val(points));
         return true;
     }
     LesDialogues().Message(Icone::Avertissement, faute);

@@ -33,7 +33,7 @@ public:
 
     void PrendFocus();
     QPushButton* BoutonSuivante() const { return suivante_; }
-    bool Complet() const { return etude.NombreZones > 0 && zonesEntrees_ == etude.NombreZones; }
+    bool Complet() const { return etude.donnees.NombreZones > 0 && zonesEntrees_ == etude.donnees.NombreZones; }
 
     /// From the list to the record, checked, also for the number of points that the zones make.
     /// @return false when it is refused, after the box that says so, with the focus on the list.

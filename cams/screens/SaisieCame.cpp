@@ -95,8 +95,8 @@ void SaisieCame::MontreBoutons() {
 
 /// Results of other data are neither printed nor saved.
 void SaisieCame::PerimeResultats() {
-    etude.ResultatsPrets = Faux;
-    etude.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.EtudeModifiee = Faux;
 }
 
 void SaisieCame::LitPanneau(PanneauChamps& panneau) {
@@ -116,7 +116,7 @@ bool SaisieCame::FauteDeDonnee(std::optional<FauteDonnee> (*cherche)()) {
     return true;
 }
 
-void SaisieCame::MontreFaute(double Etude::*membre) {
+void SaisieCame::MontreFaute(double DonneesEtude::*membre) {
     for (auto* panneau : panneaux_)
         if (auto* champ = panneau->ChampDe(membre)) champ->setFocus();
 }
@@ -135,16 +135,16 @@ void SaisieCame::ChargeDonnees() {
 bool SaisieCame::HorsDePortee() {
     if (SansErreur()) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(75));
-    MontreFaute(&Etude::RayonO1P);
+    MontreFaute(&DonneesEtude::RayonO1P);
     return true;
 }
 
 bool SaisieCame::AcheveZone(Zone& zone) {
     LitDonnees();
     if (FauteDeDonnee(description_.chercheFauteZone) || !ControleZone(zone)) return false;
-    std::swap(etude.Zones[etude.ZoneCourante], zone);
-    CompleteZone(etude.ZoneCourante, description_.zones.rayonsBras);
-    std::swap(etude.Zones[etude.ZoneCourante], zone);
+    std::swap(etude.donnees.Zones[etude.donnees.ZoneCourante], zone);
+    CompleteZone(etude.donnees.ZoneCourante, description_.zones.rayonsBras);
+    std::swap(etude.donnees.Zones[etude.donnees.ZoneCourante], zone);
     return !HorsDePortee();
 }
 
@@ -157,17 +157,17 @@ void SaisieCame::Calculer() {
     CompleteZones(description_.zones.rayonsBras);
     if (HorsDePortee()) return;
     const Sablier sablier;
-    etude.ResultatsPrets = Faux;
+    etude.resultats.ResultatsPrets = Faux;
     description_.calcule();
     if (!SansErreur()) return;
-    etude.EtudeModifiee = Vrai;
-    etude.ResultatsPrets = Vrai;
+    etude.resultats.EtudeModifiee = Vrai;
+    etude.resultats.ResultatsPrets = Vrai;
     emit EtudeCalculee();
 }
 
 void SaisieCame::Retour() {
-    etude.ZoneCourante = 0;
-    etude.EtudeModifiee = Faux;
-    etude.ResultatsPrets = Faux;
+    etude.donnees.ZoneCourante = 0;
+    etude.resultats.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
     emit Quitte();
 }

@@ -60,7 +60,7 @@ private:
     void LitPanneau(PanneauChamps& panneau);
     void LitDonnees();
     bool FauteDeDonnee(std::optional<FauteDonnee> (*cherche)());
-    void MontreFaute(double Etude::*membre);
+    void MontreFaute(double DonneesEtude::*membre);
     bool HorsDePortee();
     void MontreBoutons();
     void Calculer();

@@ -11,15 +11,15 @@
 namespace {
 
 constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 157, UniteTours, &Etude::VitesseCame},
-    {"Text2", 123, UniteMm, &Etude::RayonGalet},
-    {"Text10", 394, UniteMm, &Etude::DiametreCame},
+    {"Text1", 157, UniteTours, &DonneesEtude::VitesseCame},
+    {"Text2", 123, UniteMm, &DonneesEtude::RayonGalet},
+    {"Text10", 394, UniteMm, &DonneesEtude::DiametreCame},
 };
 constexpr ChampSaisie champsMasse[] = {
-    {"Text4", 395, UniteKg, &Etude::MasseA},
+    {"Text4", 395, UniteKg, &DonneesEtude::MasseA},
 };
 constexpr ChampSaisie champsForces[] = {
-    {"Text5", 167, UniteN, &Etude::ForceY},
+    {"Text5", 167, UniteN, &DonneesEtude::ForceY},
 };
 
 constexpr DescriptionSaisie description{

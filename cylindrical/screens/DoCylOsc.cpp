@@ -12,15 +12,15 @@
 namespace {
 
 constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 400, UniteMm, &Etude::CoteA},
-    {"Text2", 155, UniteMm, &Etude::RayonO1P},
-    {"Text3", 394, UniteMm, &Etude::DiametreCame},
-    {"RayonGalet", 123, UniteMm, &Etude::RayonGalet},
-    {"VitesseCame", 157, UniteTours, &Etude::VitesseCame},
+    {"Text1", 400, UniteMm, &DonneesEtude::CoteA},
+    {"Text2", 155, UniteMm, &DonneesEtude::RayonO1P},
+    {"Text3", 394, UniteMm, &DonneesEtude::DiametreCame},
+    {"RayonGalet", 123, UniteMm, &DonneesEtude::RayonGalet},
+    {"VitesseCame", 157, UniteTours, &DonneesEtude::VitesseCame},
 };
 constexpr ChampSaisie champsEfforts[] = {
-    {"Text6", 239, UniteKgM2, &Etude::InertieMasseA},
-    {"Text7", 240, UniteNm, &Etude::CoupleConstantO1},
+    {"Text6", 239, UniteKgM2, &DonneesEtude::InertieMasseA},
+    {"Text7", 240, UniteNm, &DonneesEtude::CoupleConstantO1},
 };
 
 constexpr DescriptionSaisie description{"DoCylOsc",
@@ -44,11 +44,11 @@ DoCylOsc::DoCylOsc(QWidget* parent) : SaisieCame(description, parent) {
 
 void DoCylOsc::ProposeDonnees() {
     const double proposee = ProposeCoteA();
-    if (etude.CoteA == proposee) return;
+    if (etude.donnees.CoteA == proposee) return;
     const bool accepte =
         LesDialogues().Question(Texte(528) + " 'a' " + Texte(529) + "\na = " + Format(proposee, "###.##") + "\n" +
-                                Texte(530) + " : " + Format(etude.CoteA, "#####.##") + " " + Texte(531) + " ");
+                                Texte(530) + " : " + Format(etude.donnees.CoteA, "#####.##") + " " + Texte(531) + " ");
     if (!accepte) return;
-    etude.CoteA = proposee;
+    etude.donnees.CoteA = proposee;
     ChargeDonnees();
 }

@@ -44,10 +44,10 @@ struct ColonneLoi {
     const char* masque;
 };
 constexpr ColonneLoi colonnes[] = {
-    {339, Grandeur::AngleEntree, [](long i) { return etude.Points[i].Angle; }, "0.00"},
-    {250, Grandeur::Sortie, [](long i) { return etude.Mouvement[i].Course; }, "0.000"},
-    {225, Grandeur::Vitesse, [](long i) { return etude.Mouvement[i].Vitesse; }, "0.00000"},
-    {226, Grandeur::Accel, [](long i) { return etude.Mouvement[i].Accel; }, "0.00000"},
+    {339, Grandeur::AngleEntree, [](long i) { return etude.resultats.Points[i].Angle; }, "0.00"},
+    {250, Grandeur::Sortie, [](long i) { return etude.resultats.Mouvement[i].Course; }, "0.000"},
+    {225, Grandeur::Vitesse, [](long i) { return etude.resultats.Mouvement[i].Vitesse; }, "0.00000"},
+    {226, Grandeur::Accel, [](long i) { return etude.resultats.Mouvement[i].Accel; }, "0.00000"},
 };
 
 QString NomUnite(Grandeur grandeur) {
@@ -58,7 +58,7 @@ QString NomUnite(Grandeur grandeur) {
 /// The unit law that the study is about, before it has any numbers.
 Tableau<PointLoi> TableApercu(const EtudeLoi& loi) {
     for (const ChoixLoi& choix : LesChoixLois())
-        if (loi.ecran == std::string_view(choix.ecran) && (choix.loi == nullptr || etude.LoiChoisie == choix.loi))
+        if (loi.ecran == std::string_view(choix.ecran) && (choix.loi == nullptr || etude.lois.LoiChoisie == choix.loi))
             return TableChoix(choix, choix.loi == nullptr ? Tableau<Loi>() : LitLois(), PasApercu);
     return {};
 }
@@ -67,9 +67,9 @@ Tableau<PointLoi> TableApercu(const EtudeLoi& loi) {
 
 EcranLoi::EcranLoi(const EtudeLoi& loi, QWidget* parent) : QWidget(parent), loi_(loi), apercu_(TableApercu(loi)) {
     setObjectName(QString::fromLatin1(loi.ecran));
-    etude.TypeLoi = loi.typeLoi;
-    etude.*loi.active = Vrai;
-    etude.SortieEnDegres = loi.degresDabord ? Vrai : Faux;
+    etude.donnees.TypeLoi = loi.typeLoi;
+    etude.donnees.*loi.active = Vrai;
+    etude.donnees.SortieEnDegres = loi.degresDabord ? Vrai : Faux;
 
     auto* gauche = new QWidget;
     auto* colonne = new QVBoxLayout(gauche);
@@ -112,7 +112,7 @@ QWidget* EcranLoi::FaitDonnees() {
         if (!champ.Employe()) continue;
         auto* zone = AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, champ.texte, 0);
         zone->RefuseSigne(!champ.signe);
-        if (const double valeur = etude.*champ.membre; valeur != 0.0) zone->Montre(valeur);
+        if (const double valeur = etude.donnees.*champ.membre; valeur != 0.0) zone->Montre(valeur);
         champs_.push_back({&champ, zone});
     }
     pointsParDegre_ = Nomme(new QComboBox, "Combo1");
@@ -212,7 +212,7 @@ void EcranLoi::MiseJourUnites() {
 
 /// Results that are shown are calculated again in the other unit.
 void EcranLoi::ChoisitUnites() {
-    etude.SortieEnDegres = option1_->isChecked() == loi_.degresDabord ? Vrai : Faux;
+    etude.donnees.SortieEnDegres = option1_->isChecked() == loi_.degresDabord ? Vrai : Faux;
     MiseJourUnites();
     if (Calculee()) Calculer();
 }
@@ -220,21 +220,21 @@ void EcranLoi::ChoisitUnites() {
 // ---- study
 
 bool EcranLoi::Calculee() const {
-    return etude.ResultatsPrets != Faux;
+    return etude.resultats.ResultatsPrets != Faux;
 }
 
 /// Results of other data are neither shown nor printed nor saved.
 void EcranLoi::PerimeResultats() {
     if (!Calculee()) return;
-    etude.ResultatsPrets = Faux;
-    etude.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.EtudeModifiee = Faux;
     MontreResultats();
 }
 
 void EcranLoi::LitDonnees() {
-    for (const Ligne& ligne : champs_) etude.*ligne.champ->membre = ligne.zone->Valeur();
-    etude.PointsParDegre = Entier16(Val(S(pointsParDegre_->currentText())));
-    if (etude.PointsParDegre == 0) etude.PointsParDegre = 1;
+    for (const Ligne& ligne : champs_) etude.donnees.*ligne.champ->membre = ligne.zone->Valeur();
+    etude.donnees.PointsParDegre = Entier16(Val(S(pointsParDegre_->currentText())));
+    if (etude.donnees.PointsParDegre == 0) etude.donnees.PointsParDegre = 1;
 }
 
 void EcranLoi::MontreFaute(const FauteLoi& faute) {
@@ -246,16 +246,16 @@ void EcranLoi::MontreFaute(const FauteLoi& faute) {
 
 void EcranLoi::Calculer() {
     LitDonnees();
-    etude.ResultatsPrets = Faux;
-    etude.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.EtudeModifiee = Faux;
     if (const auto faute = ChercheFauteLoi(loi_)) {
         MontreResultats();
         MontreFaute(*faute);
         return;
     }
     resultat_ = CalculeEtudeLoi(loi_);
-    etude.ResultatsPrets = Vrai;
-    etude.EtudeModifiee = Vrai;
+    etude.resultats.ResultatsPrets = Vrai;
+    etude.resultats.EtudeModifiee = Vrai;
     MontreResultats();
     emit LoiCalculee();
 }
@@ -280,7 +280,7 @@ void EcranLoi::RemplitGrille() {
     Grille::Contenu contenu;
     for (const ColonneLoi& colonne : colonnes)
         contenu.entetes.push_back(Texte(colonne.texte) + "\n" + Texte(UniteLoi(colonne.grandeur)));
-    contenu.lignes = Calculee() ? etude.NombrePoints + 1 : 0;
+    contenu.lignes = Calculee() ? etude.resultats.NombrePoints + 1 : 0;
     contenu.cellule = [](int ligne, int colonne) {
         const ColonneLoi& c = colonnes[colonne];
         return Format(c.valeur(ligne), c.masque);
@@ -293,12 +293,12 @@ void EcranLoi::Enregistrer() {
         LesDialogues().Message(Icone::Information, Texte(359));
         return;
     }
-    const std::string nom = loi_.genre == nullptr ? etude.LoiEtude.NomLoi : loi_.typeLoi;
+    const std::string nom = loi_.genre == nullptr ? etude.lois.LoiEtude.NomLoi : loi_.typeLoi;
     if (const auto fichier = EnregistreLoi(nom)) emit LoiEnregistree(Q(*fichier));
 }
 
 void EcranLoi::Retour() {
-    etude.EtudeModifiee = Faux;
-    etude.ResultatsPrets = Faux;
+    etude.resultats.EtudeModifiee = Faux;
+    etude.resultats.ResultatsPrets = Faux;
     emit Quitte();
 }

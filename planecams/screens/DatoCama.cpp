@@ -12,22 +12,22 @@
 namespace {
 
 constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 152, UniteMm, &Etude::CoteA},           {"Text2", 153, UniteMm, &Etude::CoteB},
-    {"Text3", 154, UniteMm, &Etude::RayonO1A},        {"Text4", 155, UniteMm, &Etude::RayonO1P},
-    {"Text5", 156, UniteDegres, &Etude::AnglePO1A},   {"Text6", 123, UniteMm, &Etude::RayonGalet},
-    {"Text18", 157, UniteTours, &Etude::VitesseCame},
+    {"Text1", 152, UniteMm, &DonneesEtude::CoteA},           {"Text2", 153, UniteMm, &DonneesEtude::CoteB},
+    {"Text3", 154, UniteMm, &DonneesEtude::RayonO1A},        {"Text4", 155, UniteMm, &DonneesEtude::RayonO1P},
+    {"Text5", 156, UniteDegres, &DonneesEtude::AnglePO1A},   {"Text6", 123, UniteMm, &DonneesEtude::RayonGalet},
+    {"Text18", 157, UniteTours, &DonneesEtude::VitesseCame},
 };
 constexpr ChampSaisie champsMasses[] = {
-    {"Text7", 159, UniteKg, &Etude::MasseBrasO1A},
-    {"Text8", 160, UniteKg, &Etude::MasseBrasO1P},
-    {"Text9", 161, UniteMm, &Etude::EpaisseurCame},
+    {"Text7", 159, UniteKg, &DonneesEtude::MasseBrasO1A},
+    {"Text8", 160, UniteKg, &DonneesEtude::MasseBrasO1P},
+    {"Text9", 161, UniteMm, &DonneesEtude::EpaisseurCame},
 };
 constexpr ChampSaisie champsForces[] = {
-    {"Text10", 163, UniteKg, &Etude::MasseA},
+    {"Text10", 163, UniteKg, &DonneesEtude::MasseA},
 };
 constexpr ChampSaisie champsExterieurs[] = {
-    {"Text11", 166, UniteN, &Etude::ForceX},
-    {"Text12", 167, UniteN, &Etude::ForceY},
+    {"Text11", 166, UniteN, &DonneesEtude::ForceX},
+    {"Text12", 167, UniteN, &DonneesEtude::ForceY},
 };
 
 /// The dimension of the drawing that a field sets off while it has the focus.

@@ -14,15 +14,15 @@
 namespace {
 
 constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 123, UniteMm, &Etude::RayonGalet},
-    {"Text2", 157, UniteTours, &Etude::VitesseCame},
-    {"Text3", 161, UniteMm, &Etude::EpaisseurCame},
+    {"Text1", 123, UniteMm, &DonneesEtude::RayonGalet},
+    {"Text2", 157, UniteTours, &DonneesEtude::VitesseCame},
+    {"Text3", 161, UniteMm, &DonneesEtude::EpaisseurCame},
 };
 constexpr ChampSaisie champsMasse[] = {
-    {"Text4", 163, UniteKg, &Etude::MasseA},
+    {"Text4", 163, UniteKg, &DonneesEtude::MasseA},
 };
 constexpr ChampSaisie champsForces[] = {
-    {"Text5", 167, UniteN, &Etude::ForceY},
+    {"Text5", 167, UniteN, &DonneesEtude::ForceY},
 };
 
 constexpr DescriptionSaisie description{

@@ -36,13 +36,13 @@ constexpr int OngletRotation = 4;
 
 /// What may be changed here and calculated again.
 constexpr ChampSaisie champsRecalcul[] = {
-    {"Text2", 164, UniteKg, &Etude::MasseA},
-    {"Text3", 166, UniteN, &Etude::ForceX},
-    {"Text4", 167, UniteN, &Etude::ForceY},
-    {"Text5", 123, UniteMm, &Etude::RayonGalet},
-    {"Text6", 157, UniteTours, &Etude::VitesseCame},
-    {"Text7", 239, UniteKgM2, &Etude::InertieMasseA},
-    {"Text8", 240, UniteNm, &Etude::CoupleConstantO1},
+    {"Text2", 164, UniteKg, &DonneesEtude::MasseA},
+    {"Text3", 166, UniteN, &DonneesEtude::ForceX},
+    {"Text4", 167, UniteN, &DonneesEtude::ForceY},
+    {"Text5", 123, UniteMm, &DonneesEtude::RayonGalet},
+    {"Text6", 157, UniteTours, &DonneesEtude::VitesseCame},
+    {"Text7", 239, UniteKgM2, &DonneesEtude::InertieMasseA},
+    {"Text8", 240, UniteNm, &DonneesEtude::CoupleConstantO1},
 };
 
 /// The groups of remarkable values and their places on the sheet.
@@ -73,7 +73,7 @@ void MontreRang(QWidget& controle, bool montre) {
         if (auto* element = grille->itemAtPosition(rang, c)) element->widget()->setVisible(montre);
 }
 
-bool EstRecalculable(double Etude::*membre) {
+bool EstRecalculable(double DonneesEtude::*membre) {
     return std::any_of(std::begin(champsRecalcul), std::end(champsRecalcul),
                        [&](const ChampSaisie& champ) { return champ.membre == membre; });
 }
@@ -195,8 +195,8 @@ QWidget* Resultat::FaitGraphiques(const char* titre1, ZoneDessin** zone1, const 
 }
 
 void Resultat::Montre() {
-    setWindowTitle((etude.NomFichier.empty() ? QString() : Q(etude.NomFichier) + " ") + QTexte(118));
-    const TypeEtude* type = TrouveType(etude.TypeCame);
+    setWindowTitle((etude.donnees.NomFichier.empty() ? QString() : Q(etude.donnees.NomFichier) + " ") + QTexte(118));
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) return;
     RemplitValeurs(*type);
     RemplitRecalcul();
@@ -221,7 +221,7 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
         // The mask may cut a number: all its digits stand in the tip.
         ligne.valeur->setToolTip(QTexte(777) + " " + Q(StrTrim(valeur.valeur())));
         if (valeur.repere != nullptr)
-            ligne.angle->setText(QTexte(227) + " " + Q(Format(AngleExtreme(valeur.repere), "##0")) + "°");
+            ligne.angle->setText(QTexte(227) + " " + Q(Format(AngleExtreme(valeur.repere()), "##0")) + "°");
     }
     while (QLayoutItem* ancien = dispositionDonnees_->takeAt(0)) {
         delete ancien->widget();
@@ -232,7 +232,7 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
         if (EstRecalculable(champ.membre)) continue;
         auto* valeur = FaitValeur("", Gabarit);
         valeur->setObjectName(QString("Donnee") + champ.nom);
-        valeur->setText(Q(StrTrim(etude.*champ.membre)));
+        valeur->setText(Q(StrTrim(etude.donnees.*champ.membre)));
         dispositionDonnees_->addWidget(new QLabel(QTexte(champ.texte)), ligne, 0);
         dispositionDonnees_->addWidget(valeur, ligne, 1);
         dispositionDonnees_->addWidget(FaitUnite(QTexte(champ.unite)), ligne++, 2);
@@ -242,9 +242,9 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
 }
 
 void Resultat::RemplitGrilles(const TypeEtude& type) {
-    zones_->Remplit({EntetesZones(*type.zones), etude.NombreZones,
+    zones_->Remplit({EntetesZones(*type.zones), etude.donnees.NombreZones,
                      [&zones = *type.zones](int ligne, int colonne) {
-                         return CelluleZone(zones, ligne, colonne, etude.NombreZones);
+                         return CelluleZone(zones, ligne, colonne, etude.donnees.NombreZones);
                      },
                      ColonnesTexteZones(*type.zones)});
     RemplitListage(*grilleGalet_, ColonnesGalet());
@@ -261,7 +261,7 @@ void Resultat::RemplitGraphiques() {
 }
 
 void Resultat::RemplitRecalcul() {
-    for (std::size_t i = 0; i < champs_.size(); ++i) champs_[i]->Montre(etude.*champsRecalcul[i].membre);
+    for (std::size_t i = 0; i < champs_.size(); ++i) champs_[i]->Montre(etude.donnees.*champsRecalcul[i].membre);
 }
 
 void Resultat::MontreSelonType(const TypeEtude& type) {
@@ -273,7 +273,7 @@ void Resultat::MontreSelonType(const TypeEtude& type) {
     for (std::size_t i = 0; i < champs_.size(); ++i) MontreRang(*champs_[i], AChamp(type, champsRecalcul[i].membre));
     // Without an arm there is no point A for the mass to stand at.
     for (const ChampFichier& champ : type.champs)
-        if (champ.membre == &Etude::MasseA)
+        if (champ.membre == &DonneesEtude::MasseA)
             findChild<QLabel*>("EtiquetteText2")->setText(QTexte(type.Bras() ? 164 : champ.texte));
     onglets_->setUpdatesEnabled(true);
 }
@@ -295,12 +295,12 @@ bool Resultat::FauteDeDonnee(const TypeEtude& type) {
 }
 
 void Resultat::Recalcul() {
-    const TypeEtude* type = TrouveType(etude.TypeCame);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr || RefuseSiRotation()) return;
     // A calculation that fails leaves data and tables as they are shown.
     const Etude gardee = etude;
     try {
-        for (std::size_t i = 0; i < champs_.size(); ++i) etude.*champsRecalcul[i].membre = champs_[i]->Valeur();
+        for (std::size_t i = 0; i < champs_.size(); ++i) etude.donnees.*champsRecalcul[i].membre = champs_[i]->Valeur();
         if (FauteDeDonnee(*type)) {
             etude = gardee;
             return;
@@ -319,7 +319,7 @@ void Resultat::Recalcul() {
         RemplitRecalcul();
         return;
     }
-    etude.EtudeModifiee = Vrai;
+    etude.resultats.EtudeModifiee = Vrai;
     Montre();
     emit EtudeRecalculee();
 }

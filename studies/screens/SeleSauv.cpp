@@ -28,7 +28,7 @@ constexpr Legende legendes[] = {
 
 SeleSauv::SeleSauv(QWidget* parent) : QDialog(parent) {
     setObjectName("SeleSauv");
-    nom_ = Nomme(new QLineEdit(Q(NomSansExtension(etude.NomFichier))), "Text1");
+    nom_ = Nomme(new QLineEdit(Q(NomSansExtension(etude.donnees.NomFichier))), "Text1");
     donnees_ = Nomme(new QCheckBox, "Check1");
     points_ = Nomme(new QCheckBox, "Check2");
     scripts_ = Nomme(new QCheckBox, "Check3");
@@ -86,7 +86,7 @@ void SeleSauv::Sauvegarde() {
         donnees_->setFocus();
         return;
     }
-    etude.NomFichier = nom;
+    etude.donnees.NomFichier = nom;
     if (DonneesDepart()) emit FichierEnregistre();
     if (points_->isChecked()) FichiersPoints();
     if (scripts_->isChecked()) FichiersScripts();

@@ -44,8 +44,8 @@ TEST_F(LoisFenetre, LawIsStudiedSavedAndPrintedFromTheMenus) {
     QWidget* ecran = mdi_.EcranOuvert("LoiMouv");
     ASSERT_NE(ecran, nullptr);
     EXPECT_EQ(S(ecran->windowTitle()), "Sinus Modifié 33% à vitesse constante");
-    EXPECT_TRUE(etude.LoiMouvActive);
-    EXPECT_EQ(etude.TypeLoi, "LoiMouv");
+    EXPECT_TRUE(etude.donnees.LoiMouvActive);
+    EXPECT_EQ(etude.donnees.TypeLoi, "LoiMouv");
 
     Declenche("FichierSauvegarde");
     Declenche("FicImprimerImprimer");
@@ -74,14 +74,14 @@ TEST_F(LoisFenetre, LawIsStudiedSavedAndPrintedFromTheMenus) {
     // Another law takes the place of this one; its way back leaves nothing to save.
     Declenche("Hesser");
     EXPECT_EQ(mdi_.EcranOuvert("LoiMouv"), nullptr);
-    EXPECT_FALSE(etude.LoiMouvActive);
+    EXPECT_FALSE(etude.donnees.LoiMouvActive);
     ASSERT_NE(mdi_.EcranOuvert("LoiHes"), nullptr);
-    EXPECT_TRUE(etude.LoiHesActive);
-    EXPECT_EQ(etude.LoiChoisie, "MSC33");
+    EXPECT_TRUE(etude.donnees.LoiHesActive);
+    EXPECT_EQ(etude.lois.LoiChoisie, "MSC33");
     CliqueSur(*mdi_.EcranOuvert("LoiHes"), "Retour");
     EXPECT_EQ(mdi_.EcranOuvert("LoiHes"), nullptr);
-    EXPECT_FALSE(etude.LoiHesActive);
-    EXPECT_EQ(etude.TypeLoi, "");
+    EXPECT_FALSE(etude.donnees.LoiHesActive);
+    EXPECT_EQ(etude.donnees.TypeLoi, "");
 }
 
 TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
@@ -94,7 +94,7 @@ TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
         for (const auto& [champ, texte] : {std::pair{"Text1", "90"}, {"Text2", "40"}, {"Text3", "120"}})
             TapeDans(*mdi_.EcranOuvert("LoiHes"), champ, texte);
         CliqueSur(*mdi_.EcranOuvert("LoiHes"), "Calculer");
-        ASSERT_TRUE(etude.EtudeModifiee);
+        ASSERT_TRUE(etude.resultats.EtudeModifiee);
         ferme(comment);
         dialogues_.boites.clear();
         Declenche("FichierSauvegarde");

@@ -155,7 +155,7 @@ TEST_F(Fenetre, UnFichierIllisibleEstDitDansLaLigneDEtat) {
         Action("FichierOuvrir")->trigger();
         EXPECT_EQ(Etat().rfind(Texte(128) + " " + nom + " : ", 0), 0U) << Etat();
         EXPECT_GT(Etat().size(), (Texte(128) + " " + nom + " : ").size());
-        EXPECT_EQ(etude.ResultatsPrets, Faux);
+        EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
     }
     dialogues_.fichiers.push_back(chemin / "Absent.Ang");
     Action("FichierOuvrir")->trigger();
@@ -188,7 +188,7 @@ TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
         ASSERT_FALSE(dialogues_.boites.empty());
         EXPECT_EQ(dialogues_.boites.back().texte.find(Texte(attendus[i])), 0U) << dialogues_.boites.back().texte;
         EXPECT_TRUE(Visible("DoCyl"));
-        EXPECT_EQ(etude.ResultatsPrets, Faux);
+        EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
         EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DoCyl"), "Text1")->Valeur(), 90);
     }
 }
@@ -196,22 +196,22 @@ TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
 TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
     mdi_.OuvreFichier(Exemple());
     ASSERT_TRUE(Visible("Resultat"));
-    EXPECT_EQ(etude.ResultatsPrets, Vrai);
-    EXPECT_EQ(etude.EtudeModifiee, Faux);
+    EXPECT_EQ(etude.resultats.ResultatsPrets, Vrai);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
     EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "Exemple.Ang " + Texte(118));
-    const double rayon = etude.RayonMax;
+    const double rayon = etude.resultats.RayonMax;
 
     // The way back leads to the data screen, filled from the record.
     Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
     EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
     ASSERT_TRUE(Visible("DatoCama"));
-    EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DatoCama"), "Text4")->Valeur(), etude.RayonO1P);
+    EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DatoCama"), "Text4")->Valeur(), etude.donnees.RayonO1P);
 
     // Calculated again from there, it can be saved.
     Clique(*mdi_.EcranOuvert("DatoCama"), "Calculer");
     ASSERT_TRUE(Visible("Resultat"));
     EXPECT_FALSE(Visible("DatoCama"));
-    EXPECT_EQ(etude.RayonMax, rayon);
+    EXPECT_EQ(etude.resultats.RayonMax, rayon);
     const QTemporaryDir dossier;
     dialogues_.fichiers.push_back(Chemin(dossier.path()) / "Copie.Ang");
     QTimer::singleShot(0, &mdi_, [this] { Clique(*Controle<QWidget>(mdi_, "SeleSauv"), "Sauvegarde"); });
@@ -235,7 +235,7 @@ TEST_F(Fenetre, UneCameCylindriqueOuverteRevientASonEcranDeSaisie) {
         Clique(*mdi_.EcranOuvert(ecran), "Calculer");
         EXPECT_TRUE(Visible("Resultat"));
         EXPECT_FALSE(Visible(ecran));
-        EXPECT_EQ(etude.EtudeModifiee, Vrai);
+        EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
     }
 }
 
@@ -254,16 +254,16 @@ TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
 
 TEST_F(Fenetre, LaCroixDUnEnfantEstSonRetour) {
     mdi_.CommenceEtude(LesChoixEtude().front());
-    etude.ZoneCourante = 1;
+    etude.donnees.ZoneCourante = 1;
     mdi_.findChild<QMdiSubWindow*>()->close();
     LaisseFaire();
     EXPECT_EQ(mdi_.EcranOuvert("DatoCama"), nullptr);
-    EXPECT_EQ(etude.ZoneCourante, 0) << "what the screen's own way back does was done";
+    EXPECT_EQ(etude.donnees.ZoneCourante, 0) << "what the screen's own way back does was done";
 }
 
 TEST_F(Fenetre, UneRotationEmpecheDOuvrir) {
     mdi_.OuvreFichier(Exemple());
-    etude.RotationEnCours = Vrai;
+    etude.resultats.RotationEnCours = Vrai;
     auto* onglets = Controle<QTabWidget>(*mdi_.EcranOuvert("Resultat"), "SSTab1");
     onglets->setCurrentIndex(0);
     Action("FichierOuvrir")->trigger();
@@ -276,10 +276,10 @@ TEST_F(Fenetre, UneRotationEmpecheDOuvrir) {
     EXPECT_EQ(LangueTravail, "Français");
 
     mdi_.RefuseSiRotation();
-    EXPECT_EQ(etude.Erreur, Vrai);
-    etude.RotationEnCours = Faux;
+    EXPECT_EQ(etude.resultats.Erreur, Vrai);
+    etude.resultats.RotationEnCours = Faux;
     mdi_.RefuseSiRotation();
-    EXPECT_EQ(etude.Erreur, Faux);
+    EXPECT_EQ(etude.resultats.Erreur, Faux);
 }
 
 TEST_F(Fenetre, UneNouvelleEtudeEffaceLAncienne) {
@@ -292,11 +292,11 @@ TEST_F(Fenetre, UneNouvelleEtudeEffaceLAncienne) {
     Action("Nouveau")->trigger();
     EXPECT_TRUE(Visible("DatoCama"));
     EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
-    EXPECT_EQ(etude.TypeCame, "Angulaire");
-    EXPECT_EQ(etude.NomFichier, "");
-    EXPECT_EQ(etude.CoteA, 0);
-    EXPECT_EQ(etude.ResultatsPrets, Faux);
-    EXPECT_GT(etude.NombreLois, 10) << "the catalogue of laws stays";
+    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
+    EXPECT_EQ(etude.donnees.NomFichier, "");
+    EXPECT_EQ(etude.donnees.CoteA, 0);
+    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
+    EXPECT_GT(etude.lois.NombreLois, 10) << "the catalogue of laws stays";
 }
 
 TEST_F(Fenetre, LesEnfantsTiennentDansLeBureau) {

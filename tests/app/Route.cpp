@@ -64,7 +64,7 @@ TEST_F(Route, FromTheChooserToPaper) {
     CliqueSur(*saisie, "Calculer");
     ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.back().texte;
     ASSERT_NE(mdi_.EcranOuvert("Resultat"), nullptr);
-    const double rayon = etude.RayonMax;
+    const double rayon = etude.resultats.RayonMax;
 
     const auto nom = [this](const char* fichier) { return dossier_.Chemin() / fichier; };
     dialogues_.fichiers = {nom("route.Ang"), nom("route.Pnt"), nom("route_Ext.Scr"), nom("route_Int.Scr")};
@@ -82,8 +82,8 @@ TEST_F(Route, FromTheChooserToPaper) {
     dialogues_.fichiers = {nom("route.Ang")};
     Controle<QAction>(mdi_, "FichierOuvrir")->trigger();
     EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "route.Ang " + Texte(118));
-    EXPECT_EQ(etude.RayonMax, rayon);
-    EXPECT_EQ(etude.MasseBrasO1A, 0.8);
+    EXPECT_EQ(etude.resultats.RayonMax, rayon);
+    EXPECT_EQ(etude.donnees.MasseBrasO1A, 0.8);
 
     MarquesImpression toutes;
     toutes.fill(true);

@@ -37,11 +37,12 @@ inline const Etude& EtudeNeuve() {
 
 inline std::optional<std::string> Anomalie(const EssaiEtude& essai, const std::vector<double>& degres) {
     std::size_t z = 0;
-    for (const Zone& zone : etude.Zones)
+    for (const Zone& zone : etude.donnees.Zones)
         if (z < degres.size() && zone.AngleCame != degres[z++]) return "a zone is not back in degrees";
-    const long derniers[] = {etude.Points.BorneHaute(), etude.Profil.BorneHaute()};
+    const long derniers[] = {etude.resultats.Points.BorneHaute(), etude.resultats.Profil.BorneHaute()};
     for (const long dernier : derniers)
-        if (dernier != (essai.lue && !essai.erreur ? etude.NombrePoints : -1)) return "a table of another size is left";
+        if (dernier != (essai.lue && !essai.erreur ? etude.resultats.NombrePoints : -1))
+            return "a table of another size is left";
     return {};
 }
 
@@ -51,7 +52,7 @@ inline EssaiEtude EssaieEtude(std::string_view contenu, const TypeEtude& type) {
     etude = EtudeNeuve();
     try {
         essai.lue = LitEtude(contenu, type);
-        for (const Zone& zone : etude.Zones) degres.push_back(zone.AngleCame);
+        for (const Zone& zone : etude.donnees.Zones) degres.push_back(zone.AngleCame);
         if (essai.lue) CalculeEtude();
     } catch (const ErreurExecution& erreur) {
         essai.erreur = erreur.numero;

@@ -13,16 +13,16 @@ class Lois : public AvecCatalogue {
 protected:
     /// Evaluates a law as the law of zone `zone`, over `n` steps.
     static void Applique(const std::string& nom, double n, double symetrie = 0.5, std::int16_t zone = 1) {
-        etude.Zones.Redimensionne(zone);
-        etude.Zones[zone].NomLoi = nom;
-        etude.Zones[zone].AngleCame = n;
-        etude.Zones[zone].CoefSymetrie = symetrie;
+        etude.donnees.Zones.Redimensionne(zone);
+        etude.donnees.Zones[zone].NomLoi = nom;
+        etude.donnees.Zones[zone].AngleCame = n;
+        etude.donnees.Zones[zone].CoefSymetrie = symetrie;
         AppliqueLoi(zone);
     }
 
     static double Maximum(double PointLoi::*champ) {
         double maximum = 0;
-        for (const auto& p : etude.LoiUnite) maximum = std::max(maximum, std::abs(p.*champ));
+        for (const auto& p : etude.lois.LoiUnite) maximum = std::max(maximum, std::abs(p.*champ));
         return maximum;
     }
 
@@ -63,7 +63,7 @@ TEST_F(Lois, EachLawIsTheIntegralOfItsAcceleration) {
     for (const char* nom : usuelles) {
         for (const double S : {0.5, 0.3, 0.75}) {
             SCOPED_TRACE(std::string(nom) + " " + std::to_string(S));
-            Loi loi = etude.ListeLois[ChercheLoi(nom)];
+            Loi loi = etude.lois.ListeLois[ChercheLoi(nom)];
             PrepareLoi(loi);
             CoefSym = S;
             CoefSymCompl = 1 - S;
@@ -86,33 +86,33 @@ TEST_F(Lois, EachLawIsTheIntegralOfItsAcceleration) {
 
 TEST_F(Lois, HandWorkedValues) {
     Applique("CYC", 4);
-    EXPECT_NEAR(etude.LoiUnite[1].Course, 0.25 - 1 / (2 * Pi), 1e-15);
-    EXPECT_NEAR(etude.LoiUnite[1].Vitesse, 1, 1e-15);
-    EXPECT_NEAR(etude.LoiUnite[1].Accel, 2 * Pi, 1e-14);
-    EXPECT_NEAR(etude.LoiUnite[2].Course, 0.5, 1e-15);
+    EXPECT_NEAR(etude.lois.LoiUnite[1].Course, 0.25 - 1 / (2 * Pi), 1e-15);
+    EXPECT_NEAR(etude.lois.LoiUnite[1].Vitesse, 1, 1e-15);
+    EXPECT_NEAR(etude.lois.LoiUnite[1].Accel, 2 * Pi, 1e-14);
+    EXPECT_NEAR(etude.lois.LoiUnite[2].Course, 0.5, 1e-15);
 
     Applique("SHM", 10);
-    EXPECT_NEAR(etude.LoiUnite[0].Accel, Pi * Pi / 2, 1e-14);
-    EXPECT_NEAR(etude.LoiUnite[3].Course, (1 - std::cos(0.3 * Pi)) / 2, 1e-15);
+    EXPECT_NEAR(etude.lois.LoiUnite[0].Accel, Pi * Pi / 2, 1e-14);
+    EXPECT_NEAR(etude.lois.LoiUnite[3].Course, (1 - std::cos(0.3 * Pi)) / 2, 1e-15);
 
     Applique("MTC50", 4);
-    EXPECT_NEAR(etude.LoiUnite[1].Vitesse, 4.0 / 3, 1e-6);
-    EXPECT_NEAR(etude.LoiUnite[1].Accel, 0, 1e-14);
+    EXPECT_NEAR(etude.lois.LoiUnite[1].Vitesse, 4.0 / 3, 1e-6);
+    EXPECT_NEAR(etude.lois.LoiUnite[1].Accel, 0, 1e-14);
 
     Applique("MS", 100, 0.3);
-    EXPECT_NEAR(etude.LoiUnite[30].Course, 0.3, 1e-12);
-    EXPECT_NEAR(etude.LoiUnite[30].Vitesse, 1.759603, 1e-6);
-    EXPECT_NEAR(etude.LoiUnite[15].Accel, 4.787351 / 0.6, 1e-5);
+    EXPECT_NEAR(etude.lois.LoiUnite[30].Course, 0.3, 1e-12);
+    EXPECT_NEAR(etude.lois.LoiUnite[30].Vitesse, 1.759603, 1e-6);
+    EXPECT_NEAR(etude.lois.LoiUnite[15].Accel, 4.787351 / 0.6, 1e-5);
 }
 
 TEST_F(Lois, SymmetryAtItsLimits) {
     // A coefficient of 1 has no second half; rounding must not carry the last point past the end either.
     Applique("CYC", 90, 1.0);
-    EXPECT_NEAR(etude.LoiUnite[90].Course, 1, 1e-12);
+    EXPECT_NEAR(etude.lois.LoiUnite[90].Course, 1, 1e-12);
     for (double s = 0.01; s < 1; s += 0.01) {
         for (const char* nom : usuelles) {
             ASSERT_NO_THROW(Applique(nom, 73, s)) << nom << " " << s;
-            ASSERT_NEAR(etude.LoiUnite[73].Course, 1, 1e-9) << nom << " " << s;
+            ASSERT_NEAR(etude.lois.LoiUnite[73].Course, 1, 1e-9) << nom << " " << s;
         }
     }
     EXPECT_EQ(NumeroDe("MS", 90, 0.0), NumeroErreur::DivisionParZero);
@@ -120,32 +120,32 @@ TEST_F(Lois, SymmetryAtItsLimits) {
 
 TEST_F(Lois, FractionalExtentLeavesTheLastRowEmpty) {
     Applique("MS", 30.7);
-    EXPECT_EQ(etude.LoiUnite.BorneHaute(), 31);
-    EXPECT_EQ(etude.LoiUnite[31].Course, 0);
+    EXPECT_EQ(etude.lois.LoiUnite.BorneHaute(), 31);
+    EXPECT_EQ(etude.lois.LoiUnite[31].Course, 0);
     Applique("MS", 307);
-    const double attendu = etude.LoiUnite[300].Course;
+    const double attendu = etude.lois.LoiUnite[300].Course;
     Applique("MS", 30.7);
-    EXPECT_NEAR(etude.LoiUnite[30].Course, attendu, 1e-12);
+    EXPECT_NEAR(etude.lois.LoiUnite[30].Course, attendu, 1e-12);
 }
 
 TEST_F(Lois, CustomPercentageOverwritesTheRowOfItsZone) {
-    const std::string avant = etude.ListeLois[3].NomLoi;
+    const std::string avant = etude.lois.ListeLois[3].NomLoi;
     Applique("MS_Spe_ 40", 200, 0.5, 3);
-    EXPECT_EQ(etude.ListeLois[3].NomLoi, avant);
-    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefA, 0.15);
-    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefC, 0.45);
-    EXPECT_DOUBLE_EQ(etude.ListeLois[3].CoefD, 0.4);
-    const double milieu = etude.LoiUnite[60].Course;
+    EXPECT_EQ(etude.lois.ListeLois[3].NomLoi, avant);
+    EXPECT_DOUBLE_EQ(etude.lois.ListeLois[3].CoefA, 0.15);
+    EXPECT_DOUBLE_EQ(etude.lois.ListeLois[3].CoefC, 0.45);
+    EXPECT_DOUBLE_EQ(etude.lois.ListeLois[3].CoefD, 0.4);
+    const double milieu = etude.lois.LoiUnite[60].Course;
     Applique(avant, 200);
-    EXPECT_EQ(etude.LoiUnite[60].Course, milieu) << "a later zone of that row's law gets the custom coefficients";
+    EXPECT_EQ(etude.lois.LoiUnite[60].Course, milieu) << "a later zone of that row's law gets the custom coefficients";
 
     // Only the last two characters count: one digit needs its blank, decimals lose their integer part.
     Applique("MS_Spe_ 5", 100);
-    EXPECT_DOUBLE_EQ(etude.ListeLois[1].CoefD, 0.05);
+    EXPECT_DOUBLE_EQ(etude.lois.ListeLois[1].CoefD, 0.05);
     Applique("MS_Spe_ 12.5", 100);
-    EXPECT_DOUBLE_EQ(etude.ListeLois[1].CoefD, 0.005);
+    EXPECT_DOUBLE_EQ(etude.lois.ListeLois[1].CoefD, 0.005);
     Applique("MS_Spe_ 99", 1000);
-    EXPECT_NEAR(etude.LoiUnite[1000].Course, 1, 1e-9);
+    EXPECT_NEAR(etude.lois.LoiUnite[1000].Course, 1, 1e-9);
 }
 
 TEST_F(Lois, FailuresAreRunTimeFailures) {
@@ -159,18 +159,18 @@ TEST_F(Lois, FailuresAreRunTimeFailures) {
 TEST_F(Lois, RiseAndReturnMeetsAtTheTop) {
     for (const char* nom : {"MSH", "MSHC20", "MSHC33", "MSHC50"}) {
         const long n = 3600;
-        etude.NombrePoints = n;
-        PrepareLoiMSH(etude.ListeLois[ChercheLoi(nom)]);
+        etude.resultats.NombrePoints = n;
+        PrepareLoiMSH(etude.lois.ListeLois[ChercheLoi(nom)]);
         CalculeLoiMSH();
-        const auto& u = etude.LoiUnite;
+        const auto& u = etude.lois.LoiUnite;
         EXPECT_NEAR(u[n / 2].Course, 1, 1e-12) << nom;
-        EXPECT_NEAR(Maximum(&PointLoi::Vitesse), etude.LoiEtude.Cv, 1e-6) << nom;
-        EXPECT_NEAR(Maximum(&PointLoi::Accel), etude.LoiEtude.Ca, 1e-6) << nom;
+        EXPECT_NEAR(Maximum(&PointLoi::Vitesse), etude.lois.LoiEtude.Cv, 1e-6) << nom;
+        EXPECT_NEAR(Maximum(&PointLoi::Accel), etude.lois.LoiEtude.Ca, 1e-6) << nom;
         for (long i = 0; i < n / 2; ++i) {
             ASSERT_EQ(u[n - i].Course, u[i].Course);
             ASSERT_EQ(u[n - i].Vitesse, -u[i].Vitesse);
         }
-        const Loi& loi = etude.LoiEtude;
+        const Loi& loi = etude.lois.LoiEtude;
         VerifieLoi([&](double x) { return EvalueMonteeMSH(loi, x); },
                    {loi.CoefA / 2, (loi.CoefA + loi.CoefB) / 2, (loi.CoefA + loi.CoefB + loi.CoefC) / 2});
     }

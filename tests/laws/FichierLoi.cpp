@@ -11,12 +11,12 @@ class FichierLoi : public AvecCatalogue {
 protected:
     /// The unit law of a study of `n` points.
     static void Evalue(const char* nom, std::int16_t n) {
-        etude.Zones.Redimensionne(1);
-        etude.Zones[1].NomLoi = nom;
-        etude.Zones[1].CoefSymetrie = 0.5;
-        etude.Zones[1].AngleCame = n;
+        etude.donnees.Zones.Redimensionne(1);
+        etude.donnees.Zones[1].NomLoi = nom;
+        etude.donnees.Zones[1].CoefSymetrie = 0.5;
+        etude.donnees.Zones[1].AngleCame = n;
         AppliqueLoi(1);
-        etude.NombrePoints = n;
+        etude.resultats.NombrePoints = n;
     }
 };
 
@@ -34,19 +34,19 @@ TEST_F(FichierLoi, AFileIsAlways722LinesLong) {
 
 TEST_F(FichierLoi, WhatIsReadIsTheLawShiftedAndWithoutSigns) {
     Evalue("CYC", 720);
-    const auto ecrite = etude.LoiUnite;
+    const auto ecrite = etude.lois.LoiUnite;
     LitLoi(ComposeFichierLoi());
-    ASSERT_EQ(etude.LoiUnite.BorneHaute(), 720);
-    EXPECT_EQ(etude.LoiUnite[0].Course, 0);
+    ASSERT_EQ(etude.lois.LoiUnite.BorneHaute(), 720);
+    EXPECT_EQ(etude.lois.LoiUnite[0].Course, 0);
     for (long i = 1; i <= 720; ++i) {
-        ASSERT_EQ(etude.LoiUnite[i].Course, ecrite[i - 1].Course);
-        ASSERT_EQ(etude.LoiUnite[i].Vitesse, std::abs(ecrite[i - 1].Vitesse));
-        ASSERT_EQ(etude.LoiUnite[i].Accel, std::abs(ecrite[i - 1].Accel));
+        ASSERT_EQ(etude.lois.LoiUnite[i].Course, ecrite[i - 1].Course);
+        ASSERT_EQ(etude.lois.LoiUnite[i].Vitesse, std::abs(ecrite[i - 1].Vitesse));
+        ASSERT_EQ(etude.lois.LoiUnite[i].Accel, std::abs(ecrite[i - 1].Accel));
     }
-    EXPECT_EQ(etude.ListeLois.BorneHaute(), 1);
-    EXPECT_EQ(etude.ListeLois[1].NomLoi, "Fichier");
-    EXPECT_NEAR(etude.ListeLois[1].Ca, 2 * Pi, 1e-9);
-    EXPECT_NEAR(etude.ListeLois[1].Cv, 2, 1e-9);
+    EXPECT_EQ(etude.lois.ListeLois.BorneHaute(), 1);
+    EXPECT_EQ(etude.lois.ListeLois[1].NomLoi, "Fichier");
+    EXPECT_NEAR(etude.lois.ListeLois[1].Ca, 2 * Pi, 1e-9);
+    EXPECT_NEAR(etude.lois.ListeLois[1].Cv, 2, 1e-9);
     EXPECT_EQ(NomsLoisZones(), std::vector<std::string>{"Fichier"}) << "the catalogue is gone until the next start";
 }
 
@@ -54,32 +54,32 @@ TEST_F(FichierLoi, AFileDrivesTheOneZoneOfAStudy) {
     Evalue("CYC", 720);
     LitLoi(ComposeFichierLoi());
     PoseMecanismeBras();
-    etude.PointsParDegre = 2;
+    etude.donnees.PointsParDegre = 2;
     PoseZones({{25, 40, 360, NomLoiFichier}});
     CalculeCameAngulaire();
-    EXPECT_EQ(etude.NombrePoints, 720);
-    EXPECT_NEAR(etude.Mouvement[361].Course, 32.5, 1e-9) << "half of the stroke, one step late";
-    for (const auto& m : etude.Mouvement) ASSERT_GE(m.Vitesse, 0);
+    EXPECT_EQ(etude.resultats.NombrePoints, 720);
+    EXPECT_NEAR(etude.resultats.Mouvement[361].Course, 32.5, 1e-9) << "half of the stroke, one step late";
+    for (const auto& m : etude.resultats.Mouvement) ASSERT_GE(m.Vitesse, 0);
 }
 
 TEST_F(FichierLoi, AShortFileChangesNothing) {
     Evalue("MS", 90);
     const std::string contenu = ComposeFichierLoi();
-    const auto avant = etude.LoiUnite.BorneHaute();
+    const auto avant = etude.lois.LoiUnite.BorneHaute();
     EXPECT_THROW(LitLoi(contenu.substr(0, contenu.size() / 2)), ErreurExecution);
     EXPECT_THROW(LitLoi(""), ErreurExecution);
-    EXPECT_EQ(etude.LoiUnite.BorneHaute(), avant);
-    EXPECT_GT(etude.ListeLois.BorneHaute(), 1);
+    EXPECT_EQ(etude.lois.LoiUnite.BorneHaute(), avant);
+    EXPECT_GT(etude.lois.ListeLois.BorneHaute(), 1);
     std::string sansSeparateur;
     for (int i = 0; i < 720; ++i) sansSeparateur += "0.5 0.5 0.5\n";
     LitLoi(sansSeparateur);
-    EXPECT_EQ(etude.LoiUnite[1].Course, 0) << "a line without separators reads as zeros";
+    EXPECT_EQ(etude.lois.LoiUnite[1].Course, 0) << "a line without separators reads as zeros";
 }
 
 TEST_F(FichierLoi, ListingInTheUnitsOfTheStudy) {
-    etude.NombrePoints = 2;
-    etude.PointsParDegre = 2;
-    etude.Mouvement.Redimensionne(2);
-    etude.Mouvement[1] = {12.34567, -0.1234567, 98.7654321};
+    etude.resultats.NombrePoints = 2;
+    etude.donnees.PointsParDegre = 2;
+    etude.resultats.Mouvement.Redimensionne(2);
+    etude.resultats.Mouvement[1] = {12.34567, -0.1234567, 98.7654321};
     EXPECT_EQ(ComposeListageLoi(), "0;0;0;0\r\n.5;12.346;-.12346;98.76543\r\n1;0;0;0\r\n");
 }

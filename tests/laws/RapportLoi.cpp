@@ -10,10 +10,10 @@ class RapportsLois : public AvecCatalogue {
 protected:
     /// Prints a Hesser study of so many degrees, one point each.
     static ImprimanteNotee Imprime(double angle) {
-        etude.PointsParDegre = 1;
-        etude.AngleIndexage = angle;
-        etude.ValeurFin = 30;
-        etude.VitesseEntree = 60;
+        etude.donnees.PointsParDegre = 1;
+        etude.donnees.AngleIndexage = angle;
+        etude.donnees.ValeurFin = 30;
+        etude.donnees.VitesseEntree = 60;
         const EtudeLoi& loi = *TrouveEtudeLoi("LoiHes");
         ImprimanteNotee imprimante;
         ImprimeEtudeLoi(imprimante, {&loi, "Hesser", CalculeEtudeLoi(loi)});
@@ -77,12 +77,12 @@ TEST_F(RapportsLois, AxesStayReadableWhereverTheStrokeLies) {
     for (const auto& c : courses) {
         etude = Etude{};
         ChargeLois();
-        etude.LoiChoisie = "CYC";
-        etude.PointsParDegre = 1;
-        etude.AngleIndexage = 90;
-        etude.ValeurDepart = c.depart;
-        etude.ValeurFin = c.fin;
-        etude.VitesseEntree = 60;
+        etude.lois.LoiChoisie = "CYC";
+        etude.donnees.PointsParDegre = 1;
+        etude.donnees.AngleIndexage = 90;
+        etude.donnees.ValeurDepart = c.depart;
+        etude.donnees.ValeurFin = c.fin;
+        etude.donnees.VitesseEntree = 60;
         const EtudeLoi& loi = *TrouveEtudeLoi("LoiMouv");
         ASSERT_FALSE(ChercheFauteLoi(loi));
         ImprimanteNotee imprimante;

@@ -33,11 +33,11 @@ struct ZoneVoulue {
 };
 
 inline void PoseZones(const std::vector<ZoneVoulue>& voulues) {
-    etude.NombreZones = static_cast<std::int16_t>(voulues.size());
-    etude.Zones.Redimensionne(etude.NombreZones);
+    etude.donnees.NombreZones = static_cast<std::int16_t>(voulues.size());
+    etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
     long z = 0;
     for (const auto& v : voulues) {
-        Zone& zone = etude.Zones[++z];
+        Zone& zone = etude.donnees.Zones[++z];
         zone.AngleDepart = v.depart;
         zone.AngleFinal = v.final;
         zone.RayonDepart = v.depart;
@@ -45,19 +45,19 @@ inline void PoseZones(const std::vector<ZoneVoulue>& voulues) {
         zone.AngleCame = v.angleCame;
         zone.NomLoi = v.loi;
         zone.CoefSymetrie = v.symetrie;
-        zone.Temps = v.angleCame / etude.VitesseCame / 6.0;
+        zone.Temps = v.angleCame / etude.donnees.VitesseCame / 6.0;
     }
 }
 
 /// A plausible arm mechanism at 300 Tr/min, without masses and zones.
 inline void PoseMecanismeBras() {
-    etude.TypeCame = "Angulaire";
-    etude.CoteA = 80;
-    etude.CoteB = 30;
-    etude.RayonO1A = 100;
-    etude.RayonO1P = 70;
-    etude.AnglePO1A = 40;
-    etude.RayonGalet = 10;
-    etude.VitesseCame = 300;
-    etude.PointsParDegre = 1;
+    etude.donnees.TypeCame = "Angulaire";
+    etude.donnees.CoteA = 80;
+    etude.donnees.CoteB = 30;
+    etude.donnees.RayonO1A = 100;
+    etude.donnees.RayonO1P = 70;
+    etude.donnees.AnglePO1A = 40;
+    etude.donnees.RayonGalet = 10;
+    etude.donnees.VitesseCame = 300;
+    etude.donnees.PointsParDegre = 1;
 }

@@ -14,11 +14,11 @@ protected:
 
     CameAngulaire() {
         PoseMecanismeBras();
-        etude.MasseBrasO1A = 0.8;
-        etude.MasseBrasO1P = 0.6;
-        etude.MasseA = 1.5;
-        etude.EpaisseurCame = 12;
-        etude.ForceY = -40;
+        etude.donnees.MasseBrasO1A = 0.8;
+        etude.donnees.MasseBrasO1P = 0.6;
+        etude.donnees.MasseA = 1.5;
+        etude.donnees.EpaisseurCame = 12;
+        etude.donnees.ForceY = -40;
         PoseZones({{25, 40, 90, "MS"}, {40, 40, 90, "MS"}, {40, 25, 120, "CYC"}, {25, 25, 60, "MS"}});
     }
 };
@@ -28,20 +28,22 @@ protected:
 TEST_F(CameAngulaire, RadiusIsTheDistanceOfTheRollerCentre) {
     CalculeCameAngulaire();
     ASSERT_TRUE(SansErreur());
-    for (const auto& p : etude.Points) {
+    for (const auto& p : etude.resultats.Points) {
         const double phi = (p.AngleBras + 40) * Pi / 180;
         ASSERT_NEAR(p.Rayon, std::hypot(80 - 70 * std::cos(phi), 30 - 70 * std::sin(phi)), 1e-10);
     }
-    EXPECT_NEAR(etude.RayonMax, std::max(etude.Points[0].Rayon, etude.Points[90].Rayon), 1e-9);
-    EXPECT_NEAR(etude.RayonMin, std::min(etude.Points[0].Rayon, etude.Points[90].Rayon), 1e-9);
+    EXPECT_NEAR(etude.resultats.RayonMax, std::max(etude.resultats.Points[0].Rayon, etude.resultats.Points[90].Rayon),
+                1e-9);
+    EXPECT_NEAR(etude.resultats.RayonMin, std::min(etude.resultats.Points[0].Rayon, etude.resultats.Points[90].Rayon),
+                1e-9);
     EXPECT_TRUE(dialogues.boites.empty());
 }
 
 TEST_F(CameAngulaire, SpeedsAreTheDerivativesOfTheRadius) {
-    etude.PointsParDegre = 10;
+    etude.donnees.PointsParDegre = 10;
     CalculeCameAngulaire();
     const double dt = 1.0 / (300.0 * 6 * 10); // s a point
-    const auto& P = etude.Points;
+    const auto& P = etude.resultats.Points;
     for (long i = 20; i < 880; ++i) {
         ASSERT_NEAR((P[i + 1].Rayon - P[i - 1].Rayon) / 1000 / (2 * dt), P[i].VitesseRayon, 1e-4) << i;
         ASSERT_NEAR((P[i + 1].VitesseRayon - P[i - 1].VitesseRayon) / (2 * dt), P[i].AccelRayon, 0.5) << i;
@@ -51,77 +53,80 @@ TEST_F(CameAngulaire, SpeedsAreTheDerivativesOfTheRadius) {
 
 TEST_F(CameAngulaire, OffsetCurvesLieARollerRadiusAway) {
     CalculeCameAngulaire();
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const auto& c = etude.Profil[i];
-        const double a = etude.Points[i].Angle * Pi / 180, R = etude.Points[i].Rayon;
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const auto& c = etude.resultats.Profil[i];
+        const double a = etude.resultats.Points[i].Angle * Pi / 180, R = etude.resultats.Points[i].Rayon;
         const double x = R * std::cos(a), y = R * std::sin(a);
         ASSERT_NEAR(std::hypot(c.XInterieur - x, c.YInterieur - y), 10, 1e-9);
         ASSERT_NEAR((c.XInterieur + c.XExterieur) / 2, x, 1e-9);
         ASSERT_NEAR((c.YInterieur + c.YExterieur) / 2, y, 1e-9);
     }
     // At rest the profile is a circle about the cam centre.
-    const auto& repos = etude.Profil[135];
-    EXPECT_NEAR(std::hypot(repos.XInterieur, repos.YInterieur), etude.Points[135].Rayon - 10, 1e-9);
+    const auto& repos = etude.resultats.Profil[135];
+    EXPECT_NEAR(std::hypot(repos.XInterieur, repos.YInterieur), etude.resultats.Points[135].Rayon - 10, 1e-9);
     EXPECT_NEAR(repos.AngleTangent, Pi / 2, 1e-15);
-    EXPECT_NEAR(repos.RayonCourbure, etude.Points[135].Rayon, 1e-9);
-    EXPECT_NEAR(std::abs(repos.RayonCourbureInterieur), etude.Points[135].Rayon - 10, 0.05);
-    EXPECT_EQ(etude.Profil[etude.NombrePoints].AngleTangent, Pi / 2);
+    EXPECT_NEAR(repos.RayonCourbure, etude.resultats.Points[135].Rayon, 1e-9);
+    EXPECT_NEAR(std::abs(repos.RayonCourbureInterieur), etude.resultats.Points[135].Rayon - 10, 0.05);
+    EXPECT_EQ(etude.resultats.Profil[etude.resultats.NombrePoints].AngleTangent, Pi / 2);
 }
 
 TEST_F(CameAngulaire, EndPatchLandsOnTheLastDegree) {
-    etude.PointsParDegre = 2;
+    etude.donnees.PointsParDegre = 2;
     CalculeCameAngulaire();
-    EXPECT_EQ(etude.NombrePoints, 720);
-    EXPECT_EQ(etude.Profil[360].DeriveeRayon, etude.Profil[0].DeriveeRayon);
-    EXPECT_EQ(etude.Profil[360].YInterieur2, etude.Profil[0].YInterieur2);
-    EXPECT_EQ(etude.Profil[720].DeriveeRayon, 0);
-    etude.PointsParDegre = 1;
+    EXPECT_EQ(etude.resultats.NombrePoints, 720);
+    EXPECT_EQ(etude.resultats.Profil[360].DeriveeRayon, etude.resultats.Profil[0].DeriveeRayon);
+    EXPECT_EQ(etude.resultats.Profil[360].YInterieur2, etude.resultats.Profil[0].YInterieur2);
+    EXPECT_EQ(etude.resultats.Profil[720].DeriveeRayon, 0);
+    etude.donnees.PointsParDegre = 1;
     CalculeCameAngulaire();
-    EXPECT_EQ(etude.Profil[360].DeriveeRayon, etude.Profil[0].DeriveeRayon);
+    EXPECT_EQ(etude.resultats.Profil[360].DeriveeRayon, etude.resultats.Profil[0].DeriveeRayon);
 }
 
 TEST_F(CameAngulaire, ForcesOfABalancedArmComeFromItsInertiaAlone) {
-    etude.AnglePesanteur = 135; // gravity terms cancel: cos 45 = sin 45
-    etude.ForceY = 0;
+    etude.donnees.AnglePesanteur = 135; // gravity terms cancel: cos 45 = sin 45
+    etude.donnees.ForceY = 0;
     CalculeCameAngulaire();
     const double J = 0.01 * 1.5 + 0.01 * 0.8 / 3 + 0.0049 * 0.6 / 3;
-    EXPECT_NEAR(etude.InertieBras + etude.InertieMasseA, J, 1e-15);
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
-        const auto& p = etude.Points[i];
-        ASSERT_NEAR(p.ForceGalet, 1.4 * J * etude.Mouvement[i].Accel / 0.07, 1e-6);
+    EXPECT_NEAR(etude.resultats.InertieBras + etude.donnees.InertieMasseA, J, 1e-15);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const auto& p = etude.resultats.Points[i];
+        ASSERT_NEAR(p.ForceGalet, 1.4 * J * etude.resultats.Mouvement[i].Accel / 0.07, 1e-6);
         // Power at the cam: torque against the pressure angle, whose tangent is the slope of the radius.
-        ASSERT_NEAR(p.Couple, p.Rayon / 1000 * p.ForceGalet * std::tan(etude.Profil[i].AngleTangent - Pi / 2), 1e-9);
+        ASSERT_NEAR(p.Couple, p.Rayon / 1000 * p.ForceGalet * std::tan(etude.resultats.Profil[i].AngleTangent - Pi / 2),
+                    1e-9);
     }
-    const double rayon = (etude.RayonMax + 20) / 100;
-    EXPECT_NEAR(etude.MasseCame, 7.8 * Pi * rayon * rayon * 0.12, 1e-9);
+    const double rayon = (etude.resultats.RayonMax + 20) / 100;
+    EXPECT_NEAR(etude.resultats.MasseCame, 7.8 * Pi * rayon * rayon * 0.12, 1e-9);
 }
 
 TEST_F(CameAngulaire, NoLoadNoForce) {
-    etude.MasseBrasO1A = etude.MasseBrasO1P = etude.MasseA = etude.EpaisseurCame = etude.ForceY = 0;
+    etude.donnees.MasseBrasO1A = etude.donnees.MasseBrasO1P = etude.donnees.MasseA = etude.donnees.EpaisseurCame =
+        etude.donnees.ForceY = 0;
     CalculeCameAngulaire();
-    for (const auto& p : etude.Points) ASSERT_TRUE(p.ForceGalet == 0 && p.Couple == 0);
+    for (const auto& p : etude.resultats.Points) ASSERT_TRUE(p.ForceGalet == 0 && p.Couple == 0);
 }
 
 TEST_F(CameAngulaire, ZonesContinueFromThePreviousEnd) {
     PoseZones({{25, 40, 90, "MS"}, {10, 20, 90, "MS"}, {0, -25, 180, "MS"}});
     CalculeCameAngulaire();
-    EXPECT_NEAR(etude.Mouvement[90].Course, 40, 1e-12);
-    EXPECT_NEAR(etude.Mouvement[180].Course, 20, 1e-12) << "the stroke of zone 3 starts from the end value of zone 2";
-    EXPECT_NEAR(etude.Mouvement[179].Course, 40 + 10 * 0.99999, 1e-2);
-    EXPECT_NEAR(etude.Mouvement[360].Course, -5, 1e-12);
+    EXPECT_NEAR(etude.resultats.Mouvement[90].Course, 40, 1e-12);
+    EXPECT_NEAR(etude.resultats.Mouvement[180].Course, 20, 1e-12)
+        << "the stroke of zone 3 starts from the end value of zone 2";
+    EXPECT_NEAR(etude.resultats.Mouvement[179].Course, 40 + 10 * 0.99999, 1e-2);
+    EXPECT_NEAR(etude.resultats.Mouvement[360].Course, -5, 1e-12);
 }
 
 TEST_F(CameAngulaire, SomeMaximaGoOnGrowing) {
     CalculeCameAngulaire();
-    const double vitesse = etude.VitesseGaletMax;
-    etude.VitesseCame = 100;
+    const double vitesse = etude.durables.VitesseGaletMax;
+    etude.donnees.VitesseCame = 100;
     CalculeCameAngulaire();
-    EXPECT_EQ(etude.VitesseGaletMax, vitesse);
-    EXPECT_LT(etude.VitesseGaletMoyenne, vitesse / 2);
+    EXPECT_EQ(etude.durables.VitesseGaletMax, vitesse);
+    EXPECT_LT(etude.resultats.VitesseGaletMoyenne, vitesse / 2);
 }
 
 TEST_F(CameAngulaire, ChecksTellWhatIsWrong) {
-    etude.RayonGalet = 60;
+    etude.donnees.RayonGalet = 60;
     CalculeCameAngulaire();
     ASSERT_GE(dialogues.boites.size(), 2u);
     EXPECT_EQ(dialogues.boites[0].icone, Icone::Information);
@@ -131,55 +136,55 @@ TEST_F(CameAngulaire, ChecksTellWhatIsWrong) {
     EXPECT_TRUE(SansErreur()) << "neither stops the study";
 
     dialogues.boites.clear();
-    etude.RayonGalet = 5;
+    etude.donnees.RayonGalet = 5;
     PoseZones({{25, -60, 180, "MS"}, {-60, 25, 180, "MS"}});
     CalculeCameAngulaire();
     EXPECT_FALSE(SansErreur());
     EXPECT_EQ(dialogues.boites.back().texte, Texte(427));
     EXPECT_EQ(dialogues.boites.back().icone, Icone::Critique);
-    EXPECT_EQ(etude.Zones[1].AngleCame, 180) << "degrees again";
+    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 180) << "degrees again";
 }
 
 TEST_F(CameAngulaire, RunTimeFailuresLeaveTheStudyInDegreesAndNoResults) {
     const struct {
         const char* quoi;
-        double Etude::*membre;
+        double DonneesEtude::*membre;
         double valeur;
         NumeroErreur numero;
-    } cas[] = {{"no arm", &Etude::RayonO1P, 0, NumeroErreur::DivisionParZero},
-               {"unreachable arm", &Etude::RayonO1P, -70, NumeroErreur::DivisionParZero},
-               {"no roller", &Etude::RayonGalet, 0, NumeroErreur::DivisionParZero},
-               {"pivot above the centre", &Etude::CoteA, 0, NumeroErreur::DivisionParZero},
-               {"beyond all measure", &Etude::CoteA, 1e300, NumeroErreur::ResultatNonFini}};
+    } cas[] = {{"no arm", &DonneesEtude::RayonO1P, 0, NumeroErreur::DivisionParZero},
+               {"unreachable arm", &DonneesEtude::RayonO1P, -70, NumeroErreur::DivisionParZero},
+               {"no roller", &DonneesEtude::RayonGalet, 0, NumeroErreur::DivisionParZero},
+               {"pivot above the centre", &DonneesEtude::CoteA, 0, NumeroErreur::DivisionParZero},
+               {"beyond all measure", &DonneesEtude::CoteA, 1e300, NumeroErreur::ResultatNonFini}};
     for (const auto& c : cas) {
-        const double garde = etude.*c.membre;
-        etude.*c.membre = c.valeur;
-        etude.PointsParDegre = 4;
-        etude.ResultatsPrets = Vrai;
+        const double garde = etude.donnees.*c.membre;
+        etude.donnees.*c.membre = c.valeur;
+        etude.donnees.PointsParDegre = 4;
+        etude.resultats.ResultatsPrets = Vrai;
         try {
             CalculeCameAngulaire();
             ADD_FAILURE() << c.quoi;
         } catch (const ErreurExecution& e) {
             EXPECT_EQ(e.numero, c.numero) << c.quoi;
         }
-        EXPECT_EQ(etude.Zones[1].AngleCame, 90) << c.quoi;
-        EXPECT_TRUE(etude.Points.Vide()) << c.quoi;
-        EXPECT_EQ(etude.ResultatsPrets, Faux) << c.quoi;
-        etude.*c.membre = garde;
+        EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 90) << c.quoi;
+        EXPECT_TRUE(etude.resultats.Points.Vide()) << c.quoi;
+        EXPECT_EQ(etude.resultats.ResultatsPrets, Faux) << c.quoi;
+        etude.donnees.*c.membre = garde;
     }
     PoseZones({{25, 40, 4000, "MS"}});
-    etude.PointsParDegre = 10;
+    etude.donnees.PointsParDegre = 10;
     EXPECT_THROW(CalculeCameAngulaire(), ErreurExecution);
-    EXPECT_EQ(etude.Zones[1].AngleCame, 4000);
+    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 4000);
 }
 
 TEST_F(CameAngulaire, FractionalZonesRoundTheirOffsets) {
     PoseZones({{25, 40, 90.25, "MS"}, {40, 40, 89.5, "MS"}, {40, 25, 180.25, "MS"}});
     CalculeCameAngulaire();
-    EXPECT_EQ(etude.NombrePoints, 90 + 90 + 180); // halves to even
+    EXPECT_EQ(etude.resultats.NombrePoints, 90 + 90 + 180); // halves to even
     EXPECT_TRUE(SansErreur());
-    EXPECT_EQ(etude.Zones[2].AngleCame, 89.5);
-    EXPECT_NEAR(etude.Points[90].AngleBras, 40, 1e-9);
+    EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 89.5);
+    EXPECT_NEAR(etude.resultats.Points[90].AngleBras, 40, 1e-9);
 }
 
 TEST_F(CameAngulaire, ALastZoneThatEndsOnNoPointIsToldAsSuch) {
@@ -190,6 +195,6 @@ TEST_F(CameAngulaire, ALastZoneThatEndsOnNoPointIsToldAsSuch) {
     } catch (const ErreurExecution& e) {
         EXPECT_EQ(e.numero, NumeroErreur::PointsIncomplets);
     }
-    etude.PointsParDegre = 10;
+    etude.donnees.PointsParDegre = 10;
     EXPECT_NO_THROW(CalculeCameAngulaire());
 }

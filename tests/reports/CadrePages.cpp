@@ -14,7 +14,7 @@ protected:
     ImprimanteNotee imprimante;
     TirageCames tirage{imprimante, {nullptr, EnTeteEssai, nullptr}};
 
-    PagesCames() { etude.NomFichier = "Essai.Ang"; }
+    PagesCames() { etude.donnees.NomFichier = "Essai.Ang"; }
     ~PagesCames() override {
         LangueTravail = "Français";
         ChargeTextes(LaBase);
@@ -97,7 +97,7 @@ TEST_F(PagesCames, MonthsAreInTheWorkingLanguage) {
 TEST_F(PagesCames, ALongNameStaysOnThePage) {
     for (const char* nom : {"Une came de tête au nom long.Ang",
                             "Une came de distribution à l'entraînement d'un transfert, version très définitive.Ang"}) {
-        etude.NomFichier = nom;
+        etude.donnees.NomFichier = nom;
         DebutPageCames("Titre");
         const std::string ligne = imprimante.pages[0].lignes[imprimante.pages[0].lignes.size() - 4].Texte();
         imprimante.Taille(12);

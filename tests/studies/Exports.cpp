@@ -33,50 +33,50 @@ protected:
 
 TEST_F(Exports, PointFileReadsBackToTheRadii) {
     const auto lignes = LesLignes(ComposeFichierPoints());
-    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 2);
-    EXPECT_EQ(lignes[0], "Rayon du galet ," + StrTrim(etude.RayonGalet));
-    for (long i = 0; i <= etude.NombrePoints; ++i) {
+    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.resultats.NombrePoints) + 2);
+    EXPECT_EQ(lignes[0], "Rayon du galet ," + StrTrim(etude.donnees.RayonGalet));
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
         const auto [angle, rayon] = LeCouple(lignes[static_cast<std::size_t>(i) + 1]);
-        ASSERT_EQ(angle, etude.Points[i].Angle);
-        ASSERT_NEAR(rayon, etude.Points[i].Rayon, 5.1e-7);
+        ASSERT_EQ(angle, etude.resultats.Points[i].Angle);
+        ASSERT_NEAR(rayon, etude.resultats.Points[i].Rayon, 5.1e-7);
     }
 }
 
 TEST_F(Exports, OuterScriptDrawsTheProfileTurned) {
-    etude.AngleRotation = 0;
+    etude.resultats.AngleRotation = 0;
     auto lignes = LesLignes(ComposeScriptExterieur());
     const std::vector<std::string> tete(lignes.begin(), lignes.begin() + 4);
     EXPECT_EQ(tete, (std::vector<std::string>{"LIGNE -5,0 5,0", "", "LIGNE 0,-5 0,5", ""}));
-    EXPECT_EQ(lignes[4],
-              "LIGNE 0,0 " + StrTrim(etude.Profil[0].XExterieur) + "," + StrTrim(etude.Profil[0].YExterieur));
+    EXPECT_EQ(lignes[4], "LIGNE 0,0 " + StrTrim(etude.resultats.Profil[0].XExterieur) + "," +
+                             StrTrim(etude.resultats.Profil[0].YExterieur));
     EXPECT_EQ(lignes[5], "");
     EXPECT_EQ(lignes[6], "_pline");
-    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 7);
-    for (long i = 1; i <= etude.NombrePoints; ++i) {
+    ASSERT_EQ(lignes.size(), static_cast<std::size_t>(etude.resultats.NombrePoints) + 7);
+    for (long i = 1; i <= etude.resultats.NombrePoints; ++i) {
         const auto [x, y] = LeCouple(lignes[static_cast<std::size_t>(i) + 6]);
-        ASSERT_EQ(x, etude.Profil[i].XExterieur) << "full precision";
-        ASSERT_EQ(y, etude.Profil[i].YExterieur);
+        ASSERT_EQ(x, etude.resultats.Profil[i].XExterieur) << "full precision";
+        ASSERT_EQ(y, etude.resultats.Profil[i].YExterieur);
     }
-    etude.AngleRotation = Pi / 2;
+    etude.resultats.AngleRotation = Pi / 2;
     lignes = LesLignes(ComposeScriptExterieur());
     const auto [x, y] = LeCouple(lignes[7]);
-    EXPECT_NEAR(x, etude.Profil[1].YExterieur, 1e-9) << "clockwise";
-    EXPECT_NEAR(y, -etude.Profil[1].XExterieur, 1e-9);
+    EXPECT_NEAR(x, etude.resultats.Profil[1].YExterieur, 1e-9) << "clockwise";
+    EXPECT_NEAR(y, -etude.resultats.Profil[1].XExterieur, 1e-9);
 }
 
 TEST_F(Exports, InnerScriptBearsTheArmOfAnArmCamOnly) {
     auto lignes = LesLignes(ComposeScriptInterieur());
     const auto [x0, y0] = LeCouple(lignes[10].substr(6));
-    EXPECT_EQ(x0, -etude.CoteA);
-    EXPECT_EQ(y0, -etude.CoteB);
+    EXPECT_EQ(x0, -etude.donnees.CoteA);
+    EXPECT_EQ(y0, -etude.donnees.CoteB);
     const auto [px, py] = LeCouple(lignes[11]);
-    EXPECT_NEAR(std::hypot(px - x0, py - y0), etude.RayonO1P, 1e-9);
-    EXPECT_NEAR(std::hypot(px, py), etude.Points[0].Rayon, 1e-9) << "the roller stands on the pitch curve";
+    EXPECT_NEAR(std::hypot(px - x0, py - y0), etude.donnees.RayonO1P, 1e-9);
+    EXPECT_NEAR(std::hypot(px, py), etude.resultats.Points[0].Rayon, 1e-9) << "the roller stands on the pitch curve";
     EXPECT_EQ(lignes[12], "");
-    EXPECT_EQ(lignes[13], "CERCLE " + lignes[11] + " d " + StrTrim(2 * etude.RayonGalet));
+    EXPECT_EQ(lignes[13], "CERCLE " + lignes[11] + " d " + StrTrim(2 * etude.donnees.RayonGalet));
     EXPECT_EQ(lignes[14], "_pline");
-    EXPECT_EQ(lignes.size(), static_cast<std::size_t>(etude.NombrePoints) + 15);
-    etude.TypeCame = "Lineaire";
+    EXPECT_EQ(lignes.size(), static_cast<std::size_t>(etude.resultats.NombrePoints) + 15);
+    etude.donnees.TypeCame = "Lineaire";
     lignes = LesLignes(ComposeScriptInterieur());
     EXPECT_EQ(lignes[4], "_pline");
 }

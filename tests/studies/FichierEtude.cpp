@@ -30,18 +30,18 @@ protected:
 
 TEST_F(FichierEtude, ReadsEveryLine) {
     ASSERT_TRUE(LitEtude(exemple, angulaire));
-    EXPECT_EQ(etude.TypeCame, "Angulaire");
-    EXPECT_EQ(etude.CoteB, 30.5);
-    EXPECT_EQ(etude.AnglePesanteur, 0) << "a lone point is zero";
-    EXPECT_EQ(etude.MasseBrasO1A, 0.8);
-    EXPECT_EQ(etude.ForceY, 40.25);
-    EXPECT_EQ(etude.NombreZones, 2);
-    EXPECT_EQ(etude.Zones[2].NomLoi, "MS_Spe_ 40");
-    EXPECT_EQ(etude.Zones[2].CoefSymetrie, 0.35);
-    EXPECT_EQ(etude.PointsParDegre, 2);
-    EXPECT_NEAR(etude.Zones[1].Temps, 0.1, 1e-15);
-    EXPECT_EQ(etude.Zones[2].RayonDepart, etude.Zones[1].RayonFinal);
-    EXPECT_GT(etude.Zones[1].RayonDepart, 0);
+    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
+    EXPECT_EQ(etude.donnees.CoteB, 30.5);
+    EXPECT_EQ(etude.donnees.AnglePesanteur, 0) << "a lone point is zero";
+    EXPECT_EQ(etude.donnees.MasseBrasO1A, 0.8);
+    EXPECT_EQ(etude.donnees.ForceY, 40.25);
+    EXPECT_EQ(etude.donnees.NombreZones, 2);
+    EXPECT_EQ(etude.donnees.Zones[2].NomLoi, "MS_Spe_ 40");
+    EXPECT_EQ(etude.donnees.Zones[2].CoefSymetrie, 0.35);
+    EXPECT_EQ(etude.donnees.PointsParDegre, 2);
+    EXPECT_NEAR(etude.donnees.Zones[1].Temps, 0.1, 1e-15);
+    EXPECT_EQ(etude.donnees.Zones[2].RayonDepart, etude.donnees.Zones[1].RayonFinal);
+    EXPECT_GT(etude.donnees.Zones[1].RayonDepart, 0);
 }
 
 TEST_F(FichierEtude, SavedAgainItIsTheSameFile) {
@@ -53,8 +53,8 @@ TEST_F(FichierEtude, SavedAgainItIsTheSameFile) {
     etude = Etude{};
     ChargeLois();
     ASSERT_TRUE(LitEtude(virgules, angulaire));
-    EXPECT_EQ(etude.CoteB, lue.CoteB) << "the comma keeps its decimals";
-    EXPECT_EQ(etude.Zones[2].CoefSymetrie, 0.35);
+    EXPECT_EQ(etude.donnees.CoteB, lue.donnees.CoteB) << "the comma keeps its decimals";
+    EXPECT_EQ(etude.donnees.Zones[2].CoefSymetrie, 0.35);
 }
 
 TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
@@ -62,20 +62,20 @@ TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
         etude = Etude{};
         ChargeLois();
         double valeur = 10.25;
-        for (const auto& champ : type.champs) etude.*champ.membre = valeur += 1.5;
+        for (const auto& champ : type.champs) etude.donnees.*champ.membre = valeur += 1.5;
         PoseZones({{5.25, 7.5, 200, "MS"}, {7.5, 5.25, 160, "CYC", 0.4}});
-        etude.PointsParDegre = 4;
-        etude.ZonesConjuguees = etude.Zones;
+        etude.donnees.PointsParDegre = 4;
+        etude.donnees.ZonesConjuguees = etude.donnees.Zones;
         const Etude ecrite = etude;
         const std::string contenu = ComposeFichierEtude(type, '.');
         etude = Etude{};
         ChargeLois();
         ASSERT_TRUE(LitEtude(contenu, type)) << type.nom;
         for (const auto& champ : type.champs)
-            EXPECT_EQ(etude.*champ.membre, ecrite.*champ.membre) << type.nom << champ.nom;
-        EXPECT_EQ(etude.Zones[2].*type.zones->valeurFinale, 5.25) << type.nom;
-        EXPECT_EQ(etude.Zones[2].AngleCame, 160) << type.nom;
-        EXPECT_EQ(etude.PointsParDegre, 4) << type.nom;
+            EXPECT_EQ(etude.donnees.*champ.membre, ecrite.donnees.*champ.membre) << type.nom << champ.nom;
+        EXPECT_EQ(etude.donnees.Zones[2].*type.zones->valeurFinale, 5.25) << type.nom;
+        EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 160) << type.nom;
+        EXPECT_EQ(etude.donnees.PointsParDegre, 4) << type.nom;
         EXPECT_EQ(ComposeFichierEtude(type, '.'), contenu) << type.nom;
     }
 }
@@ -111,14 +111,14 @@ TEST_F(FichierEtude, SavingAsksForANameAndKeepsTheOldFileOnFailure) {
     const auto chemin = dossier / "essai.Ang";
     dialogues.fichiers = {chemin, std::nullopt, dossier / "absent" / "essai.Ang"};
     EXPECT_TRUE(DonneesDepart());
-    EXPECT_EQ(etude.NomFichier, "essai.Ang");
+    EXPECT_EQ(etude.donnees.NomFichier, "essai.Ang");
     EXPECT_FALSE(DonneesDepart()) << "cancelled";
     EXPECT_THROW(DonneesDepart(), ErreurExecution);
-    EXPECT_EQ(etude.NomFichier, "essai.Ang");
+    EXPECT_EQ(etude.donnees.NomFichier, "essai.Ang");
     etude = Etude{};
     ChargeLois();
     EXPECT_TRUE(LitFichierEtude(chemin));
-    EXPECT_EQ(etude.CoteB, 30.5);
+    EXPECT_EQ(etude.donnees.CoteB, 30.5);
     std::filesystem::remove(chemin);
     EXPECT_THROW(LitFichierEtude(chemin), ErreurExecution);
 }

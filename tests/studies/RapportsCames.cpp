@@ -20,22 +20,22 @@ protected:
     ImprimanteNotee imprimante;
 
     void Calcule(const char* type, double vitesse = 300, std::int16_t pointsParDegre = 1) {
-        etude.TypeCame = type;
-        etude.NomFichier = "Essai";
-        etude.CoteA = 100;
-        etude.CoteB = 65;
-        etude.RayonO1A = 120;
-        etude.RayonO1P = 100;
-        etude.AnglePO1A = 50;
-        etude.RayonGalet = 16;
-        etude.VitesseCame = vitesse;
-        etude.MasseBrasO1A = 1.2;
-        etude.MasseBrasO1P = 0.9;
-        etude.MasseA = 2.5;
-        etude.ForceY = -120;
-        etude.EpaisseurCame = 20;
-        etude.PointsParDegre = pointsParDegre;
-        const bool bras = etude.TypeCame == "Angulaire";
+        etude.donnees.TypeCame = type;
+        etude.donnees.NomFichier = "Essai";
+        etude.donnees.CoteA = 100;
+        etude.donnees.CoteB = 65;
+        etude.donnees.RayonO1A = 120;
+        etude.donnees.RayonO1P = 100;
+        etude.donnees.AnglePO1A = 50;
+        etude.donnees.RayonGalet = 16;
+        etude.donnees.VitesseCame = vitesse;
+        etude.donnees.MasseBrasO1A = 1.2;
+        etude.donnees.MasseBrasO1P = 0.9;
+        etude.donnees.MasseA = 2.5;
+        etude.donnees.ForceY = -120;
+        etude.donnees.EpaisseurCame = 20;
+        etude.donnees.PointsParDegre = pointsParDegre;
+        const bool bras = etude.donnees.TypeCame == "Angulaire";
         const double bas = bras ? 5 : 45, haut = bras ? 25 : 80;
         PoseZones({{bas, haut, 110, "MS"}, {haut, haut, 60, "MS"}, {haut, bas, 120, "MS"}, {bas, bas, 70, "MS"}});
         CalculeEtude();
@@ -126,7 +126,7 @@ TEST_F(RapportsCames, DataReportHasEveryValueOfTheStudy) {
     const Textes lignes = ToutesLesLignes();
     for (const ChampFichier& champ : TrouveType("Angulaire")->champs)
         EXPECT_TRUE(Contient(lignes, Texte(champ.texte),
-                             "(" + Texte(champ.unite) + ") : " + Format(etude.*champ.membre, "###.##")))
+                             "(" + Texte(champ.unite) + ") : " + Format(etude.donnees.*champ.membre, "###.##")))
             << champ.nom;
     const auto rang = [&](const char* debut) {
         return std::find_if(lignes.begin(), lignes.end(), [&](const auto& l) { return Trim(l).starts_with(debut); }) -
@@ -150,12 +150,13 @@ TEST_F(RapportsCames, RemarkableValuesWithTheirMasksAndAngles) {
     Calcule("Angulaire");
     Imprime({MarqueImpression::PointsRemarquables});
     const Textes lignes = ToutesLesLignes();
-    EXPECT_TRUE(Contient(lignes, "Rayon came : mini", "(mm) : " + Format(etude.RayonMin, "###.###")));
+    EXPECT_TRUE(Contient(lignes, "Rayon came : mini", "(mm) : " + Format(etude.resultats.RayonMin, "###.###")));
+    EXPECT_TRUE(Contient(lignes, "Force maxi sur le galet",
+                         "au point " + std::to_string(etude.resultats.ForceGaletMaxAngle) + "°"));
     EXPECT_TRUE(
-        Contient(lignes, "Force maxi sur le galet", "au point " + std::to_string(etude.ForceGaletMaxAngle) + "°"));
-    EXPECT_TRUE(Contient(lignes, "Accélération        ", "au point " + std::to_string(etude.LoiAccelMaxAngle) + "°"));
-    EXPECT_TRUE(Contient(lignes, "Inertie du bras", "(Kgm²) : " + Format(etude.InertieBras, "##.#####")));
-    EXPECT_NE(etude.InertieBras, 0);
+        Contient(lignes, "Accélération        ", "au point " + std::to_string(etude.durables.LoiAccelMaxAngle) + "°"));
+    EXPECT_TRUE(Contient(lignes, "Inertie du bras", "(Kgm²) : " + Format(etude.resultats.InertieBras, "##.#####")));
+    EXPECT_NE(etude.resultats.InertieBras, 0);
 }
 
 TEST_F(RapportsCames, MotionTableHoldsEveryPoint) {
@@ -165,8 +166,8 @@ TEST_F(RapportsCames, MotionTableHoldsEveryPoint) {
     ASSERT_EQ(rangees.size(), 361U);
     for (long i = 0; i <= 360; ++i) {
         const auto& r = rangees[static_cast<std::size_t>(i)];
-        const Point& p = etude.Points[i];
-        const PointLoi& m = etude.Mouvement[i];
+        const Point& p = etude.resultats.Points[i];
+        const PointLoi& m = etude.resultats.Mouvement[i];
         const double attendues[] = {p.Angle, p.Rayon, p.VitesseRayon, p.AccelRayon, m.Course, m.Vitesse, m.Accel};
         ASSERT_EQ(r.size(), std::size(attendues)) << i;
         for (std::size_t c = 0; c < r.size(); ++c) ASSERT_NEAR(r[c], attendues[c], CentiemeArrondi) << i << " " << c;
@@ -197,7 +198,7 @@ TEST_F(RapportsCames, UnitsOfTheOtherTablesAndTheTruncatedPageTotal) {
 
 TEST_F(RapportsCames, AValueTooLongForItsColumnIsNeverCut) {
     Calcule("Angulaire", 12000);
-    ASSERT_GT(etude.LoiAccelMax, 500000);
+    ASSERT_GT(etude.durables.LoiAccelMax, 500000);
     Imprime({MarqueImpression::PointsMouvement});
     const Textes lignes = ToutesLesLignes();
     const int largeur = NombreCaracteres(lignes[6]);
@@ -207,7 +208,7 @@ TEST_F(RapportsCames, AValueTooLongForItsColumnIsNeverCut) {
     ASSERT_EQ(rangees.size(), 361U);
     for (long i = 0; i <= 360; ++i) {
         ASSERT_EQ(rangees[static_cast<std::size_t>(i)].size(), 7U) << i;
-        ASSERT_NEAR(rangees[static_cast<std::size_t>(i)][6], etude.Mouvement[i].Accel, 0.006) << i;
+        ASSERT_NEAR(rangees[static_cast<std::size_t>(i)][6], etude.resultats.Mouvement[i].Accel, 0.006) << i;
     }
 }
 
@@ -218,11 +219,11 @@ TEST_F(RapportsCames, TheProfileHasTheScaleOfItsLastLine) {
         ChargeLois();
         imprimante = ImprimanteNotee();
         Calcule("Lineaire");
-        for (Zone& zone : etude.Zones) {
+        for (Zone& zone : etude.donnees.Zones) {
             zone.RayonDepart *= grandeur;
             zone.RayonFinal *= grandeur;
         }
-        etude.RayonGalet *= grandeur;
+        etude.donnees.RayonGalet *= grandeur;
         CalculeEtude();
         Imprime({MarqueImpression::Profil});
         ASSERT_EQ(imprimante.pages.size(), 1U);
@@ -233,11 +234,12 @@ TEST_F(RapportsCames, TheProfileHasTheScaleOfItsLastLine) {
 
         const auto courbes = Courbes(imprimante.pages[0], Couleur::Came);
         ASSERT_EQ(courbes.size(), 2U);
-        for (long i = 1; i <= etude.NombrePoints; ++i) {
+        for (long i = 1; i <= etude.resultats.NombrePoints; ++i) {
             const PointDessin& interieur = courbes[0][static_cast<std::size_t>(i)];
             const PointDessin& exterieur = courbes[1][static_cast<std::size_t>(i)];
-            const PointProfil& p = etude.Profil[i];
-            ASSERT_NEAR(interieur.x - courbes[0][0].x, echelle * (p.XInterieur - etude.Profil[0].XInterieur), 1e-9);
+            const PointProfil& p = etude.resultats.Profil[i];
+            ASSERT_NEAR(interieur.x - courbes[0][0].x, echelle * (p.XInterieur - etude.resultats.Profil[0].XInterieur),
+                        1e-9);
             ASSERT_NEAR(exterieur.x - interieur.x, echelle * (p.XExterieur - p.XInterieur), 1e-9);
             ASSERT_NEAR(exterieur.y - interieur.y, -echelle * (p.YExterieur - p.YInterieur), 1e-9) << "y runs up";
             ASSERT_TRUE(exterieur.x > 0 && exterieur.x < 185 && exterieur.y > 20 && exterieur.y < 269) << i;
@@ -257,7 +259,7 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
         ChargeLois();
         ASSERT_TRUE(LitFichierEtude(CheminAppli / NomDossierEtudes / fichier));
         CalculeEtude();
-        const bool bras = etude.TypeCame == "Oscillation";
+        const bool bras = etude.donnees.TypeCame == "Oscillation";
         imprimante = ImprimanteNotee();
         Imprime({MarqueImpression::Profil});
         const auto& page = imprimante.pages.front();
@@ -266,11 +268,11 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
         ASSERT_EQ(courbes.size(), bras ? 2u : 4u) << "both flanks of every turn";
         const auto& interieur = courbes.front();
         for (long i = 0; i < 700; ++i) {
-            const PointProfil& p = etude.Profil[i];
+            const PointProfil& p = etude.resultats.Profil[i];
             ASSERT_NEAR(interieur[static_cast<std::size_t>(i)].y - interieur[0].y,
-                        0.5 * (p.XInterieur - etude.Profil[0].XInterieur), 1e-9);
+                        0.5 * (p.XInterieur - etude.resultats.Profil[0].XInterieur), 1e-9);
         }
-        const auto tour = Format(Pi * etude.DiametreCame, "####.00");
+        const auto tour = Format(Pi * etude.donnees.DiametreCame, "####.00");
         EXPECT_TRUE(std::any_of(page.etiquettes.begin(), page.etiquettes.end(), [&](const auto& etiquette) {
             return etiquette.texte == tour;
         })) << tour;
@@ -281,7 +283,7 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
         EXPECT_EQ(imprimante.pages.size(), bras ? 4u : 3u) << "a graph of the arm only where there is one";
         std::string texte;
         for (const std::string& ligne : ToutesLesLignes()) texte += ligne + "\n";
-        EXPECT_NE(texte.find(Format(etude.CoupleDemarrage, "###.##") + " 0.25 sec"), std::string::npos);
+        EXPECT_NE(texte.find(Format(etude.resultats.CoupleDemarrage, "###.##") + " 0.25 sec"), std::string::npos);
         EXPECT_NE(texte.find(Format(PenteMaxi(), "##.##")), std::string::npos);
         std::size_t place = 0;
         for (const int libelle :
@@ -298,7 +300,7 @@ TEST_F(RapportsCames, GraphsFillTheirBoxesToScale) {
     Imprime({MarqueImpression::GraphiqueMouvement});
     ASSERT_EQ(imprimante.pages.size(), 2U);
     const auto& bras = imprimante.pages[1];
-    const double maxima[] = {etude.LoiCourseMax, etude.LoiVitesseMax, etude.LoiAccelMax};
+    const double maxima[] = {etude.durables.LoiCourseMax, etude.durables.LoiVitesseMax, etude.durables.LoiAccelMax};
     const Couleur couleurs[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
     double PointLoi::*const membres[] = {&PointLoi::Course, &PointLoi::Vitesse, &PointLoi::Accel};
     for (int c = 0; c < 3; ++c) {
@@ -308,15 +310,15 @@ TEST_F(RapportsCames, GraphsFillTheirBoxesToScale) {
         for (long i = 0; i <= 360; ++i) {
             const PointDessin& p = courbes[0][static_cast<std::size_t>(i)];
             ASSERT_NEAR(p.x, 20 + 160.0 * static_cast<double>(i) / 360, 1e-9);
-            ASSERT_NEAR(zero - p.y, 30 * etude.Mouvement[i].*membres[c] / maxima[c], 1e-9);
+            ASSERT_NEAR(zero - p.y, 30 * etude.resultats.Mouvement[i].*membres[c] / maxima[c], 1e-9);
         }
     }
     const auto etiquette = [&](const std::string& texte) {
         return std::any_of(bras.etiquettes.begin(), bras.etiquettes.end(),
                            [&](const auto& e) { return e.texte == texte; });
     };
-    EXPECT_TRUE(etiquette(Format(etude.LoiVitesseMax, "###.##")));
-    EXPECT_TRUE(etiquette("-" + Format(etude.LoiAccelMax, "###.##")));
+    EXPECT_TRUE(etiquette(Format(etude.durables.LoiVitesseMax, "###.##")));
+    EXPECT_TRUE(etiquette("-" + Format(etude.durables.LoiAccelMax, "###.##")));
     EXPECT_TRUE(etiquette(" rad/sec²"));
     EXPECT_TRUE(etiquette("360"));
     EXPECT_TRUE(etiquette("Angle came (degrés)"));
@@ -339,8 +341,8 @@ TEST_F(RapportsCames, DrawingsStayOnASmallerPaper) {
 
 TEST_F(RapportsCames, ACurveOfZerosIsDrawnOnItsAxis) {
     Calcule("Lineaire");
-    for (Point& point : etude.Points) point.Couple = 0;
-    etude.CoupleMax = 0;
+    for (Point& point : etude.resultats.Points) point.Couple = 0;
+    etude.resultats.CoupleMax = 0;
     Imprime({MarqueImpression::GraphiqueForces});
     const auto courbes = Courbes(imprimante.pages[0], Couleur::Courbe2);
     ASSERT_EQ(courbes.size(), 1U);
@@ -353,5 +355,5 @@ TEST_F(RapportsCames, APrinterThatFailsEndsTheRun) {
     EXPECT_THROW(Imprime({MarqueImpression::PointsMouvement}), ErreurExecution);
     EXPECT_FALSE(imprimante.fini);
     EXPECT_THROW(ImprimanteEnCours(), ErreurExecution) << "the run is over";
-    EXPECT_EQ(etude.Points.BorneHaute(), 360) << "the study is as it was";
+    EXPECT_EQ(etude.resultats.Points.BorneHaute(), 360) << "the study is as it was";
 }

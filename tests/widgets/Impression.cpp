@@ -26,7 +26,7 @@ namespace {
 
 void CalculeExemple(std::int16_t pointsParDegre) {
     ASSERT_TRUE(LitFichierEtude(std::string(VELORIN_DOSSIER) + "/Profils/Exemple.Ang"));
-    etude.PointsParDegre = pointsParDegre;
+    etude.donnees.PointsParDegre = pointsParDegre;
     CalculeEtude();
     ASSERT_TRUE(SansErreur());
 }
@@ -62,7 +62,7 @@ bool PdfEntier(const std::string& pdf) {
 
 TEST(ImprimePdf, SevenReportsOfThreeThousandSixHundredPoints) {
     CalculeExemple(10);
-    ASSERT_EQ(etude.NombrePoints, 3600);
+    ASSERT_EQ(etude.resultats.NombrePoints, 3600);
     ImprimanteNotee notee;
     ImprimeTout(notee);
     const DossierTemporaire dossier;

@@ -15,16 +15,16 @@
 namespace {
 
 constexpr ChampSaisie Table[] = {
-    {"Text1", 152, 18, &Etude::CoteA},
-    {"Text2", 153, 18, &Etude::CoteB},
-    {"Text18", 157, 21, &Etude::VitesseCame},
+    {"Text1", 152, 18, &DonneesEtude::CoteA},
+    {"Text2", 153, 18, &DonneesEtude::CoteB},
+    {"Text18", 157, 21, &DonneesEtude::VitesseCame},
 };
 
 } // namespace
 
 TEST(PanneauChamps, PorteLEtudeDansUnSensEtDansLAutre) {
-    etude.CoteA = 120.5;
-    etude.CoteB = -3;
+    etude.donnees.CoteA = 120.5;
+    etude.donnees.CoteB = -3;
     PanneauChamps panneau("Picture2", 151, Table);
     EXPECT_EQ(S(panneau.title()), Texte(151));
     EXPECT_EQ(panneau.Champ("Text1")->Valeur(), 120.5);
@@ -33,14 +33,14 @@ TEST(PanneauChamps, PorteLEtudeDansUnSensEtDansLAutre) {
     panneau.Champ("Text2")->setText(QStringLiteral("7,5"));
     panneau.Champ("Text18")->setText(QStringLiteral("300"));
     panneau.Lit();
-    EXPECT_EQ(etude.CoteB, 7.5);
-    EXPECT_EQ(etude.VitesseCame, 300);
+    EXPECT_EQ(etude.donnees.CoteB, 7.5);
+    EXPECT_EQ(etude.donnees.VitesseCame, 300);
 
     // A number beyond a double leaves the whole record as it was.
     panneau.Champ("Text1")->setText(QStringLiteral("1"));
     panneau.Champ("Text18")->setText(QStringLiteral("1e999"));
     EXPECT_THROW(panneau.Lit(), ErreurExecution);
-    EXPECT_EQ(etude.CoteA, 120.5);
+    EXPECT_EQ(etude.donnees.CoteA, 120.5);
 
     panneau.Charge();
     EXPECT_EQ(S(panneau.Champ("Text1")->text()), "120.5");

@@ -20,7 +20,7 @@ using SaisieCylOsc = EcranDeSaisie<DoCylOsc>;
 } // namespace
 
 TEST_F(SaisieCyl, AStudyIsEnteredAndTheDiameterIsAskedForInTheEnd) {
-    etude.TypeCame = "Cylindrique";
+    etude.donnees.TypeCame = "Cylindrique";
     QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
     Tape({{"Text6", "2"}, {"Text7", "5"}, {"Text8", "45"}, {"Text9", "180"}});
     Clique("Suivante");
@@ -49,17 +49,17 @@ TEST_F(SaisieCyl, AStudyIsEnteredAndTheDiameterIsAskedForInTheEnd) {
     Clique("Calculer");
     EXPECT_EQ(calculee.count(), 1);
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
-    EXPECT_EQ(etude.RayonGalet, 8.5);
-    EXPECT_EQ(etude.AnglePesanteur, 270);
-    EXPECT_EQ(etude.RayonMax, 45);
-    EXPECT_EQ(etude.NombrePoints, 720);
-    EXPECT_EQ(etude.EtudeModifiee, Vrai);
+    EXPECT_EQ(etude.donnees.RayonGalet, 8.5);
+    EXPECT_EQ(etude.donnees.AnglePesanteur, 270);
+    EXPECT_EQ(etude.resultats.RayonMax, 45);
+    EXPECT_EQ(etude.resultats.NombrePoints, 720);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
     const auto* grille = Controle<Grille>(*ecran, "Grille");
     EXPECT_EQ(grille->Cellule(0, 1) + grille->Cellule(0, 2) + grille->Cellule(0, 3), "180545");
 }
 
 TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {
-    etude.TypeCame = "Cylindrique";
+    etude.donnees.TypeCame = "Cylindrique";
     SuitReturn({"Text1", "Text2", "Text10", "Text4", "Text5", "Text6"});
     Tape({{"Text1", "90"}, {"Text2", "8"}, {"Text10", "110"}, {"Text6", "1"}});
     auto* lois = Controle<QComboBox>(*ecran, "Combo1");
@@ -71,7 +71,7 @@ TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {
     Clique("Calculer");
     EXPECT_NE(DerniereBoite().find(Texte(430)), std::string::npos);
     EXPECT_EQ(calculee.count(), 0) << "the screen stays on its data";
-    EXPECT_EQ(etude.EtudeModifiee, Faux);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
 
     dialogues.boites.clear();
     dialogues.fichiers = {CheminAppli / "Profils" / "Aller-retour.Lmi"};
@@ -81,8 +81,8 @@ TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {
     Clique("Suivante");
     Clique("Calculer");
     EXPECT_EQ(calculee.count(), 1) << DerniereBoite();
-    EXPECT_EQ(etude.NombrePoints, 720);
-    EXPECT_NEAR(etude.RayonMax, 20, 1e-6);
+    EXPECT_EQ(etude.resultats.NombrePoints, 720);
+    EXPECT_NEAR(etude.resultats.RayonMax, 20, 1e-6);
 }
 
 TEST_F(SaisieCyl, NoCaptionIsCutInAnyLanguage) {
@@ -90,7 +90,7 @@ TEST_F(SaisieCyl, NoCaptionIsCutInAnyLanguage) {
 }
 
 TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
-    etude.TypeCame = "Oscillation";
+    etude.donnees.TypeCame = "Oscillation";
     SuitReturn({"Text1", "Text2", "Text3", "RayonGalet", "VitesseCame", "Text6", "Text7", "NombreZones"});
     Tape({{"Text1", "100"},
           {"Text3", "120"},
@@ -116,14 +116,14 @@ TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
     Clique("Calculer");
     EXPECT_EQ(dialogues.demandes.back(),
               Texte(528) + " 'a' " + Texte(529) + "\na = 87.29\n" + Texte(530) + " : 100. " + Texte(531) + " ");
-    EXPECT_EQ(etude.CoteA, 100);
+    EXPECT_EQ(etude.donnees.CoteA, 100);
     Clique("Calculer");
-    EXPECT_EQ(etude.CoteA, 87.29);
+    EXPECT_EQ(etude.donnees.CoteA, 87.29);
     EXPECT_EQ(Controle<QLineEdit>(*ecran, "Text1")->text(), "87.29");
     Clique("Calculer");
     EXPECT_EQ(calculee.count(), 3) << "asked no more: the distance is the one offered";
-    EXPECT_EQ(etude.InertieMasseA, 0.06);
-    EXPECT_NEAR(etude.Points[90].Rayon, 0, 1e-12);
+    EXPECT_EQ(etude.donnees.InertieMasseA, 0.06);
+    EXPECT_NEAR(etude.resultats.Points[90].Rayon, 0, 1e-12);
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(0, 3), "180") << "angles, and no radii";
 }
 

@@ -35,7 +35,7 @@ protected:
     void Ouvre(const char* nom, const std::vector<const char*>& valeurs, const char* loi = "") {
         ecran_.reset();
         VideEtude();
-        etude.LoiChoisie = loi;
+        etude.lois.LoiChoisie = loi;
         ecran_ = std::make_unique<EcranLoi>(*TrouveEtudeLoi(nom));
         ecran_->show();
         ecran_->activateWindow();
@@ -86,7 +86,7 @@ TEST_F(EcransLois, TypedStudyShowsTheClosedForm) {
     Controle<QLineEdit>(*ecran_, "Text1")->clear();
     EXPECT_EQ(Montre("VitesseMaxi"), "");
     EXPECT_EQ(grille->NombreLignes(), 0);
-    EXPECT_FALSE(etude.EtudeModifiee);
+    EXPECT_FALSE(etude.resultats.EtudeModifiee);
 }
 
 TEST_F(EcransLois, CustomPercentageCountsWhole) {
@@ -94,15 +94,16 @@ TEST_F(EcransLois, CustomPercentageCountsWhole) {
     Calcule();
     EXPECT_EQ(Montre("CoefD"), ".125");
     EXPECT_EQ(Montre("CoefA"), ".2188");
-    EXPECT_EQ(etude.LoiEtude.NomLoi, "MS_Spe_12.5");
-    EXPECT_NEAR(etude.LoiUnite[50].Vitesse, etude.LoiEtude.Cv, 1e-12) << "the curve is that of the coefficients shown";
-    EXPECT_EQ(etude.ListeLois[1].NomLoi, "CYC");
-    EXPECT_EQ(etude.ListeLois[1].CoefA, 0.5) << "no row of the catalogue changes";
+    EXPECT_EQ(etude.lois.LoiEtude.NomLoi, "MS_Spe_12.5");
+    EXPECT_NEAR(etude.lois.LoiUnite[50].Vitesse, etude.lois.LoiEtude.Cv, 1e-12)
+        << "the curve is that of the coefficients shown";
+    EXPECT_EQ(etude.lois.ListeLois[1].NomLoi, "CYC");
+    EXPECT_EQ(etude.lois.ListeLois[1].CoefA, 0.5) << "no row of the catalogue changes";
 
     // Asymmetry stretches the coefficients shown.
     TapeDans(*ecran_, "Text0", "0.4");
     Calcule();
-    EXPECT_NEAR(Val(Montre("CoefVitesse")), etude.LoiEtude.Cv * 0.5 / 0.4, 5e-5);
+    EXPECT_NEAR(Val(Montre("CoefVitesse")), etude.lois.LoiEtude.Cv * 0.5 / 0.4, 5e-5);
 }
 
 TEST_F(EcransLois, RefusedInputsAreToldWithTheFocusOnTheField) {
@@ -136,7 +137,7 @@ TEST_F(EcransLois, RefusedInputsAreToldWithTheFocusOnTheField) {
         ASSERT_EQ(dialogues_.boites.size(), 1U) << r.ecran << " " << r.texte;
         EXPECT_EQ(dialogues_.boites.front().texte, r.texte) << r.ecran;
         EXPECT_EQ(Focus(), r.focus) << r.ecran << " " << r.texte;
-        EXPECT_FALSE(etude.ResultatsPrets);
+        EXPECT_FALSE(etude.resultats.ResultatsPrets);
     }
     // A minus cannot even be typed where no value is negative.
     EXPECT_EQ((TapeDans(*ecran_, "Text1", "-30"), Controle<ChampNombre>(*ecran_, "Text1")->Valeur()), 30);
@@ -150,18 +151,19 @@ TEST_F(EcransLois, SpecialStudiesReachTheirOutput) {
         Ouvre(e.ecran, e.valeurs);
         Calcule();
         ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.front().texte;
-        EXPECT_NEAR(etude.Mouvement[etude.NombrePoints].Course, 30, 1e-9) << e.ecran;
+        EXPECT_NEAR(etude.resultats.Mouvement[etude.resultats.NombrePoints].Course, 30, 1e-9) << e.ecran;
         // Speed in rad/s against the output in degrees, point by point in time.
         const double pas = 1.0 / 6 / 60;
-        const long i = etude.NombrePoints / 3;
-        EXPECT_NEAR((etude.Mouvement[i + 1].Course - etude.Mouvement[i - 1].Course) / (2 * pas) * Pi / 180,
-                    etude.Mouvement[i].Vitesse, 2e-3)
+        const long i = etude.resultats.NombrePoints / 3;
+        EXPECT_NEAR((etude.resultats.Mouvement[i + 1].Course - etude.resultats.Mouvement[i - 1].Course) / (2 * pas) *
+                        Pi / 180,
+                    etude.resultats.Mouvement[i].Vitesse, 2e-3)
             << e.ecran;
     }
     Ouvre("LoiMSHDis", {"90", "120", "30", "60"});
     Calcule();
-    EXPECT_NEAR(etude.Mouvement[90].Course, 30, 1e-12);
-    EXPECT_NEAR(etude.Mouvement[210].Course, 0, 1e-12);
+    EXPECT_NEAR(etude.resultats.Mouvement[90].Course, 30, 1e-12);
+    EXPECT_NEAR(etude.resultats.Mouvement[210].Course, 0, 1e-12);
 }
 
 TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
@@ -179,19 +181,20 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
     EXPECT_EQ(dialogues_.demandes.front(),
               Texte(341) + "|" + Texte(508) + " 2 " + Texte(637) + ", " + Texte(638) + "|1");
     EXPECT_EQ(LitFichierEntier(txt).substr(0, 12), "0;0;0;0\r\n.5;");
-    const auto table = etude.LoiUnite;
+    const auto table = etude.lois.LoiUnite;
 
     etude = Etude{};
     LitFichierLoi(lmi);
     PoseMecanismeBras();
-    etude.VitesseCame = 60;
-    etude.PointsParDegre = 2;
+    etude.donnees.VitesseCame = 60;
+    etude.donnees.PointsParDegre = 2;
     PoseZones({{10, 30, 360, NomLoiFichier}});
     CalculeCameAngulaire();
-    ASSERT_FALSE(etude.Erreur);
+    ASSERT_FALSE(etude.resultats.Erreur);
     for (const long i : {1L, 100L, 361L, 720L}) {
-        EXPECT_NEAR(etude.Mouvement[i].Course, 10 + 20 * table[i - 1].Course, 1e-12) << "one step later " << i;
-        EXPECT_GE(etude.Mouvement[i].Accel, 0) << i;
+        EXPECT_NEAR(etude.resultats.Mouvement[i].Course, 10 + 20 * table[i - 1].Course, 1e-12)
+            << "one step later " << i;
+        EXPECT_GE(etude.resultats.Mouvement[i].Accel, 0) << i;
     }
 
     // What a law file cannot hold is not written cut.
@@ -207,7 +210,7 @@ TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {
     Ouvre("LoiMouv", {"0.5", "360", "0", "50", "60"}, "MS");
     Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
     Calcule();
-    ASSERT_EQ(etude.NombrePoints, 3600);
+    ASSERT_EQ(etude.resultats.NombrePoints, 3600);
     QElapsedTimer temps;
     temps.start();
     Controle<QPushButton>(*ecran_, "Calculer")->click();
@@ -279,6 +282,6 @@ TEST(QuelLoi, PicturesAreChosenByKeyAndShowTheirCoefficients) {
 
     QuelLoi speciales("QuelLoiSpe");
     EXPECT_EQ(speciales.findChildren<BoutonImage*>().size(), 8);
-    etude.LoiChoisie = "MSC33";
+    etude.lois.LoiChoisie = "MSC33";
     EXPECT_EQ(TitreLoiChoisie(), Texte(228) + " 33% " + Texte(213));
 }

@@ -59,13 +59,13 @@ TEST_F(SaisieBras, AStudyIsEnteredZoneByZoneAndCalculated) {
 
     EXPECT_EQ(calculee.count(), 1);
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
-    EXPECT_EQ(etude.MasseBrasO1A, 0.8) << "a decimal comma is a point";
-    EXPECT_EQ(etude.Zones[3].NomLoi, "MS_Spe_ 35");
-    EXPECT_EQ(etude.NombrePoints, 1440);
-    EXPECT_NEAR(etude.Mouvement[360].Course, 40, 1e-12);
-    EXPECT_NEAR(etude.Zones[1].Temps, 0.05, 1e-15);
-    EXPECT_EQ(etude.EtudeModifiee, Vrai);
-    EXPECT_EQ(etude.ResultatsPrets, Vrai);
+    EXPECT_EQ(etude.donnees.MasseBrasO1A, 0.8) << "a decimal comma is a point";
+    EXPECT_EQ(etude.donnees.Zones[3].NomLoi, "MS_Spe_ 35");
+    EXPECT_EQ(etude.resultats.NombrePoints, 1440);
+    EXPECT_NEAR(etude.resultats.Mouvement[360].Course, 40, 1e-12);
+    EXPECT_NEAR(etude.donnees.Zones[1].Temps, 0.05, 1e-15);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
+    EXPECT_EQ(etude.resultats.ResultatsPrets, Vrai);
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(2, 6), "MS_Spe_ 35");
 }
 
@@ -81,13 +81,13 @@ TEST_F(SaisieBras, AStudyThatWasReadComesUpWhole) {
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 6), "MSC50");
     EXPECT_TRUE(Controle<QPushButton>(*ecran, "Calculer")->isEnabled());
     // A new speed holds for the zones entered before, and the results of the old one are none any more.
-    etude.ResultatsPrets = etude.EtudeModifiee = Vrai;
+    etude.resultats.ResultatsPrets = etude.resultats.EtudeModifiee = Vrai;
     Tape("Text18", "150");
-    EXPECT_EQ(etude.ResultatsPrets, Faux);
-    EXPECT_EQ(etude.EtudeModifiee, Faux);
+    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
     Clique("Calculer");
-    EXPECT_EQ(etude.EtudeModifiee, Vrai);
-    EXPECT_NEAR(etude.Zones[1].Temps, 0.2, 1e-15);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
+    EXPECT_NEAR(etude.donnees.Zones[1].Temps, 0.2, 1e-15);
 }
 
 TEST_F(SaisieBras, NumberOfZones) {
@@ -97,8 +97,8 @@ TEST_F(SaisieBras, NumberOfZones) {
     Tape("Text13", "99999");
     EXPECT_EQ(DerniereBoite(), Texte(206));
     Tape("Text13", "3.7");
-    EXPECT_EQ(etude.NombreZones, 3);
-    EXPECT_EQ(etude.Zones.BorneHaute(), 3);
+    EXPECT_EQ(etude.donnees.NombreZones, 3);
+    EXPECT_EQ(etude.donnees.Zones.BorneHaute(), 3);
     QSignalSpy quitte(ecran.get(), &DatoCama::Quitte);
     dialogues.boites.clear();
     Controle<QLineEdit>(*ecran, "Text13")->setText("0");
@@ -127,7 +127,7 @@ TEST_F(SaisieBras, AZoneAtFaultIsRefusedWithTheFocusOnIt) {
         Clique("Suivante");
         EXPECT_EQ(DerniereBoite().find(Texte(c.message)), 0u) << c.champ << " " << DerniereBoite();
         EXPECT_TRUE(AFocus(c.fautif)) << c.champ;
-        EXPECT_EQ(etude.ZoneCourante, 1);
+        EXPECT_EQ(etude.donnees.ZoneCourante, 1);
         Tape("Text18", "300");
     }
     Tape("Text4", "70");
@@ -143,7 +143,7 @@ TEST_F(SaisieBras, AZoneAtFaultIsRefusedWithTheFocusOnIt) {
     Tape("Text4", "70");
     Tape("Text19", "1");
     Clique("Suivante");
-    EXPECT_EQ(etude.ZoneCourante, 2) << "a coefficient of exactly 1 is accepted";
+    EXPECT_EQ(etude.donnees.ZoneCourante, 2) << "a coefficient of exactly 1 is accepted";
 }
 
 TEST_F(SaisieBras, CustomPercentage) {
@@ -156,13 +156,13 @@ TEST_F(SaisieBras, CustomPercentage) {
         Loi("MS_Spe");
         Clique("Suivante");
         EXPECT_EQ(DerniereBoite(), Texte(416));
-        EXPECT_TRUE(etude.Zones[1].NomLoi.empty());
+        EXPECT_TRUE(etude.donnees.Zones[1].NomLoi.empty());
         dialogues.boites.clear();
     }
     EXPECT_EQ(dialogues.demandes.back(), Texte(73) + "|" + Texte(309) + "|50");
     dialogues.saisies = {"5"};
     Clique("Suivante");
-    EXPECT_EQ(etude.Zones[1].NomLoi, "MS_Spe_ 5");
+    EXPECT_EQ(etude.donnees.Zones[1].NomLoi, "MS_Spe_ 5");
 }
 
 TEST_F(SaisieBras, LawsAreOfferedAndUnknownOnesRefused) {
@@ -195,7 +195,7 @@ TEST_F(SaisieBras, PointsPerDegreeAndTooManyPoints) {
     Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("10");
     Clique("Calculer");
     EXPECT_EQ(DerniereBoite(), Texte(205));
-    EXPECT_EQ(etude.Zones[1].AngleCame, 5000);
+    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 5000);
 }
 
 TEST_F(SaisieBras, AZoneMustEndOnAPoint) {
@@ -211,7 +211,7 @@ TEST_F(SaisieBras, AZoneMustEndOnAPoint) {
     dialogues.boites.clear();
     Controle<QComboBox>(*ecran, "Combo2")->setCurrentText("10");
     Clique("Calculer");
-    EXPECT_EQ(etude.NombrePoints, 897);
+    EXPECT_EQ(etude.resultats.NombrePoints, 897);
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
 }
 
@@ -224,12 +224,12 @@ TEST_F(SaisieBras, EscapeIsTheWayBack) {
 TEST_F(SaisieBras, ComesBackWithWhatWasChangedMeanwhile) {
     TapeDonnees();
     ecran->hide();
-    etude.MasseA = 7.5;
-    etude.AnglePesanteur = -90; // as a file may have it
+    etude.donnees.MasseA = 7.5;
+    etude.donnees.AnglePesanteur = -90; // as a file may have it
     ecran->show();
     EXPECT_EQ(Texte_("Text10"), "7.5");
     EXPECT_EQ(Texte_("Text17"), "-90");
-    EXPECT_EQ(etude.AnglePesanteur, -90) << "only a typed value is cut back";
+    EXPECT_EQ(etude.donnees.AnglePesanteur, -90) << "only a typed value is cut back";
 }
 
 TEST_F(SaisieBras, ReturnWalksTheFieldsInOrder) {
@@ -239,11 +239,11 @@ TEST_F(SaisieBras, ReturnWalksTheFieldsInOrder) {
 
 TEST_F(SaisieBras, GravityIsCutBackToATurn) {
     Tape("Text17", "400");
-    EXPECT_EQ(etude.AnglePesanteur, 360);
+    EXPECT_EQ(etude.donnees.AnglePesanteur, 360);
     Tape("Text17", "-5");
     EXPECT_EQ(Texte_("Text17"), "0");
     Tape("Text17", "12.5");
-    EXPECT_EQ(etude.AnglePesanteur, 12.5) << "the scroll bar's whole degrees do not round the entry";
+    EXPECT_EQ(etude.donnees.AnglePesanteur, 12.5) << "the scroll bar's whole degrees do not round the entry";
 }
 
 TEST_F(SaisieBras, NoCaptionIsCutInAnyLanguage) {
@@ -271,18 +271,18 @@ TEST_F(SaisieBras, ALawFileIsOfferedToOneZoneOnly) {
         QTest::keyClick(lois->lineEdit(), Qt::Key_Return);
         LaisseFaire();
         if (fois == 0) {
-            EXPECT_GT(etude.ListeLois.BorneHaute(), 1) << "cancelled: as it was";
+            EXPECT_GT(etude.lois.ListeLois.BorneHaute(), 1) << "cancelled: as it was";
             EXPECT_EQ(lois->currentText(), "CYC");
         }
     }
-    EXPECT_EQ(etude.ListeLois[1].NomLoi, "Fichier");
+    EXPECT_EQ(etude.lois.ListeLois[1].NomLoi, "Fichier");
     EXPECT_EQ(Texte_("Text16"), "360");
     EXPECT_EQ(Controle<QComboBox>(*ecran, "Combo2")->currentText(), "2");
     Clique("Suivante");
     Clique("Calculer");
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
-    EXPECT_EQ(etude.NombrePoints, 720);
-    EXPECT_NEAR(etude.Mouvement[361].Course, 32.5, 1e-9);
+    EXPECT_EQ(etude.resultats.NombrePoints, 720);
+    EXPECT_NEAR(etude.resultats.Mouvement[361].Course, 32.5, 1e-9);
     std::filesystem::remove(chemin);
 }
 
@@ -292,7 +292,7 @@ TEST_F(SaisieBras, TheTranslatingFollowerIsEnteredAlike) {
     LaisseFaire();
     const auto tape = [&](const char* champ, const char* texte) { TapeDans(profil, champ, texte); };
     const auto clique = [&](const char* bouton) { CliqueSur(profil, bouton); };
-    etude.TypeCame = "Lineaire";
+    etude.donnees.TypeCame = "Lineaire";
     tape("Text1", "12");
     tape("Text2", "240");
     tape("Text3", "16");
@@ -312,7 +312,7 @@ TEST_F(SaisieBras, TheTranslatingFollowerIsEnteredAlike) {
     QSignalSpy calculee(&profil, &SaisieCame::EtudeCalculee);
     clique("Calculer");
     EXPECT_EQ(calculee.count(), 1);
-    EXPECT_EQ(etude.MasseA, 1.8);
-    EXPECT_EQ(etude.RayonMax, 70);
+    EXPECT_EQ(etude.donnees.MasseA, 1.8);
+    EXPECT_EQ(etude.resultats.RayonMax, 70);
     EXPECT_EQ(Controle<Grille>(profil, "Grille")->Cellule(0, 2), "50") << "no columns of arm angles";
 }

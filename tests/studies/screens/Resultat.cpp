@@ -46,30 +46,32 @@ protected:
 } // namespace
 
 TEST_F(FenetreResultat, ShowsTheRecordInItsMasks) {
-    EXPECT_EQ(Valeur("RayonMax").toStdString(), Format(etude.RayonMax, "###.###"));
-    EXPECT_EQ(Valeur("ForceGaletMax").toStdString(), Format(etude.ForceGaletMax, "####.##"));
-    EXPECT_EQ(Valeur("AngleTangentMax").toStdString(), Format(etude.AngleTangentMax * RadDeg - 90, "##.##"));
-    EXPECT_TRUE(Valeur("ForceGaletMaxAngle").contains(QString::number(etude.ForceGaletMaxAngle)));
+    EXPECT_EQ(Valeur("RayonMax").toStdString(), Format(etude.resultats.RayonMax, "###.###"));
+    EXPECT_EQ(Valeur("ForceGaletMax").toStdString(), Format(etude.resultats.ForceGaletMax, "####.##"));
+    EXPECT_EQ(Valeur("AngleTangentMax").toStdString(), Format(etude.resultats.AngleTangentMax * RadDeg - 90, "##.##"));
+    EXPECT_TRUE(Valeur("ForceGaletMaxAngle").contains(QString::number(etude.resultats.ForceGaletMaxAngle)));
     EXPECT_EQ(ecran->windowTitle().toStdString(), "Exemple.Ang " + Texte(118));
 
     // A row of a listing is a degree, whatever the points per degree.
-    ASSERT_EQ(etude.PointsParDegre, 2);
+    ASSERT_EQ(etude.donnees.PointsParDegre, 2);
     auto* galet = Controle<Grille>(*ecran, "Grille1");
     EXPECT_EQ(galet->NombreLignes(), 361);
     EXPECT_EQ(galet->Cellule(90, 0), "90");
-    EXPECT_EQ(galet->Cellule(90, 1), Format(etude.Points[180].Rayon, "###.###"));
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille2")->Cellule(45, 1), Format(etude.Mouvement[90].Course, "###.###"));
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille3")->Cellule(30, 2), Format(etude.Points[60].Couple, "###.###"));
+    EXPECT_EQ(galet->Cellule(90, 1), Format(etude.resultats.Points[180].Rayon, "###.###"));
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille2")->Cellule(45, 1),
+              Format(etude.resultats.Mouvement[90].Course, "###.###"));
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille3")->Cellule(30, 2),
+              Format(etude.resultats.Points[60].Couple, "###.###"));
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille5")->Cellule(360, 1), Format(0, "###.##"));
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->NombreLignes(), etude.NombreZones);
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->NombreLignes(), etude.donnees.NombreZones);
 }
 
 TEST_F(FenetreResultat, ScrollAngleAndTextFollowEachOther) {
     auto* angle = Controle<QScrollBar>(*ecran, "HScroll1");
     angle->setValue(60);
     EXPECT_EQ(Controle<QLineEdit>(*ecran, "Text1")->text(), "60");
-    EXPECT_EQ(Valeur("Label42").toStdString(), Format(etude.Profil[120].AngleTangent * RadDeg - 90, "0.00"));
-    EXPECT_NEAR(etude.AngleRotation, Pi / 3, 1e-15);
+    EXPECT_EQ(Valeur("Label42").toStdString(), Format(etude.resultats.Profil[120].AngleTangent * RadDeg - 90, "0.00"));
+    EXPECT_NEAR(etude.resultats.AngleRotation, Pi / 3, 1e-15);
     Controle<QTabWidget>(*ecran, "SSTab1")->setCurrentIndex(4);
     Tape("Text1", "200");
     EXPECT_EQ(angle->value(), 200);
@@ -84,7 +86,7 @@ TEST_F(FenetreResultat, TurnsBothWaysAndStops) {
     Controle<QSlider>(*ecran, "Slider1")->setValue(10);
     angle->setValue(345);
     Clique("Tourner");
-    EXPECT_EQ(etude.RotationEnCours, Vrai);
+    EXPECT_EQ(etude.resultats.RotationEnCours, Vrai);
     EXPECT_TRUE(QTest::qWaitFor([&] { return angle->value() < 345; }, 2000))
         << "over the end it goes on from the start";
     Controle<QAction>(*ecran, "SensTrigo")->trigger();
@@ -98,7 +100,7 @@ TEST_F(FenetreResultat, TurnsBothWaysAndStops) {
     EXPECT_EQ(dialogues.boites.back().texte, Texte(435));
     EXPECT_EQ(Controle<QTabWidget>(*ecran, "SSTab1")->currentIndex(), 4);
     Clique("Arret");
-    EXPECT_EQ(etude.RotationEnCours, Faux);
+    EXPECT_EQ(etude.resultats.RotationEnCours, Faux);
     const int arret = angle->value();
     QTest::qWait(50);
     EXPECT_EQ(angle->value(), arret);
@@ -109,18 +111,18 @@ TEST_F(FenetreResultat, TurnsBothWaysAndStops) {
 
 TEST_F(FenetreResultat, RecalculationShowsTheNewResults) {
     QSignalSpy recalculee(ecran.get(), &Resultat::EtudeRecalculee);
-    const double rayon = etude.RayonMax, force = etude.ForceGaletMax;
+    const double rayon = etude.resultats.RayonMax, force = etude.resultats.ForceGaletMax;
     Tape("Text6", "150");
     Tape("Text2", "5,5");
     Clique("Recalcul");
     EXPECT_EQ(recalculee.count(), 1);
-    EXPECT_EQ(etude.VitesseCame, 150);
-    EXPECT_EQ(etude.MasseA, 5.5);
-    EXPECT_EQ(etude.RayonMax, rayon);
-    EXPECT_NE(etude.ForceGaletMax, force);
-    EXPECT_EQ(etude.EtudeModifiee, Vrai);
-    EXPECT_EQ(Valeur("ForceGaletMax").toStdString(), Format(etude.ForceGaletMax, "####.##"));
-    EXPECT_NEAR(etude.Zones[1].Temps, etude.Zones[1].AngleCame / 150 / 6, 1e-15);
+    EXPECT_EQ(etude.donnees.VitesseCame, 150);
+    EXPECT_EQ(etude.donnees.MasseA, 5.5);
+    EXPECT_EQ(etude.resultats.RayonMax, rayon);
+    EXPECT_NE(etude.resultats.ForceGaletMax, force);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
+    EXPECT_EQ(Valeur("ForceGaletMax").toStdString(), Format(etude.resultats.ForceGaletMax, "####.##"));
+    EXPECT_NEAR(etude.donnees.Zones[1].Temps, etude.donnees.Zones[1].AngleCame / 150 / 6, 1e-15);
 }
 
 TEST_F(FenetreResultat, AFailedRecalculationKeepsDataAndTables) {
@@ -128,15 +130,16 @@ TEST_F(FenetreResultat, AFailedRecalculationKeepsDataAndTables) {
     Tape("Text6", "0");
     Clique("Recalcul");
     EXPECT_EQ(dialogues.boites.back().texte, Texte(200));
-    EXPECT_EQ(etude.VitesseCame, avant.VitesseCame);
+    EXPECT_EQ(etude.donnees.VitesseCame, avant.donnees.VitesseCame);
 
     Controle<QLineEdit>(*ecran, "Text6")->setText("300");
-    etude.Zones[2].AngleFinal = -120; // the arm would pass the cam centre
+    etude.donnees.Zones[2].AngleFinal = -120; // the arm would pass the cam centre
     Clique("Recalcul");
     ASSERT_GE(dialogues.boites.size(), 2u);
     EXPECT_EQ(dialogues.boites.back().texte, Texte(75) + "\n\n" + Texte(509));
-    EXPECT_EQ(etude.RayonMax, avant.RayonMax);
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille1")->Cellule(90, 1), Format(avant.Points[180].Rayon, "###.###"));
+    EXPECT_EQ(etude.resultats.RayonMax, avant.resultats.RayonMax);
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille1")->Cellule(90, 1),
+              Format(avant.resultats.Points[180].Rayon, "###.###"));
     QSignalSpy quitte(ecran.get(), &Resultat::Quitte);
     Clique("Quitter");
     EXPECT_EQ(quitte.count(), 1);
@@ -149,13 +152,14 @@ TEST_F(FenetreResultat, ADevelopedCamIsWalkedAlongToItsLastTurn) {
     auto* angle = Controle<QScrollBar>(*ecran, "HScroll1");
     EXPECT_EQ(angle->maximum(), 720);
     angle->setValue(500);
-    EXPECT_EQ(Valeur("Label42").toStdString(), Format(etude.Profil[1000].AngleTangent * RadDeg, "0.00"));
-    EXPECT_EQ(etude.AngleRotation, 0) << "the sheet lies still, also in the scripts";
-    EXPECT_EQ(Valeur("AngleTangentMax").toStdString(), Format(etude.AngleTangentMax * RadDeg, "##.##"));
+    EXPECT_EQ(Valeur("Label42").toStdString(), Format(etude.resultats.Profil[1000].AngleTangent * RadDeg, "0.00"));
+    EXPECT_EQ(etude.resultats.AngleRotation, 0) << "the sheet lies still, also in the scripts";
+    EXPECT_EQ(Valeur("AngleTangentMax").toStdString(), Format(etude.resultats.AngleTangentMax * RadDeg, "##.##"));
     EXPECT_FALSE(Controle<QWidget>(*ecran, "GroupeBras")->isVisible());
     // The subscript of the peak is told as a cam angle.
-    ASSERT_EQ(etude.PointsParDegre, 2);
-    EXPECT_TRUE(Valeur("ForceGaletMaxAngle").contains(QString::number(Arrondi(etude.ForceGaletMaxAngle / 2.0))));
+    ASSERT_EQ(etude.donnees.PointsParDegre, 2);
+    EXPECT_TRUE(
+        Valeur("ForceGaletMaxAngle").contains(QString::number(Arrondi(etude.resultats.ForceGaletMaxAngle / 2.0))));
 }
 
 TEST_F(FenetreResultat, TheOscillatingStudyIsCalculatedAgainWithItsOwnEntries) {
@@ -165,21 +169,21 @@ TEST_F(FenetreResultat, TheOscillatingStudyIsCalculatedAgainWithItsOwnEntries) {
     EXPECT_FALSE(Controle<QWidget>(*ecran, "Text2")->isVisible()) << "no mass at a point A";
     EXPECT_TRUE(Controle<QWidget>(*ecran, "GroupeBras")->isVisible());
     EXPECT_FALSE(Controle<QWidget>(*ecran, "LoiCourseMax")->isVisible());
-    EXPECT_EQ(Valeur("CoupleDemarrage").toStdString(), Format(etude.CoupleDemarrage, "###.##"));
+    EXPECT_EQ(Valeur("CoupleDemarrage").toStdString(), Format(etude.resultats.CoupleDemarrage, "###.##"));
     EXPECT_EQ(Valeur("AngleDemarrage"), "112.5");
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille2")->model()->columnCount(), 4) << "no point A";
     Tape("Text7", "0,12");
     Tape("Text8", "-2");
     Clique("Recalcul");
-    EXPECT_EQ(etude.InertieMasseA, 0.12);
-    EXPECT_NEAR(etude.Points[300].ForceGalet, 2 / 0.112, 1e-9) << "at rest the constant torque alone";
+    EXPECT_EQ(etude.donnees.InertieMasseA, 0.12);
+    EXPECT_NEAR(etude.resultats.Points[300].ForceGalet, 2 / 0.112, 1e-9) << "at rest the constant torque alone";
     EXPECT_EQ(Controle<QScrollBar>(*ecran, "HScroll1")->maximum(), 360);
 }
 
 TEST_F(FenetreResultat, OpensAndTurnsFastEnough) {
-    etude.PointsParDegre = 10;
+    etude.donnees.PointsParDegre = 10;
     CalculeEtude();
-    ASSERT_EQ(etude.NombrePoints, 3600);
+    ASSERT_EQ(etude.resultats.NombrePoints, 3600);
     QElapsedTimer duree;
     duree.start();
     Ouvre();

@@ -74,7 +74,7 @@ TEST_F(Sauvegarde, AFileThatCannotBeWrittenKeepsTheStudy) {
     CliqueSur(ecran, "Sauvegarde");
     ASSERT_FALSE(dialogues.boites.empty()) << "told at the event loop";
     EXPECT_EQ(dialogues.boites.back().icone, Icone::Critique);
-    EXPECT_EQ(etude.NombreZones, 4);
+    EXPECT_EQ(etude.donnees.NombreZones, 4);
     EXPECT_TRUE(ecran.isVisible()) << "another place can be chosen";
 }
 

@@ -1,15 +1,12 @@
 #include "batch/CommandeEtude.h"
 
-#include "batch/JsonEtude.h"
+#include "batch/Passage.h"
 #include "batch/Sorties.h"
 #include "data/Textes.h"
-#include "laws/CalculLois.h"
 #include "studies/FichierEtude.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <ostream>
 
 namespace {
 
@@ -18,42 +15,23 @@ bool PeutOuvrir(const std::filesystem::path& fichier) {
     return !std::filesystem::is_directory(fichier, echec) && std::ifstream(fichier, std::ios::binary).is_open();
 }
 
-struct Issue {
-    bool calcule = false; ///< the pipeline ran to its end, whatever its flag says
-    std::string echec;    ///< why there are no results; empty when there are
-};
-
-Issue CalculeFichier(const std::filesystem::path& fichier, const LigneCommande& ligne,
-                     const DialoguesCollecte& dialogues) {
-    Issue issue;
-    try {
-        if (LitFichierEtude(fichier)) {
-            CalculeEtude();
-            issue.calcule = true;
-        }
-        if (!issue.calcule || !SansErreur()) {
-            issue.echec = dialogues.DernierMotif();
-            if (issue.echec.empty()) issue.echec = Texte(75);
-        } else {
-            EcritSorties(ligne);
-        }
-    } catch (const ErreurExecution& erreur) {
-        issue.echec = SensErreur(erreur);
+/// Reads and calculates. @param calcule set when the pipeline ran to its end, whatever its flag says
+/// @return why there are no results; empty when there are
+std::string CalculeFichier(const std::filesystem::path& fichier, const DialoguesCollecte& dialogues, bool& calcule) {
+    if (LitFichierEtude(fichier)) {
+        CalculeEtude();
+        calcule = true;
+        if (SansErreur()) return {};
     }
-    return issue;
+    const std::string motif = dialogues.DernierMotif();
+    return motif.empty() ? Texte(75) : motif;
 }
 
-Json JsonFichier(const std::string& fichier, const Issue& issue, const DialoguesCollecte& dialogues, bool tables) {
-    const TypeEtude* type = TrouveTypeFichier(fichier);
+Json JsonResultats(const TypeEtude* type, bool calcule, bool tables) {
     Json objet = Json::object();
-    objet["fichier"] = fichier;
-    objet["TypeCame"] = type == nullptr ? "" : type->nom;
-    objet["Erreur"] = etude.resultats.Erreur;
-    objet["messages"] = JsonMessages(dialogues);
-    if (!issue.echec.empty()) objet["echec"] = issue.echec;
     objet["donnees"] = type == nullptr ? Json::object() : JsonDonnees(*type);
     objet["Zones"] = JsonZones();
-    objet["resume"] = JsonResume(issue.calcule);
+    objet["resume"] = JsonResume(calcule);
     if (!tables) return objet;
     objet["Mouvement"] = JsonLoi(etude.resultats.Mouvement);
     objet["Points"] = JsonPoints();
@@ -68,22 +46,18 @@ int CommandeEtude(const LigneCommande& ligne, std::ostream& sortie, std::ostream
     const bool sorties = !ligne.points.empty() || !ligne.scripts.empty() || !ligne.rapport.empty();
     if (sorties && ligne.arguments.size() > 1)
         throw UsageIncorrect("etude: --points, --scripts and --rapport take one study file");
-    int statut = 0;
-    for (const std::string& fichier : ligne.arguments) {
-        if (!PeutOuvrir(fichier)) {
-            erreurs << "velorin-batch: cannot open " << fichier << "\n";
-            statut = 2;
-            continue;
-        }
-        // Every file as if the program had just been started: maxima and overwritten law rows do not go from one to the
-        // next.
-        etude = Etude{};
-        ChargeLois();
-        DialoguesCollecte dialogues(ligne.oui);
-        const Issue issue = CalculeFichier(fichier, ligne, dialogues);
-        EcritJson(sortie, JsonFichier(fichier, issue, dialogues, !ligne.resume));
-        sortie << "\n";
-        if (!issue.echec.empty()) statut = std::max(statut, 1);
-    }
-    return statut;
+    return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
+        if (!PeutOuvrir(fichier)) throw UsageIncorrect("cannot be opened");
+        const TypeEtude* type = TrouveTypeFichier(fichier);
+        bool calcule = false;
+        Calcul calcul;
+        calcul.tete = {{"fichier", fichier}, {"TypeCame", type == nullptr ? "" : type->nom}};
+        calcul.execute = [&](const DialoguesCollecte& dialogues) {
+            const std::string echec = CalculeFichier(fichier, dialogues, calcule);
+            if (echec.empty()) EcritSorties(ligne);
+            return echec;
+        };
+        calcul.resultats = [&](bool) { return JsonResultats(type, calcule, !ligne.resume); };
+        return LanceCalcul(calcul, ligne, sortie);
+    });
 }

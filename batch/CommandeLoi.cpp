@@ -1,12 +1,10 @@
 #include "batch/CommandeLoi.h"
 
-#include "batch/JsonEtude.h"
-#include "data/Textes.h"
+#include "batch/Passage.h"
 #include "laws/CalculLois.h"
 #include "laws/LoiMSH.h"
 
 #include <charconv>
-#include <ostream>
 
 namespace {
 
@@ -70,32 +68,21 @@ void CalculeTable(const Demande& demande, Loi& ligne) {
 
 int CommandeLoi(const LigneCommande& ligne, std::ostream& sortie, std::ostream&) {
     const Demande demande = LitDemande(ligne);
-    etude = Etude{};
-    ChargeLois();
-    DialoguesCollecte dialogues(ligne.oui);
+    RemetEtude();
     Loi loi;
-    std::string echec;
-    try {
+    Calcul calcul;
+    calcul.tete["NomLoi"] = demande.nomLoi;
+    calcul.execute = [&](const DialoguesCollecte&) {
         CalculeTable(demande, loi);
-    } catch (const ErreurExecution& erreur) {
-        etude.lois.LoiUnite = {};
-        echec = SensErreur(erreur);
-    }
-
-    Json objet = Json::object();
-    objet["NomLoi"] = demande.nomLoi;
-    objet["Erreur"] = etude.resultats.Erreur;
-    objet["messages"] = JsonMessages(dialogues);
-    if (!echec.empty()) objet["echec"] = echec;
-    const auto coefficient = [&](double valeur) { return echec.empty() ? Json(valeur) : Json(); };
-    objet["Ca"] = coefficient(loi.Ca);
-    objet["Cv"] = coefficient(loi.Cv);
-    objet["CoefA"] = coefficient(loi.CoefA);
-    objet["CoefB"] = coefficient(loi.CoefB);
-    objet["CoefC"] = coefficient(loi.CoefC);
-    objet["CoefD"] = coefficient(loi.CoefD);
-    objet.update(JsonLoi(etude.lois.LoiUnite));
-    EcritJson(sortie, objet);
-    sortie << "\n";
-    return echec.empty() ? 0 : 1;
+        return std::string();
+    };
+    calcul.resultats = [&](bool reussi) {
+        const auto coefficient = [&](double valeur) { return reussi ? Json(valeur) : Json(); };
+        Json objet = {{"Ca", coefficient(loi.Ca)},       {"Cv", coefficient(loi.Cv)},
+                      {"CoefA", coefficient(loi.CoefA)}, {"CoefB", coefficient(loi.CoefB)},
+                      {"CoefC", coefficient(loi.CoefC)}, {"CoefD", coefficient(loi.CoefD)}};
+        objet.update(JsonLoi(reussi ? etude.lois.LoiUnite : Tableau<PointLoi>{}));
+        return objet;
+    };
+    return LanceCalcul(calcul, ligne, sortie);
 }

@@ -1,14 +1,10 @@
 #include "batch/CommandeLoiSpeciale.h"
 
-#include "batch/JsonEtude.h"
+#include "batch/Passage.h"
 #include "core/FichierEntier.h"
-#include "data/Textes.h"
-#include "laws/CalculLois.h"
 #include "laws/EtudesLois.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <ostream>
 
 namespace {
 
@@ -66,39 +62,16 @@ Json JsonPointsLoi() {
     return points;
 }
 
-Json JsonEtudeLoi(const ResultatLoi& resultat, const std::string& echec, const DialoguesCollecte& dialogues) {
-    const auto valeur = [&](double v) { return echec.empty() ? Json(v) : Json(); };
+Json JsonResultat(const ResultatLoi& resultat, bool reussi) {
+    const auto valeur = [&](double v) { return reussi ? Json(v) : Json(); };
     Json objet = Json::object();
-    objet["Erreur"] = etude.resultats.Erreur;
-    objet["messages"] = JsonMessages(dialogues);
-    if (!echec.empty()) objet["echec"] = echec;
     objet["CoefAccel"] = valeur(resultat.CoefAccel);
     objet["CoefVitesse"] = valeur(resultat.CoefVitesse);
     objet["VitesseMaxi"] = valeur(resultat.VitesseMaxi);
     objet["AccelerationMaxi"] = valeur(resultat.AccelerationMaxi);
-    objet["LoiUnite"] = JsonLoi(etude.lois.LoiUnite);
+    objet["LoiUnite"] = JsonLoi(reussi ? etude.lois.LoiUnite : Tableau<PointLoi>{});
     objet["Points"] = JsonPointsLoi();
     return objet;
-}
-
-/// Calculates what was read. @return the object to print; `statut` is 1 when there is no result
-Json CalculeObjet(const EtudeLoi& loi, bool oui, int& statut) {
-    DialoguesCollecte dialogues(oui);
-    ResultatLoi resultat;
-    std::string echec;
-    try {
-        if (const auto faute = ChercheFauteLoi(loi)) {
-            LesDialogues().Message(Icone::Avertissement, faute->texte);
-            echec = faute->texte.substr(faute->texte.find_first_not_of('\n'));
-        } else {
-            resultat = CalculeEtudeLoi(loi);
-        }
-    } catch (const ErreurExecution& erreur) {
-        etude.lois.LoiUnite = {};
-        echec = SensErreur(erreur);
-    }
-    if (!echec.empty()) statut = std::max(statut, 1);
-    return JsonEtudeLoi(resultat, echec, dialogues);
 }
 
 } // namespace
@@ -106,19 +79,19 @@ Json CalculeObjet(const EtudeLoi& loi, bool oui, int& statut) {
 int CommandeLoiSpeciale(const LigneCommande& ligne, std::ostream& sortie, std::ostream& erreurs) {
     if (ligne.arguments.size() < 2) throw UsageIncorrect("loi-speciale: a kind and a data file are needed");
     const EtudeLoi& loi = TrouveGenre(ligne.arguments.front());
-    int statut = 0;
-    for (auto fichier = ligne.arguments.begin() + 1; fichier != ligne.arguments.end(); ++fichier) {
-        etude = Etude{};
-        ChargeLois();
-        try {
-            LitDonnees(*fichier, loi);
-        } catch (const std::exception& erreur) {
-            erreurs << "velorin-batch: " << *fichier << ": " << erreur.what() << "\n";
-            statut = 2;
-            continue;
-        }
-        EcritJson(sortie, CalculeObjet(loi, ligne.oui, statut));
-        sortie << "\n";
-    }
-    return statut;
+    return ParcourtFichiers(std::span(ligne.arguments).subspan(1), erreurs, [&](const std::string& fichier) {
+        LitDonnees(fichier, loi);
+        ResultatLoi resultat;
+        Calcul calcul;
+        calcul.execute = [&](const DialoguesCollecte&) {
+            if (const auto faute = ChercheFauteLoi(loi)) {
+                LesDialogues().Message(Icone::Avertissement, faute->texte);
+                return faute->texte.substr(faute->texte.find_first_not_of('\n'));
+            }
+            resultat = CalculeEtudeLoi(loi);
+            return std::string();
+        };
+        calcul.resultats = [&](bool reussi) { return JsonResultat(resultat, reussi); };
+        return LanceCalcul(calcul, ligne, sortie);
+    });
 }

@@ -62,7 +62,7 @@ TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
         etude = Etude{};
         ChargeLois();
         double valeur = 10.25;
-        for (const auto& champ : type.champs) etude.donnees.*champ.membre = valeur += 1.5;
+        for (const auto& champ : type.champs) champ.Nombre(etude.donnees) = valeur += 1.5;
         PoseZones({{5.25, 7.5, 200, "MS"}, {7.5, 5.25, 160, "CYC", 0.4}});
         etude.donnees.PointsParDegre = 4;
         etude.donnees.ZonesConjuguees = etude.donnees.Zones;
@@ -72,7 +72,7 @@ TEST_F(FichierEtude, EveryKindGoesThroughItsOwnLayout) {
         ChargeLois();
         ASSERT_TRUE(LitEtude(contenu, type)) << type.nom;
         for (const auto& champ : type.champs)
-            EXPECT_EQ(etude.donnees.*champ.membre, ecrite.donnees.*champ.membre) << type.nom << champ.nom;
+            EXPECT_EQ(champ.Nombre(etude.donnees), champ.Nombre(ecrite.donnees)) << type.nom << champ.nom;
         EXPECT_EQ(etude.donnees.Zones[2].*type.zones->valeurFinale, 5.25) << type.nom;
         EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 160) << type.nom;
         EXPECT_EQ(etude.donnees.PointsParDegre, 4) << type.nom;

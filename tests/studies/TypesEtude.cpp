@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 TEST(TypesEtude, NumbersAtFaultAreToldOneAfterTheOther) {
     const std::pair<const char*, std::vector<std::pair<std::string, int>>> cas[] = {
         {"Angulaire", {{"CoteA", 197}, {"RayonO1P", 202}, {"RayonGalet", 201}, {"VitesseCame", 200}}},
@@ -25,4 +27,13 @@ TEST(TypesEtude, NumbersAtFaultAreToldOneAfterTheOther) {
     etude.donnees.RayonGalet = 0.5;
     EXPECT_EQ(TrouveType("Lineaire")->ChercheFaute(), nullptr);
     etude = Etude{};
+}
+
+TEST(TypesEtude, FiltersOfTheFileDialogues) {
+    for (const auto& [nom, montre, motif] :
+         {std::array{"Angulaire", "*.ang", "*.Ang"}, {"Oscillation", "*.Osc", "*.Osc"}}) {
+        const FiltreFichier filtre = FiltreEtude(*TrouveType(nom));
+        EXPECT_TRUE(filtre.libelle.ends_with(std::string(" (") + montre + ")")) << filtre.libelle;
+        EXPECT_EQ(filtre.motif, motif);
+    }
 }

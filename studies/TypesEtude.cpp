@@ -9,6 +9,7 @@
 #include "planecams/CamesPlates.h"
 #include "planecams/DonneesPlates.h"
 #include "studies/DessinCame.h"
+#include "studies/RapportsCames.h"
 
 #include <algorithm>
 #include <cctype>
@@ -36,15 +37,20 @@ constexpr ChampEtude champsConjuguees[] = {
 constexpr DescriptionZones zonesConjuguees{
     &Zone::AngleDepart, &Zone::AngleFinal, 478, 479, 177, UniteDegres, false, false};
 
+constexpr RapportsEtude rapportsAngulaire{ImprimeDonneesAngulaire, ImprimeProfilPlat, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsLineaire{ImprimeDonneesLineaire, ImprimeProfilPlat, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsCylindrique{ImprimeDonneesCylindrique, ImprimeProfilCylindre, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsOscillation{ImprimeDonneesOscillation, ImprimeProfilCylindre, ImprimePointsMouvement};
+
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", ChampsAngulaire, GroupesAngulaire, M2Large, &ZonesAngulaire, M2, M2, false,
-     CalculeCameAngulaire, false, DessineCamePlate},
+     CalculeCameAngulaire, false, DessineCamePlate, rapportsAngulaire, true, "*.ang"},
     {"Lineaire", "Lin", 86, " : Lin ", ChampsLineaire, GroupesLineaire, M2Large, &ZonesLineaire, M2Large, M2Large,
-     false, CalculeCameLineaire, false, DessineCamePlate},
+     false, CalculeCameLineaire, false, DessineCamePlate, rapportsLineaire},
     {"Cylindrique", "Cyl", 87, " : Cyl", ChampsCylindrique, GroupesCylindrique, M2Large, &ZonesCylindrique, M2Large,
-     M2Large, false, CalculeCameCylindrique, true, DessinProfilCyl},
+     M2Large, false, CalculeCameCylindrique, true, DessinProfilCyl, rapportsCylindrique},
     {"Oscillation", "Osc", 527, " : Osc", ChampsOscillation, GroupesOscillation, M2Large, &ZonesOscillation, M2, M2,
-     false, CalculeCameCylOsc, true, DessinProfilCyl},
+     false, CalculeCameCylOsc, true, DessinProfilCyl, rapportsOscillation},
     {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, {}, M3Large, &zonesConjuguees, M2, M2, true},
 };
 
@@ -76,8 +82,7 @@ const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier) {
 
 FiltreFichier FiltreEtude(const TypeEtude& type) {
     const std::string motif = std::string("*.") + type.extension;
-    // The arm cam's own pattern is shown in small letters.
-    return {Texte(type.titre) + " (" + (type.nom == std::string_view("Angulaire") ? "*.ang" : motif) + ")", motif};
+    return {Texte(type.titre) + " (" + (type.motifDialogue == nullptr ? motif : type.motifDialogue) + ")", motif};
 }
 
 std::string NomSansExtension(const std::string& nomFichier) {

@@ -12,6 +12,13 @@
 #include <span>
 #include <string_view>
 
+/// The reports that only some kinds have; none where a kind has no such report.
+struct RapportsEtude {
+    void (*donnees)() = nullptr;
+    void (*profil)() = nullptr;
+    void (*mouvement)() = nullptr; ///< the table of the motion
+};
+
 struct TypeEtude {
     const char* nom;          ///< `TypeCame`
     const char* extension;    ///< of its study files, without the point
@@ -28,6 +35,9 @@ struct TypeEtude {
     /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
+    RapportsEtude rapports = {};
+    bool scriptBras = false;             ///< the script of the inner profile shows the arm
+    const char* motifDialogue = nullptr; ///< pattern as file dialogues show it, where it is not that of the extension
 
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }

@@ -163,8 +163,8 @@ void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
 
 /// Calculates the study that was read; false after a box that says why it cannot be.
 bool MdiCamA::CalculeOuverte() {
-    if (const auto faute = TrouveType(etude.donnees.TypeCame)->chercheFaute()) {
-        LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+    if (const auto* faute = TrouveType(etude.donnees.TypeCame)->ChercheFaute()) {
+        LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
         return false;
     }
     try {

@@ -44,14 +44,12 @@ void LitDonnees(const std::string& fichier, const EtudeLoi& loi) {
     const Json donnees = Json::parse(LitFichierEntier(fichier));
     if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
     for (const auto& [nom, valeur] : donnees.items()) {
-        const bool connu = nom == Unites || nom == PointsParDegre ||
-                           std::any_of(loi.champs.begin(), loi.champs.end(),
-                                       [&nom = nom](const ChampLoi& champ) { return nom == champ.nom; });
+        const bool connu = nom == Unites || nom == PointsParDegre || TrouveChamp(loi.champs, nom) != nullptr;
         if (!connu) throw UsageIncorrect("unknown member " + nom);
     }
     LitUnites(donnees, loi);
     LitPointsParDegre(donnees);
-    for (const ChampLoi& champ : loi.champs) etude.donnees.*champ.membre = LitNombre(donnees, champ.nom);
+    for (const ChampLoi& champ : loi.champs) champ.Nombre(etude.donnees) = LitNombre(donnees, champ.nom);
 }
 
 Json JsonPointsLoi() {

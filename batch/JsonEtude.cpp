@@ -138,7 +138,7 @@ void EcritNombre(std::ostream& sortie, double valeur) {
 
 Json JsonDonnees(const TypeEtude& type) {
     Json donnees = Json::object();
-    for (const auto& champ : type.champs) donnees[champ.nom] = etude.donnees.*champ.membre;
+    for (const auto& champ : type.champs) donnees[champ.nom] = champ.Nombre(etude.donnees);
     donnees["NombreZones"] = etude.donnees.NombreZones;
     donnees["PointsParDegre"] = etude.donnees.PointsParDegre;
     return donnees;

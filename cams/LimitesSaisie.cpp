@@ -5,12 +5,6 @@
 
 #include <algorithm>
 
-std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites) {
-    for (const auto& limite : limites)
-        if (limite.interdit(etude.donnees.*limite.faute.membre)) return limite.faute;
-    return {};
-}
-
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {
     if (zone.CoefSymetrie < 0.0 || zone.CoefSymetrie > 1.0)
         return FauteZone{ChampZone::Symetrie, Texte(522) + " 0 <= C <=1"};

@@ -1,28 +1,11 @@
-// The limits of what a designer may enter for a cam. The screens show the text and put the focus on the field at
-// fault.
+// The limits of what a designer may enter for the zones of a cam. The screens show the text and put the focus on the
+// field at fault.
 #pragma once
 
-#include "core/Champ.h"
 #include "core/Etude.h"
 
 #include <optional>
-#include <span>
 #include <string>
-
-/// A scalar that cannot be calculated with: its member of the record, and the number of the text that says why.
-struct FauteDonnee {
-    double DonneesEtude::*membre;
-    int texte;
-};
-
-/// What a scalar must not be.
-struct LimiteSaisie {
-    FauteDonnee faute;
-    bool (*interdit)(double valeur);
-};
-
-/// The first scalar that is what it must not be; none when all will do.
-std::optional<FauteDonnee> ChercheFaute(std::span<const LimiteSaisie> limites);
 
 enum class ChampZone { Symetrie, NomLoi, AngleCame };
 

@@ -23,10 +23,10 @@ bool SansMSH() {
 
 // What the tables of inputs and results have in common.
 constexpr ChampLoi ChampVitesse(const char* controle) {
-    return {controle, "VitesseEntree", 327, 0, Grandeur::Tours, &DonneesEtude::VitesseEntree};
+    return {{"VitesseEntree", controle, 327, 0, &DonneesEtude::VitesseEntree}, Grandeur::Tours};
 }
-constexpr ChampLoi champAngle{"Text1", "AngleIndexage", 270, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage};
-constexpr ChampLoi champSortie{"Text2", "AngleSortie", 364, 365, Grandeur::Sortie, &DonneesEtude::ValeurFin};
+constexpr ChampLoi champAngle{{"AngleIndexage", "Text1", 270, 0, &DonneesEtude::AngleIndexage}, Grandeur::AngleEntree};
+constexpr ChampLoi champSortie{{"AngleSortie", "Text2", 364, 0, &DonneesEtude::ValeurFin}, Grandeur::Sortie, 365};
 
 constexpr ValeurLoi coefAccel{"CoefAccel", 320, Grandeur::Nombre, &ResultatLoi::CoefAccel, MasqueCoefficient};
 constexpr ValeurLoi coefVitesse{"CoefVitesse", 321, Grandeur::Nombre, &ResultatLoi::CoefVitesse, MasqueCoefficient};
@@ -50,12 +50,12 @@ template <class Evalue> void RemplitLoiUnite(const Evalue& evalue) {
 // ---- laws of the catalogue
 
 constexpr ChampLoi champsMouv[] = {
-    {"Text0", "CoefSymetrie", 178, 0, Grandeur::Nombre, &DonneesEtude::SymetrieLoi, true, SansMSH},
-    {"Text1", "AngleIndexage", 324, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage},
-    {"Text2", "ValeurDepart", 325, 0, Grandeur::Sortie, &DonneesEtude::ValeurDepart, true},
-    {"Text3", "ValeurFin", 326, 0, Grandeur::Sortie, &DonneesEtude::ValeurFin, true},
+    {{"CoefSymetrie", "Text0", 178, 0, &DonneesEtude::SymetrieLoi}, Grandeur::Nombre, 0, true, SansMSH},
+    {{"AngleIndexage", "Text1", 324, 0, &DonneesEtude::AngleIndexage}, Grandeur::AngleEntree},
+    {{"ValeurDepart", "Text2", 325, 0, &DonneesEtude::ValeurDepart}, Grandeur::Sortie, 0, true},
+    {{"ValeurFin", "Text3", 326, 0, &DonneesEtude::ValeurFin}, Grandeur::Sortie, 0, true},
     ChampVitesse("Text4"),
-    {"Text5", "Pourcentage", 73, 0, Grandeur::Pourcentage, &DonneesEtude::PourcentageLoi, false, LoiChoisieSpe},
+    {{"Pourcentage", "Text5", 73, 0, &DonneesEtude::PourcentageLoi}, Grandeur::Pourcentage, 0, false, LoiChoisieSpe},
 };
 constexpr ValeurLoi valeursMouv[] = {
     {"CoefA", 568, Grandeur::Nombre, &ResultatLoi::CoefA, MasqueCoefficient},
@@ -149,10 +149,10 @@ void RemplitHesser(ResultatLoi& resultat) {
 // ---- fast advance, slow approach
 
 constexpr ChampLoi champsRapide[] = {
-    {"Text1", "AngleTotal", 367, 0, Grandeur::AngleEntree, &DonneesEtude::AngleIndexage},
-    {"Text2", "AngleAvanceRapide", 368, 0, Grandeur::AngleEntree, &DonneesEtude::AngleAvanceRapide},
-    {"Text3", "SortieTotale", 369, 371, Grandeur::Sortie, &DonneesEtude::ValeurFin},
-    {"Text4", "SortieAvanceRapide", 370, 372, Grandeur::Sortie, &DonneesEtude::SortieAvanceRapide},
+    {{"AngleTotal", "Text1", 367, 0, &DonneesEtude::AngleIndexage}, Grandeur::AngleEntree},
+    {{"AngleAvanceRapide", "Text2", 368, 0, &DonneesEtude::AngleAvanceRapide}, Grandeur::AngleEntree},
+    {{"SortieTotale", "Text3", 369, 0, &DonneesEtude::ValeurFin}, Grandeur::Sortie, 371},
+    {{"SortieAvanceRapide", "Text4", 370, 0, &DonneesEtude::SortieAvanceRapide}, Grandeur::Sortie, 372},
     ChampVitesse("Text5"),
 };
 constexpr ValeurLoi valeursRapide[] = {
@@ -200,7 +200,7 @@ constexpr ChampLoi champsLiquide[] = {
     champAngle,
     champSortie,
     ChampVitesse("Text3"),
-    {"Text4", "ExcentriciteLiq", 380, 0, Grandeur::Nombre, &DonneesEtude::ExcentriciteLiq},
+    {{"ExcentriciteLiq", "Text4", 380, 0, &DonneesEtude::ExcentriciteLiq}, Grandeur::Nombre},
 };
 constexpr ValeurLoi valeursLiquide[] = {
     coefAccel,   coefVitesse, {"DecelerationMaxi", 381, Grandeur::Accel, &ResultatLoi::DecelerationMaxi, MasqueValeur},
@@ -228,9 +228,9 @@ void RemplitLiquide(ResultatLoi& resultat) {
 // ---- asymmetric rise and return
 
 constexpr ChampLoi champsDissyme[] = {
-    {"Text1", "AngleMontee", 385, 0, Grandeur::AngleEntree, &DonneesEtude::AngleMontee},
-    {"Text2", "AngleDescente", 388, 0, Grandeur::AngleEntree, &DonneesEtude::AngleDescente},
-    {"Text3", "Course", 250, 0, Grandeur::Sortie, &DonneesEtude::ValeurFin},
+    {{"AngleMontee", "Text1", 385, 0, &DonneesEtude::AngleMontee}, Grandeur::AngleEntree},
+    {{"AngleDescente", "Text2", 388, 0, &DonneesEtude::AngleDescente}, Grandeur::AngleEntree},
+    {{"Course", "Text3", 250, 0, &DonneesEtude::ValeurFin}, Grandeur::Sortie},
     ChampVitesse("Text4"),
 };
 constexpr ValeurLoi valeursDissyme[] = {coefAccel, coefVitesse, vitesseMaxi, accelMaxi, duree};
@@ -279,7 +279,7 @@ constexpr EtudeLoi etudes[] = {
 /// A value below 0 where the screen lets none be typed.
 std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
     for (const ChampLoi& champ : loi.champs)
-        if (!champ.signe && etude.donnees.*champ.membre < 0.0)
+        if (!champ.signe && champ.Nombre(etude.donnees) < 0.0)
             return FauteLoi{Texte(champ.Libelle()) + " : " + Texte(196), champ.membre};
     return {};
 }

@@ -6,6 +6,7 @@
 // m/s², or degrees, rad/s, rad/s²) and `Points.Angle`.
 #pragma once
 
+#include "core/Champ.h"
 #include "core/Etude.h"
 
 #include <optional>
@@ -19,13 +20,10 @@ enum class Grandeur { Nombre, AngleEntree, Pourcentage, Tours, Duree, Sortie, Vi
 /// Text number of a unit in the present output unit; 0 for a plain number.
 int UniteLoi(Grandeur grandeur);
 
-struct ChampLoi {
-    const char* controle;
-    const char* nom; ///< in the data of the batch companion
-    int texte;       ///< text number of the label
-    int texteMm;     ///< of the label when the output is a length; 0 when it is the same
+/// An input of a law study. Its row has no unit of its own where that follows the unit of the output.
+struct ChampLoi : Champ<DonneesEtude> {
     Grandeur grandeur;
-    double DonneesEtude::*membre;
+    int texteMm = 0;             ///< text number of the label when the output is a length; 0 when it is the same
     bool signe = false;          ///< a negative value may be typed
     bool (*employe)() = nullptr; ///< whether the law chosen asks for it; none when every law does
 
@@ -57,7 +55,7 @@ struct ValeurLoi {
 /// Why a study is refused, and the input that the focus goes to.
 struct FauteLoi {
     std::string texte;
-    double DonneesEtude::*membre;
+    Champ<DonneesEtude>::Membre membre;
 };
 
 struct EtudeLoi {

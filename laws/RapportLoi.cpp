@@ -40,7 +40,7 @@ void ImprimeLigne(int libelle, Grandeur grandeur, const std::string& valeur) {
 
 void ImprimeDonnees(const RapportLoi& rapport) {
     for (const ChampLoi& champ : rapport.loi->champs)
-        if (champ.Employe()) ImprimeLigne(champ.Libelle(), champ.grandeur, StrTrim(etude.donnees.*champ.membre));
+        if (champ.Employe()) ImprimeLigne(champ.Libelle(), champ.grandeur, StrTrim(champ.Nombre(etude.donnees)));
     ImprimeLigne(TextePointsParDegre, Grandeur::Nombre, std::to_string(etude.donnees.PointsParDegre));
     ImprimeLigneCames({});
     for (const ValeurLoi& valeur : rapport.loi->valeurs)

@@ -54,7 +54,7 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
     Lignes lignes(contenu);
     lignes.Suivante();
     lignes.Suivante();
-    for (const auto& champ : type.champs) etude.donnees.*champ.membre = LitNombre(lignes);
+    for (const auto& champ : type.champs) champ.Nombre(etude.donnees) = LitNombre(lignes);
     etude.donnees.NombreZones = Entier16(LitNombre(lignes));
     etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
     etude.donnees.TypeCame = type.nom;
@@ -92,7 +92,7 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     };
     ligne(Texte(type.titre) + type.suffixeTitre);
     ligne(Texte(387) + DateDuJour());
-    for (const auto& champ : type.champs) nombre(Format(etude.donnees.*champ.membre, champ.masque));
+    for (const auto& champ : type.champs) nombre(Format(champ.Nombre(etude.donnees), champ.masque));
     nombre(Format(etude.donnees.NombreZones, type.masqueNombreZones));
     for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
         const Zone& zone = etude.donnees.Zones[z];

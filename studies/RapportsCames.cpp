@@ -2,51 +2,52 @@
 
 #include "core/Etude.h"
 #include "reports/CadrePages.h"
-
-#include <algorithm>
-#include <span>
-#include <string_view>
+#include "studies/TypesEtude.h"
 
 namespace {
 
-constexpr std::string_view Angulaire[] = {"Angulaire"}, Lineaire[] = {"Lineaire"}, Cylindrique[] = {"Cylindrique"},
-                           Oscillation[] = {"Oscillation"};
-constexpr std::string_view Plates[] = {"Angulaire", "Lineaire"}, Cylindres[] = {"Cylindrique", "Oscillation"};
-constexpr std::string_view Simples[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation"};
-constexpr std::string_view ABras[] = {"Angulaire", "Oscillation", "ConjuguesOscillation"};
-constexpr std::string_view Toutes[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation", "ConjuguesOscillation"};
+using Procedure = void (*)();
 
+/// A report of the print run, and which procedure prints it for a kind of study; none where the kind does not have it.
 struct Rapport {
     MarqueImpression marque;
-    std::span<const std::string_view> types; ///< the `TypeCame` that have it
-    void (*imprime)();
+    Procedure (*procedure)(const TypeEtude& type);
 };
+
+template <Procedure procedure> Procedure Toujours(const TypeEtude&) {
+    return procedure;
+}
+template <Procedure RapportsEtude::*membre> Procedure DuType(const TypeEtude& type) {
+    return type.rapports.*membre;
+}
+Procedure GraphiqueGalet(const TypeEtude& type) {
+    return type.conjuguees ? nullptr : ImprimeGraphiqueLineaire;
+}
+Procedure GraphiqueBras(const TypeEtude& type) {
+    return type.Bras() ? ImprimeGraphiqueBras : nullptr;
+}
 
 /// The print run, in its order.
 constexpr Rapport rapports[] = {
-    {MarqueImpression::Donnees, Angulaire, ImprimeDonneesAngulaire},
-    {MarqueImpression::Donnees, Lineaire, ImprimeDonneesLineaire},
-    {MarqueImpression::Donnees, Cylindrique, ImprimeDonneesCylindrique},
-    {MarqueImpression::Donnees, Oscillation, ImprimeDonneesOscillation},
-    {MarqueImpression::PointsRemarquables, Toutes, ImprimePointsRemarquables},
-    {MarqueImpression::Profil, Plates, ImprimeProfilPlat},
-    {MarqueImpression::Profil, Cylindres, ImprimeProfilCylindre},
-    {MarqueImpression::GraphiqueMouvement, Simples, ImprimeGraphiqueLineaire},
-    {MarqueImpression::GraphiqueMouvement, ABras, ImprimeGraphiqueBras},
-    {MarqueImpression::GraphiqueForces, Toutes, ImprimeGraphiqueForces},
-    {MarqueImpression::PointsMouvement, Simples, ImprimePointsMouvement},
-    {MarqueImpression::PointsForces, Toutes, ImprimePointsForces},
+    {MarqueImpression::Donnees, DuType<&RapportsEtude::donnees>},
+    {MarqueImpression::PointsRemarquables, Toujours<ImprimePointsRemarquables>},
+    {MarqueImpression::Profil, DuType<&RapportsEtude::profil>},
+    {MarqueImpression::GraphiqueMouvement, GraphiqueGalet},
+    {MarqueImpression::GraphiqueMouvement, GraphiqueBras},
+    {MarqueImpression::GraphiqueForces, Toujours<ImprimeGraphiqueForces>},
+    {MarqueImpression::PointsMouvement, DuType<&RapportsEtude::mouvement>},
+    {MarqueImpression::PointsForces, Toujours<ImprimePointsForces>},
 };
 
 } // namespace
 
 void ImprimeRapportsCames(Imprimante& imprimante, const MarquesImpression& marques) {
     const TirageCames tirage(imprimante, {nullptr, EnTeteMouvement, EnTeteForces});
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     for (const Rapport& rapport : rapports) {
         impression.NumeroLigne = 0;
-        const bool pourCeType =
-            std::find(rapport.types.begin(), rapport.types.end(), etude.donnees.TypeCame) != rapport.types.end();
-        if (pourCeType && marques.at(static_cast<std::size_t>(rapport.marque))) rapport.imprime();
+        const Procedure imprime = type == nullptr ? nullptr : rapport.procedure(*type);
+        if (imprime != nullptr && marques.at(static_cast<std::size_t>(rapport.marque))) imprime();
     }
     imprimante.FinDocument();
 }

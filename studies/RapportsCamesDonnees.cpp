@@ -6,72 +6,27 @@
 #include "studies/RapportsCamesLignes.h"
 #include "studies/TypesEtude.h"
 
-#include <algorithm>
-#include <string_view>
 #include <vector>
 
 namespace {
 
-constexpr const char* MasqueDonnee = "###.##";
 constexpr const char* MasqueInertie = "##.#####";
 
-/// A group of the data screen: text number of its caption, and its fields.
-struct Groupe {
-    int titre;
-    std::vector<std::string_view> champs;
-};
-
-/// The groups of each data screen, in their order.
-struct OrdreDonnees {
-    std::string_view type; ///< `TypeCame`
-    std::vector<Groupe> groupes;
-};
-
-constexpr int Geometrie = 151, Inerties = 158, Forces = 162;
-
-const OrdreDonnees ordres[] = {
-    {"Angulaire",
-     {{Geometrie, {"CoteA", "CoteB", "RayonO1A", "RayonO1P", "AnglePO1A", "RayonGalet", "VitesseCame"}},
-      {Inerties, {"MasseBrasO1A", "MasseBrasO1P", "EpaisseurCame"}},
-      {Forces, {"MasseA", "ForceX", "ForceY", "AnglePesanteur"}}}},
-    {"Lineaire",
-     {{Geometrie, {"RayonGalet", "VitesseCame", "EpaisseurCame"}}, {Forces, {"MasseA", "ForceY", "AnglePesanteur"}}}},
-    {"Cylindrique",
-     {{Geometrie, {"VitesseCame", "RayonGalet", "DiametreCame"}}, {Forces, {"MasseA", "ForceY", "AnglePesanteur"}}}},
-    {"Oscillation",
-     {{Geometrie, {"CoteA", "RayonO1P", "DiametreCame", "RayonGalet", "VitesseCame"}},
-      {Inerties, {"InertieMasseA", "CoupleConstantO1"}}}},
-};
-
-const std::vector<Groupe>& GroupesDonnees(const TypeEtude& type) {
-    const auto ordre =
-        std::find_if(std::begin(ordres), std::end(ordres), [&](const OrdreDonnees& o) { return o.type == type.nom; });
-    if (ordre == std::end(ordres)) throw ErreurExecution(NumeroErreur::AppelIncorrect, type.nom);
-    return ordre->groupes;
-}
-
-const ChampFichier& TrouveChamp(const TypeEtude& type, std::string_view nom) {
-    const auto champ =
-        std::find_if(type.champs.begin(), type.champs.end(), [&](const ChampFichier& c) { return nom == c.nom; });
-    if (champ == type.champs.end()) throw ErreurExecution(NumeroErreur::AppelIncorrect, std::string(nom));
-    return *champ;
-}
-
-void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const Groupe& groupe) {
-    bool titreForces = false;
-    lignes.push_back({Texte(groupe.titre), true});
-    for (const std::string_view nom : groupe.champs) {
-        const ChampFichier& champ = TrouveChamp(type, nom);
+/// A group of the data screen.
+void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const GroupeDonnees& groupe) {
+    if (!groupe.suite) {
+        if (!lignes.empty()) lignes.push_back({});
+        lignes.push_back({Texte(groupe.titre), true});
+    } else if (!groupe.pesanteur) {
         // "x" and "y" alone would not say what they are.
-        if (champ.unite == UniteN && !titreForces) {
-            lignes.push_back({Espaces(RetraitLigne) + Texte(type.Bras() ? 165 : 392)});
-            titreForces = true;
-        }
-        const char* masque = champ.unite == UniteKgM2 ? MasqueInertie : MasqueDonnee;
-        lignes.push_back(
-            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(etude.donnees.*champ.membre, masque))});
+        lignes.push_back({Espaces(RetraitLigne) + Texte(groupe.titre)});
     }
-    lignes.push_back({});
+    for (const char* nom : groupe.Champs()) {
+        const ChampEtude& champ = ChampNomme(type.champs, nom);
+        const char* masque = champ.unite == UniteKgM2 ? MasqueInertie : champ.masque;
+        lignes.push_back(
+            {LigneValeur(Texte(champ.texte), UniteTexte(champ.unite), Format(champ.Nombre(etude.donnees), masque))});
+    }
 }
 
 void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::int16_t z) {
@@ -94,7 +49,8 @@ void ImprimeDonnees() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     std::vector<LigneRapport> lignes;
-    for (const Groupe& groupe : GroupesDonnees(*type)) AjouteGroupe(lignes, *type, groupe);
+    for (const GroupeDonnees& groupe : type->groupes) AjouteGroupe(lignes, *type, groupe);
+    lignes.push_back({});
     lignes.push_back({LigneValeur(Texte(172), SansUnite, std::to_string(etude.donnees.NombreZones))});
     lignes.push_back({LigneValeur(Texte(174), SansUnite, std::to_string(etude.donnees.PointsParDegre))});
     lignes.push_back({});

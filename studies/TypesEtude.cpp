@@ -9,6 +9,7 @@
 #include "planecams/CamesPlates.h"
 #include "planecams/DonneesPlates.h"
 #include "studies/DessinCame.h"
+#include "studies/RapportsCames.h"
 
 #include <algorithm>
 #include <cctype>
@@ -20,76 +21,37 @@ constexpr const char* M2Large = "####.##";
 constexpr const char* M3 = "###.###";
 constexpr const char* M3Large = "####.###";
 
-const ChampFichier champsAngulaire[] = {
-    {"CoteA", &DonneesEtude::CoteA, M2, 152, UniteMm},
-    {"CoteB", &DonneesEtude::CoteB, M2, 153, UniteMm},
-    {"RayonO1A", &DonneesEtude::RayonO1A, M2, 154, UniteMm},
-    {"RayonO1P", &DonneesEtude::RayonO1P, M2, 155, UniteMm},
-    {"AnglePO1A", &DonneesEtude::AnglePO1A, M2, 156, UniteDegres},
-    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
-    {"MasseBrasO1A", &DonneesEtude::MasseBrasO1A, M2, 159, UniteKg},
-    {"MasseBrasO1P", &DonneesEtude::MasseBrasO1P, M2, 160, UniteKg},
-    {"EpaisseurCame", &DonneesEtude::EpaisseurCame, M2, 161, UniteMm},
-    {"MasseA", &DonneesEtude::MasseA, M2, 163, UniteKg},
-    {"ForceX", &DonneesEtude::ForceX, M2Large, 166, UniteN},
-    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
-};
-
-const ChampFichier champsLineaire[] = {
-    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
-    {"EpaisseurCame", &DonneesEtude::EpaisseurCame, M2, 161, UniteMm},
-    {"MasseA", &DonneesEtude::MasseA, M2, 163, UniteKg},
-    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
-};
-
-const ChampFichier champsCylindrique[] = {
-    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
-    {"AnglePesanteur", &DonneesEtude::AnglePesanteur, M2, 169, UniteDegres},
-    {"DiametreCame", &DonneesEtude::DiametreCame, M2, 394, UniteMm},
-    {"MasseA", &DonneesEtude::MasseA, M2, 395, UniteKg},
-    {"ForceY", &DonneesEtude::ForceY, M2Large, 167, UniteN},
-};
-
-const ChampFichier champsOscillation[] = {
-    {"RayonGalet", &DonneesEtude::RayonGalet, M2, 123, UniteMm},
-    {"VitesseCame", &DonneesEtude::VitesseCame, M2, 157, UniteTours},
-    {"DiametreCame", &DonneesEtude::DiametreCame, M2, 394, UniteMm},
-    {"CoteA", &DonneesEtude::CoteA, M2, 400, UniteMm},
-    {"RayonO1P", &DonneesEtude::RayonO1P, M2, 155, UniteMm},
-    {"InertieMasseA", &DonneesEtude::InertieMasseA, M2, 239, UniteKgM2},
-    {"CoupleConstantO1", &DonneesEtude::CoupleConstantO1, M2, 240, UniteNm},
-};
-
-const ChampFichier champsConjuguees[] = {
-    {"CoteA", &DonneesEtude::CoteA, M3, 152, UniteMm},
-    {"CoteB", &DonneesEtude::CoteB, M3, 153, UniteMm},
-    {"RayonBrasR1", &DonneesEtude::RayonBrasR1, M3, 470, UniteMm},
-    {"RayonGaletG1", &DonneesEtude::RayonGaletG1, M3, 471, UniteMm},
-    {"RayonBrasR2", &DonneesEtude::RayonBrasR2, M3, 472, UniteMm},
-    {"RayonGaletG2", &DonneesEtude::RayonGaletG2, M3, 473, UniteMm},
-    {"VitesseCame", &DonneesEtude::VitesseCame, M3, 157, UniteTours},
-    {"AngleBras", &DonneesEtude::AngleBras, M3, 474, UniteDegres},
-    {"InertieO1", &DonneesEtude::InertieO1, M3Large, 475, UniteKgM2},
+/// A pair of cams, which is known by its files only.
+constexpr ChampEtude champsConjuguees[] = {
+    {"CoteA", nullptr, 152, UniteMm, &DonneesEtude::CoteA, M3},
+    {"CoteB", nullptr, 153, UniteMm, &DonneesEtude::CoteB, M3},
+    {"RayonBrasR1", nullptr, 470, UniteMm, &DonneesEtude::RayonBrasR1, M3},
+    {"RayonGaletG1", nullptr, 471, UniteMm, &DonneesEtude::RayonGaletG1, M3},
+    {"RayonBrasR2", nullptr, 472, UniteMm, &DonneesEtude::RayonBrasR2, M3},
+    {"RayonGaletG2", nullptr, 473, UniteMm, &DonneesEtude::RayonGaletG2, M3},
+    {"VitesseCame", nullptr, 157, UniteTours, &DonneesEtude::VitesseCame, M3},
+    {"AngleBras", nullptr, 474, UniteDegres, &DonneesEtude::AngleBras, M3},
+    {"InertieO1", nullptr, 475, UniteKgM2, &DonneesEtude::InertieO1, M3Large},
 };
 
 constexpr DescriptionZones zonesConjuguees{
     &Zone::AngleDepart, &Zone::AngleFinal, 478, 479, 177, UniteDegres, false, false};
 
+constexpr RapportsEtude rapportsAngulaire{ImprimeDonneesAngulaire, ImprimeProfilPlat, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsLineaire{ImprimeDonneesLineaire, ImprimeProfilPlat, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsCylindrique{ImprimeDonneesCylindrique, ImprimeProfilCylindre, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsOscillation{ImprimeDonneesOscillation, ImprimeProfilCylindre, ImprimePointsMouvement};
+
 const TypeEtude types[] = {
-    {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, &ZonesAngulaire, M2, M2, false, CalculeCameAngulaire,
-     ChercheFauteAngulaire, false, DessineCamePlate},
-    {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, &ZonesLineaire, M2Large, M2Large, false,
-     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate},
-    {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, &ZonesCylindrique, M2Large, M2Large, false,
-     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl},
-    {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, &ZonesOscillation, M2, M2, false,
-     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl},
-    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true},
+    {"Angulaire", "Ang", 85, " : Ang", ChampsAngulaire, GroupesAngulaire, M2Large, &ZonesAngulaire, M2, M2, false,
+     CalculeCameAngulaire, false, DessineCamePlate, rapportsAngulaire, true, "*.ang"},
+    {"Lineaire", "Lin", 86, " : Lin ", ChampsLineaire, GroupesLineaire, M2Large, &ZonesLineaire, M2Large, M2Large,
+     false, CalculeCameLineaire, false, DessineCamePlate, rapportsLineaire},
+    {"Cylindrique", "Cyl", 87, " : Cyl", ChampsCylindrique, GroupesCylindrique, M2Large, &ZonesCylindrique, M2Large,
+     M2Large, false, CalculeCameCylindrique, true, DessinProfilCyl, rapportsCylindrique},
+    {"Oscillation", "Osc", 527, " : Osc", ChampsOscillation, GroupesOscillation, M2Large, &ZonesOscillation, M2, M2,
+     false, CalculeCameCylOsc, true, DessinProfilCyl, rapportsOscillation},
+    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, {}, M3Large, &zonesConjuguees, M2, M2, true},
 };
 
 std::string Minuscules(std::string_view texte) {
@@ -120,18 +82,12 @@ const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier) {
 
 FiltreFichier FiltreEtude(const TypeEtude& type) {
     const std::string motif = std::string("*.") + type.extension;
-    // The arm cam's own pattern is shown in small letters.
-    return {Texte(type.titre) + " (" + (type.nom == std::string_view("Angulaire") ? "*.ang" : motif) + ")", motif};
+    return {Texte(type.titre) + " (" + (type.motifDialogue == nullptr ? motif : type.motifDialogue) + ")", motif};
 }
 
 std::string NomSansExtension(const std::string& nomFichier) {
     const std::filesystem::path nom(nomFichier);
     return TrouveTypeFichier(nom) == nullptr ? nomFichier : nom.stem().string();
-}
-
-bool AChamp(const TypeEtude& type, double DonneesEtude::*membre) {
-    return std::any_of(type.champs.begin(), type.champs.end(),
-                       [membre](const ChampFichier& champ) { return champ.membre == membre; });
 }
 
 int DernierAngleDessin(const TypeEtude& type) {

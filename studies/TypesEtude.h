@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cams/DescriptionZones.h"
-#include "cams/LimitesSaisie.h"
+#include "cams/GroupesDonnees.h"
 #include "core/Etude.h"
 #include "platform/Dessin.h"
 #include "platform/Dialogues.h"
@@ -12,14 +12,11 @@
 #include <span>
 #include <string_view>
 
-/// A scalar of a kind of study, in the order of its file: its member of the record, the mask that it is written with,
-/// and what the screens and reports call it.
-struct ChampFichier {
-    const char* nom;
-    double DonneesEtude::*membre;
-    const char* masque;
-    int texte; ///< text number of its caption
-    int unite; ///< text number of its unit
+/// The reports that only some kinds have; none where a kind has no such report.
+struct RapportsEtude {
+    void (*donnees)() = nullptr;
+    void (*profil)() = nullptr;
+    void (*mouvement)() = nullptr; ///< the table of the motion
 };
 
 struct TypeEtude {
@@ -27,20 +24,25 @@ struct TypeEtude {
     const char* extension;    ///< of its study files, without the point
     int titre;                ///< text number of the kind's name
     const char* suffixeTitre; ///< what follows the name in the first line of a file
-    std::span<const ChampFichier> champs;
+    std::span<const ChampEtude> champs;
+    std::span<const GroupeDonnees> groupes; ///< in the order of the data screen
     const char* masqueNombreZones;
     const DescriptionZones* zones;
     const char* masqueValeur;
     const char* masqueAngleCame;
-    bool conjuguees = false;                                ///< a pair of cams, whose laws stand with the second
-    void (*calcule)() = nullptr;                            ///< the pipeline; none while this kind cannot be calculated
-    std::optional<FauteDonnee> (*chercheFaute)() = nullptr; ///< the first scalar that cannot be calculated with
+    bool conjuguees = false;     ///< a pair of cams, whose laws stand with the second
+    void (*calcule)() = nullptr; ///< the pipeline; none while this kind cannot be calculated
     /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
+    RapportsEtude rapports = {};
+    bool scriptBras = false;             ///< the script of the inner profile shows the arm
+    const char* motifDialogue = nullptr; ///< pattern as file dialogues show it, where it is not that of the extension
 
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }
+    /// The scalar of the present study that cannot be calculated with; none when all will do.
+    const ChampEtude* ChercheFaute() const { return ChercheInterdit(champs, etude.donnees); }
 };
 
 std::span<const TypeEtude> LesTypesEtude();
@@ -54,9 +56,6 @@ FiltreFichier FiltreEtude(const TypeEtude& type);
 
 /// Name of a study without its extension, on which the names of its exports are built.
 std::string NomSansExtension(const std::string& nomFichier);
-
-/// True when the kind of study has that scalar.
-bool AChamp(const TypeEtude& type, double DonneesEtude::*membre);
 
 /// Last cam angle that the drawing of the present results can be brought to, in whole degrees: a plane cam turns once,
 /// a developed one is walked along to the end of its last turn.

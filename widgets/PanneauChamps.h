@@ -1,31 +1,25 @@
-// A group of number fields described by a table: label left, field right of it, unit behind the field.
+// A group of fields described by rows: label left, field right of it, unit behind the field. A number has a number
+// field, a text a plain one.
 #pragma once
 
-#include "core/Etude.h"
+#include "core/Champ.h"
 
 #include <QGroupBox>
 
-#include <span>
+#include <string_view>
 #include <vector>
 
 class ChampNombre;
 class QGridLayout;
-
-/// One field: its control name, the number of its label and of its unit, and its member of the study record.
-struct ChampSaisie {
-    const char* controle;
-    int texte;
-    int unite; ///< text number, 0 for none
-    double DonneesEtude::*membre;
-};
+class QLineEdit;
 
 class PanneauChamps : public QGroupBox {
     Q_OBJECT
 
 public:
     /// @param titre text number of the caption.
-    /// @param champs must outlive the panel (a constant table).
-    PanneauChamps(const char* nom, int titre, std::span<const ChampSaisie> champs, QWidget* parent = nullptr);
+    /// @param champs their record must outlive the panel.
+    PanneauChamps(const char* nom, int titre, std::vector<ChampLie> champs, QWidget* parent = nullptr);
 
     /// From the record to the fields.
     void Charge();
@@ -33,19 +27,21 @@ public:
     /// @throws ErreurExecution overflow; the record is then as it was.
     bool Lit();
 
-    /// @throws std::logic_error when there is no such field, with the names there are.
+    /// The field of a number.
+    /// @throws std::logic_error when there is none of that control name, with the names there are.
     ChampNombre* Champ(const char* controle) const;
-    /// The field of a member of the record; none when this panel does not have it.
-    ChampNombre* ChampDe(double DonneesEtude::*membre) const;
-    const std::vector<ChampNombre*>& Champs() const { return lesChamps_; }
+    /// The field of the row of that name; none when this panel does not have it.
+    QLineEdit* ChampDe(std::string_view nom) const;
+    const std::vector<QLineEdit*>& Champs() const { return lesChamps_; }
 
 signals:
     void Termine(); ///< Return was pressed in the last field
 
 private:
-    std::span<const ChampSaisie> table_;
-    QGridLayout* disposition_;
-    std::vector<ChampNombre*> lesChamps_;
+    void Avance(std::size_t place);
+
+    std::vector<ChampLie> table_;
+    std::vector<QLineEdit*> lesChamps_;
 };
 
 /// Puts label, field and unit into row `ligne` of a grid. The label is the field's buddy.

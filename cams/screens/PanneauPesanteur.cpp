@@ -1,7 +1,7 @@
 #include "cams/screens/PanneauPesanteur.h"
 
 #include "cams/Pesanteur.h"
-#include "core/Etude.h"
+#include "core/Nombres.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Nomme.h"
@@ -14,9 +14,10 @@
 #include <algorithm>
 #include <utility>
 
-PanneauPesanteur::PanneauPesanteur(const char* champ, QWidget* parent) : QGroupBox(QTexte(168), parent) {
+PanneauPesanteur::PanneauPesanteur(const ChampLie& champ, QWidget* parent)
+    : QGroupBox(QTexte(168), parent), angle_(*std::get<double*>(champ.valeur)) {
     auto* disposition = new QGridLayout(this);
-    champ_ = AjouteLigneChamp(*disposition, 0, champ, 169, 19);
+    champ_ = AjouteLigneChamp(*disposition, 0, champ.controle, champ.texte, champ.unite);
     defilement_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
     defilement_->setRange(0, 360);
     defilement_->setPageStep(15);
@@ -37,14 +38,14 @@ void PanneauPesanteur::Lit() {
 }
 
 void PanneauPesanteur::Change(double angle) {
-    const double ancien = std::exchange(etude.donnees.AnglePesanteur, std::clamp(angle, 0.0, 360.0));
+    const double ancien = std::exchange(angle_, std::clamp(angle, 0.0, 360.0));
     Montre();
-    if (etude.donnees.AnglePesanteur != ancien) emit Modifie();
+    if (angle_ != ancien) emit Modifie();
 }
 
 void PanneauPesanteur::Montre() {
-    champ_->Montre(etude.donnees.AnglePesanteur);
+    champ_->Montre(angle_);
     const QSignalBlocker muet(defilement_);
-    defilement_->setValue(static_cast<int>(Arrondi(std::clamp(etude.donnees.AnglePesanteur, 0.0, 360.0))));
-    dessin_->Peint([angle = etude.donnees.AnglePesanteur](Dessin& dessin) { DessinePesanteur(dessin, angle); });
+    defilement_->setValue(static_cast<int>(Arrondi(std::clamp(angle_, 0.0, 360.0))));
+    dessin_->Peint([angle = angle_](Dessin& dessin) { DessinePesanteur(dessin, angle); });
 }

@@ -1,6 +1,8 @@
 // The direction of gravity: one value in two forms, a scroll bar and a field, and an arrow that shows it.
 #pragma once
 
+#include "core/Champ.h"
+
 #include <QGroupBox>
 
 class ChampNombre;
@@ -14,8 +16,8 @@ signals:
     void Modifie(); ///< the record has another angle
 
 public:
-    /// @param champ name of the field; the scroll bar is `HScroll1`, the drawing `Picture6`.
-    explicit PanneauPesanteur(const char* champ, QWidget* parent = nullptr);
+    /// @param champ the angle; the scroll bar is `HScroll1`, the drawing `Picture6`.
+    explicit PanneauPesanteur(const ChampLie& champ, QWidget* parent = nullptr);
 
     /// From the field to the record; a typed value outside 0..360 is cut back to the limit.
     void Lit();
@@ -28,6 +30,7 @@ public:
 private:
     void Change(double angle);
 
+    double& angle_;
     ChampNombre* champ_;
     QScrollBar* defilement_;
     ZoneDessin* dessin_;

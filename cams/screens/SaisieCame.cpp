@@ -6,6 +6,7 @@
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"
+#include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
@@ -17,6 +18,7 @@
 #include <QShortcut>
 #include <QShowEvent>
 
+#include <stdexcept>
 #include <utility>
 
 QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
@@ -31,16 +33,35 @@ QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
 SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
     : QWidget(parent), description_(description) {
     setObjectName(QString::fromLatin1(description.nom));
+    for (const GroupeDonnees& groupe : description.groupes) {
+        std::vector<ChampLie> champs;
+        for (const char* nom : groupe.Champs())
+            champs.push_back(LieChamp(ChampNomme(description.champs, nom), etude.donnees));
+        if (groupe.pesanteur)
+            pesanteur_ = Nomme(new PanneauPesanteur(champs.front()), groupe.panneau);
+        else
+            panneaux_.push_back(new PanneauChamps(groupe.panneau, groupe.titre, std::move(champs)));
+    }
 }
 
 SaisieCame::~SaisieCame() {
     CesseEcoute(*this);
 }
 
-void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
-                         PanneauPesanteur* pesanteur) {
-    panneaux_ = panneaux;
-    pesanteur_ = pesanteur;
+QWidget* SaisieCame::Panneau(std::string_view nom) const {
+    for (auto* panneau : panneaux_)
+        if (S(panneau->objectName()) == nom) return panneau;
+    if (pesanteur_ != nullptr && S(pesanteur_->objectName()) == nom) return pesanteur_;
+    throw std::logic_error("no panel " + std::string(nom));
+}
+
+QLineEdit* SaisieCame::ChampDe(std::string_view nom) const {
+    for (const auto* panneau : panneaux_)
+        if (auto* champ = panneau->ChampDe(nom)) return champ;
+    return nullptr;
+}
+
+void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     zones_ =
         new PanneauZones(description_.zones, description_.champsZones, [this](Zone& zone) { return AcheveZone(zone); });
     auto* contenu = new QWidget;
@@ -63,7 +84,12 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     AppliqueLegendes(*this, legendes);
     zones_->LaisseAller(retour_);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
+    RelieChamps();
+    MontreBoutons();
+    panneaux_.front()->Champs().front()->setFocus();
+}
 
+void SaisieCame::RelieChamps() {
     for (std::size_t i = 0; i < panneaux_.size(); ++i) {
         for (auto* champ : panneaux_[i]->Champs())
             connect(champ, &QLineEdit::editingFinished, this, [this, panneau = panneaux_[i]] { LitPanneau(*panneau); });
@@ -84,8 +110,6 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     connect(zones_, &PanneauZones::Termine, calculer_, [this] { calculer_->setFocus(Qt::TabFocusReason); });
     connect(calculer_, &QPushButton::clicked, this, &SaisieCame::Calculer);
     connect(retour_, &QPushButton::clicked, this, &SaisieCame::Retour);
-    MontreBoutons();
-    panneaux_.front()->Champs().front()->setFocus();
 }
 
 void SaisieCame::MontreBoutons() {
@@ -108,17 +132,12 @@ void SaisieCame::LitDonnees() {
     if (pesanteur_ != nullptr) pesanteur_->Lit();
 }
 
-bool SaisieCame::FauteDeDonnee(std::optional<FauteDonnee> (*cherche)()) {
-    const auto faute = cherche();
-    if (!faute) return false;
-    LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
-    MontreFaute(faute->membre);
+bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
+    const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
+    if (faute == nullptr) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
+    if (auto* champ = ChampDe(faute->nom)) champ->setFocus();
     return true;
-}
-
-void SaisieCame::MontreFaute(double DonneesEtude::*membre) {
-    for (auto* panneau : panneaux_)
-        if (auto* champ = panneau->ChampDe(membre)) champ->setFocus();
 }
 
 void SaisieCame::showEvent(QShowEvent* evenement) {
@@ -135,13 +154,16 @@ void SaisieCame::ChargeDonnees() {
 bool SaisieCame::HorsDePortee() {
     if (SansErreur()) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(75));
-    MontreFaute(&DonneesEtude::RayonO1P);
+    if (auto* bras = ChampDe("RayonO1P")) bras->setFocus();
     return true;
 }
 
 bool SaisieCame::AcheveZone(Zone& zone) {
     LitDonnees();
-    if (FauteDeDonnee(description_.chercheFauteZone) || !ControleZone(zone)) return false;
+    const bool tous = description_.champDuree == nullptr;
+    const std::span champs =
+        tous ? description_.champs : std::span(&ChampNomme(description_.champs, description_.champDuree), 1);
+    if (FauteDeDonnee(champs) || !ControleZone(zone)) return false;
     std::swap(etude.donnees.Zones[etude.donnees.ZoneCourante], zone);
     CompleteZone(etude.donnees.ZoneCourante, description_.zones.rayonsBras);
     std::swap(etude.donnees.Zones[etude.donnees.ZoneCourante], zone);
@@ -151,7 +173,7 @@ bool SaisieCame::AcheveZone(Zone& zone) {
 void SaisieCame::Calculer() {
     if (!zones_->LitPointsParDegre()) return;
     LitDonnees();
-    if (FauteDeDonnee(description_.chercheFaute)) return;
+    if (FauteDeDonnee(description_.champs)) return;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);

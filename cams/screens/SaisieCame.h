@@ -2,24 +2,27 @@
 // calculation.
 #pragma once
 
-#include "cams/LimitesSaisie.h"
+#include "cams/GroupesDonnees.h"
 #include "cams/screens/PanneauZones.h"
 
 #include <QWidget>
 
-#include <optional>
+#include <span>
+#include <string_view>
 #include <vector>
 
 class PanneauChamps;
 class PanneauPesanteur;
+class QLineEdit;
 class QPushButton;
 
 struct DescriptionSaisie {
     const char* nom; ///< of the screen
     const DescriptionZones& zones;
     ChampsZones champsZones;
-    std::optional<FauteDonnee> (*chercheFauteZone)(); ///< the first scalar without which no zone can be completed
-    std::optional<FauteDonnee> (*chercheFaute)();     ///< the first that cannot be calculated with
+    std::span<const ChampEtude> champs;
+    std::span<const GroupeDonnees> groupes; ///< in the order of entry
+    const char* champDuree;                 ///< the one scalar that a zone cannot be completed without; none for all
     void (*calcule)();
 };
 
@@ -37,11 +40,15 @@ protected:
     /// @param description must outlive the screen (a constant).
     SaisieCame(const DescriptionSaisie& description, QWidget* parent);
 
+    /// The panel of a group, to be put into a column.
+    /// @throws std::logic_error when there is no such group.
+    QWidget* Panneau(std::string_view nom) const;
+
+    /// The field of a scalar; none when no panel has it.
+    QLineEdit* ChampDe(std::string_view nom) const;
+
     /// Lays out the screen: the columns from the left, the entry of the zones behind them, the buttons below.
-    /// @param panneaux in the order of entry
-    /// @param pesanteur none where gravity does not work on the follower
-    void Compose(const std::vector<QWidget*>& colonnes, const std::vector<PanneauChamps*>& panneaux,
-                 PanneauPesanteur* pesanteur);
+    void Compose(const std::vector<QWidget*>& colonnes);
 
     /// What this kind of cam asks of a zone besides its law; false after a box.
     virtual bool ControleZone(const Zone&) { return true; }
@@ -57,10 +64,10 @@ protected:
 private:
     bool AcheveZone(Zone& zone);
     void PerimeResultats();
+    void RelieChamps();
     void LitPanneau(PanneauChamps& panneau);
     void LitDonnees();
-    bool FauteDeDonnee(std::optional<FauteDonnee> (*cherche)());
-    void MontreFaute(double DonneesEtude::*membre);
+    bool FauteDeDonnee(std::span<const ChampEtude> champs);
     bool HorsDePortee();
     void MontreBoutons();
     void Calculer();
@@ -68,7 +75,7 @@ private:
 
     const DescriptionSaisie& description_;
     std::vector<PanneauChamps*> panneaux_;
-    PanneauPesanteur* pesanteur_ = nullptr;
+    PanneauPesanteur* pesanteur_ = nullptr; ///< none where gravity does not work on the follower
     PanneauZones* zones_ = nullptr;
     QPushButton *calculer_ = nullptr, *retour_ = nullptr;
 };

@@ -6,40 +6,24 @@
 #include "cylindrical/SchemasCyl.h"
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
-#include "widgets/ChampNombre.h"
-#include "widgets/PanneauChamps.h"
+
+#include <QLineEdit>
 
 namespace {
 
-constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 400, UniteMm, &DonneesEtude::CoteA},
-    {"Text2", 155, UniteMm, &DonneesEtude::RayonO1P},
-    {"Text3", 394, UniteMm, &DonneesEtude::DiametreCame},
-    {"RayonGalet", 123, UniteMm, &DonneesEtude::RayonGalet},
-    {"VitesseCame", 157, UniteTours, &DonneesEtude::VitesseCame},
-};
-constexpr ChampSaisie champsEfforts[] = {
-    {"Text6", 239, UniteKgM2, &DonneesEtude::InertieMasseA},
-    {"Text7", 240, UniteNm, &DonneesEtude::CoupleConstantO1},
-};
-
-constexpr DescriptionSaisie description{"DoCylOsc",
-                                        ZonesOscillation,
-                                        {"NombreZones", "AngleDepart", "AngleFinal", "AngleCame", "CoefSymetrie"},
-                                        ChercheFauteDuree,
-                                        ChercheFauteOscillation,
-                                        CalculeCameCylOsc};
+constexpr DescriptionSaisie description{
+    "DoCylOsc",        ZonesOscillation,   {"NombreZones", "AngleDepart", "AngleFinal", "AngleCame", "CoefSymetrie"},
+    ChampsOscillation, GroupesOscillation, "VitesseCame",
+    CalculeCameCylOsc};
 
 } // namespace
 
 DoCylOsc::DoCylOsc(QWidget* parent) : SaisieCame(description, parent) {
-    auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
     auto* schema = new PanneauSchema(DessineSchemaCylOsc);
     constexpr std::pair<const char*, const char*> cotes[] = {
-        {"Text1", "a"}, {"Text2", "O1-P"}, {"Text3", "D"}, {"RayonGalet", "galet"}};
-    for (const auto& [champ, cote] : cotes) schema->Suit(geometrie->Champ(champ), cote);
-    auto* efforts = new PanneauChamps("Picture3", 158, champsEfforts);
-    Compose({EmpilePanneaux({geometrie, efforts, schema}, 2)}, {geometrie, efforts}, nullptr);
+        {"CoteA", "a"}, {"RayonO1P", "O1-P"}, {"DiametreCame", "D"}, {"RayonGalet", "galet"}};
+    for (const auto& [champ, cote] : cotes) schema->Suit(ChampDe(champ), cote);
+    Compose({EmpilePanneaux({Panneau("Picture2"), Panneau("Picture3"), schema}, 2)});
 }
 
 void DoCylOsc::ProposeDonnees() {

@@ -112,7 +112,7 @@ QWidget* EcranLoi::FaitDonnees() {
         if (!champ.Employe()) continue;
         auto* zone = AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, champ.texte, 0);
         zone->RefuseSigne(!champ.signe);
-        if (const double valeur = etude.donnees.*champ.membre; valeur != 0.0) zone->Montre(valeur);
+        if (const double valeur = champ.Nombre(etude.donnees); valeur != 0.0) zone->Montre(valeur);
         champs_.push_back({&champ, zone});
     }
     pointsParDegre_ = Nomme(new QComboBox, "Combo1");
@@ -232,7 +232,7 @@ void EcranLoi::PerimeResultats() {
 }
 
 void EcranLoi::LitDonnees() {
-    for (const Ligne& ligne : champs_) etude.donnees.*ligne.champ->membre = ligne.zone->Valeur();
+    for (const Ligne& ligne : champs_) ligne.champ->Nombre(etude.donnees) = ligne.zone->Valeur();
     etude.donnees.PointsParDegre = Entier16(Val(S(pointsParDegre_->currentText())));
     if (etude.donnees.PointsParDegre == 0) etude.donnees.PointsParDegre = 1;
 }

@@ -1,45 +1,26 @@
 #include "planecams/screens/DoProfil.h"
 
-#include "cams/screens/PanneauPesanteur.h"
 #include "cams/screens/PanneauSchema.h"
 #include "data/Textes.h"
-#include "data/Unites.h"
 #include "planecams/CamesPlates.h"
 #include "planecams/DonneesPlates.h"
 #include "planecams/SchemasCames.h"
 #include "platform/Dialogues.h"
 #include "widgets/ChampNombre.h"
-#include "widgets/PanneauChamps.h"
 
 namespace {
 
-constexpr ChampSaisie champsGeometrie[] = {
-    {"Text1", 123, UniteMm, &DonneesEtude::RayonGalet},
-    {"Text2", 157, UniteTours, &DonneesEtude::VitesseCame},
-    {"Text3", 161, UniteMm, &DonneesEtude::EpaisseurCame},
-};
-constexpr ChampSaisie champsMasse[] = {
-    {"Text4", 163, UniteKg, &DonneesEtude::MasseA},
-};
-constexpr ChampSaisie champsForces[] = {
-    {"Text5", 167, UniteN, &DonneesEtude::ForceY},
-};
-
 constexpr DescriptionSaisie description{
-    "DoProfil",           ZonesLineaire,        {"Text13", "Text14", "Text15", "Text16", "Text19"},
-    ChercheFauteLineaire, ChercheFauteLineaire, CalculeCameLineaire};
+    "DoProfil", ZonesLineaire,      {"Text13", "Text14", "Text15", "Text16", "Text19"}, ChampsLineaire, GroupesLineaire,
+    nullptr,    CalculeCameLineaire};
 
 } // namespace
 
 DoProfil::DoProfil(QWidget* parent) : SaisieCame(description, parent) {
-    auto* geometrie = new PanneauChamps("Picture2", 151, champsGeometrie);
     auto* schema = new PanneauSchema(DessineSchemaTranslation);
-    schema->Suit(geometrie->Champ("Text1"), "galet");
-    auto* masse = new PanneauChamps("Picture3", 162, champsMasse);
-    auto* forces = new PanneauChamps("Picture4", 392, champsForces);
-    auto* pesanteur = new PanneauPesanteur("Text17");
-    Compose({EmpilePanneaux({geometrie, schema}, 1), EmpilePanneaux({masse, forces, pesanteur}, 2)},
-            {geometrie, masse, forces}, pesanteur);
+    schema->Suit(ChampDe("RayonGalet"), "galet");
+    Compose({EmpilePanneaux({Panneau("Picture2"), schema}, 1),
+             EmpilePanneaux({Panneau("Picture3"), Panneau("Picture4"), Panneau("Pesanteur")}, 2)});
 }
 
 bool DoProfil::ControleZone(const Zone& zone) {

@@ -35,14 +35,13 @@ namespace {
 constexpr int OngletRotation = 4;
 
 /// What may be changed here and calculated again.
-constexpr ChampSaisie champsRecalcul[] = {
-    {"Text2", 164, UniteKg, &DonneesEtude::MasseA},
-    {"Text3", 166, UniteN, &DonneesEtude::ForceX},
-    {"Text4", 167, UniteN, &DonneesEtude::ForceY},
-    {"Text5", 123, UniteMm, &DonneesEtude::RayonGalet},
-    {"Text6", 157, UniteTours, &DonneesEtude::VitesseCame},
-    {"Text7", 239, UniteKgM2, &DonneesEtude::InertieMasseA},
-    {"Text8", 240, UniteNm, &DonneesEtude::CoupleConstantO1},
+constexpr struct {
+    const char* nom;
+    const char* controle;
+    int texteBras = 0; ///< text number of its caption where an arm has a point A for the mass to stand at
+} champsRecalcul[] = {
+    {"MasseA", "Text2", 164}, {"ForceX", "Text3"},        {"ForceY", "Text4"},           {"RayonGalet", "Text5"},
+    {"VitesseCame", "Text6"}, {"InertieMasseA", "Text7"}, {"CoupleConstantO1", "Text8"},
 };
 
 /// The groups of remarkable values and their places on the sheet.
@@ -73,9 +72,8 @@ void MontreRang(QWidget& controle, bool montre) {
         if (auto* element = grille->itemAtPosition(rang, c)) element->widget()->setVisible(montre);
 }
 
-bool EstRecalculable(double DonneesEtude::*membre) {
-    return std::any_of(std::begin(champsRecalcul), std::end(champsRecalcul),
-                       [&](const ChampSaisie& champ) { return champ.membre == membre; });
+bool EstRecalculable(std::string_view nom) {
+    return TrouveChamp(champsRecalcul, nom) != nullptr;
 }
 
 void RemplitListage(Grille& grille, std::span<const Colonne> colonnes) {
@@ -157,7 +155,7 @@ QWidget* Resultat::FaitRecalcul() {
     auto* groupe = Nomme(new QGroupBox, "GroupeRecalcul");
     auto* grille = new QGridLayout(groupe);
     for (const auto& champ : champsRecalcul)
-        champs_.push_back(AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, champ.texte, champ.unite));
+        champs_.push_back(AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, 0, 0));
     recalcul_ = Nomme(new QPushButton, "Recalcul");
     recalcul_->setDefault(true);
     grille->setRowStretch(grille->rowCount(), 1);
@@ -199,7 +197,7 @@ void Resultat::Montre() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) return;
     RemplitValeurs(*type);
-    RemplitRecalcul();
+    RemplitRecalcul(*type);
     RemplitGrilles(*type);
     RemplitGraphiques();
     MontreSelonType(*type);
@@ -229,10 +227,10 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
     }
     int ligne = 0;
     for (const auto& champ : type.champs) {
-        if (EstRecalculable(champ.membre)) continue;
+        if (EstRecalculable(champ.nom)) continue;
         auto* valeur = FaitValeur("", Gabarit);
         valeur->setObjectName(QString("Donnee") + champ.nom);
-        valeur->setText(Q(StrTrim(etude.donnees.*champ.membre)));
+        valeur->setText(Q(StrTrim(champ.Nombre(etude.donnees))));
         dispositionDonnees_->addWidget(new QLabel(QTexte(champ.texte)), ligne, 0);
         dispositionDonnees_->addWidget(valeur, ligne, 1);
         dispositionDonnees_->addWidget(FaitUnite(QTexte(champ.unite)), ligne++, 2);
@@ -260,8 +258,10 @@ void Resultat::RemplitGraphiques() {
     graphiqueCouple_->Peint([](Dessin& dessin) { DessineGraphique(dessin, CourbesCouple()); });
 }
 
-void Resultat::RemplitRecalcul() {
-    for (std::size_t i = 0; i < champs_.size(); ++i) champs_[i]->Montre(etude.donnees.*champsRecalcul[i].membre);
+void Resultat::RemplitRecalcul(const TypeEtude& type) {
+    for (std::size_t i = 0; i < champs_.size(); ++i)
+        if (const auto* champ = TrouveChamp(type.champs, champsRecalcul[i].nom))
+            champs_[i]->Montre(champ->Nombre(etude.donnees));
 }
 
 void Resultat::MontreSelonType(const TypeEtude& type) {
@@ -270,11 +270,15 @@ void Resultat::MontreSelonType(const TypeEtude& type) {
                             static_cast<QWidget*>(graphiqueBras_)})
         widget->setVisible(type.Bras());
     listages_->setTabVisible(listages_->indexOf(grilleBras_), type.Bras());
-    for (std::size_t i = 0; i < champs_.size(); ++i) MontreRang(*champs_[i], AChamp(type, champsRecalcul[i].membre));
-    // Without an arm there is no point A for the mass to stand at.
-    for (const ChampFichier& champ : type.champs)
-        if (champ.membre == &DonneesEtude::MasseA)
-            findChild<QLabel*>("EtiquetteText2")->setText(QTexte(type.Bras() ? 164 : champ.texte));
+    for (std::size_t i = 0; i < champs_.size(); ++i) {
+        const auto& recalcul = champsRecalcul[i];
+        const auto* champ = TrouveChamp(type.champs, recalcul.nom);
+        MontreRang(*champs_[i], champ != nullptr);
+        if (champ == nullptr) continue;
+        const int texte = type.Bras() && recalcul.texteBras != 0 ? recalcul.texteBras : champ->texte;
+        findChild<QLabel*>(QStringLiteral("Etiquette") + recalcul.controle)->setText(QTexte(texte));
+        findChild<QLabel*>(QStringLiteral("Unite") + recalcul.controle)->setText(QTexte(champ->unite));
+    }
     onglets_->setUpdatesEnabled(true);
 }
 
@@ -286,11 +290,11 @@ bool Resultat::RefuseSiRotation() {
 }
 
 bool Resultat::FauteDeDonnee(const TypeEtude& type) {
-    const auto faute = type.chercheFaute();
-    if (!faute) return false;
-    LesDialogues().Message(Icone::Avertissement, Texte(faute->texte));
+    const auto* faute = type.ChercheFaute();
+    if (faute == nullptr) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
     for (std::size_t i = 0; i < champs_.size(); ++i)
-        if (champsRecalcul[i].membre == faute->membre) champs_[i]->setFocus();
+        if (faute->nom == std::string_view(champsRecalcul[i].nom)) champs_[i]->setFocus();
     return true;
 }
 
@@ -300,7 +304,9 @@ void Resultat::Recalcul() {
     // A calculation that fails leaves data and tables as they are shown.
     const Etude gardee = etude;
     try {
-        for (std::size_t i = 0; i < champs_.size(); ++i) etude.donnees.*champsRecalcul[i].membre = champs_[i]->Valeur();
+        for (std::size_t i = 0; i < champs_.size(); ++i)
+            if (const auto* champ = TrouveChamp(type->champs, champsRecalcul[i].nom))
+                champ->Nombre(etude.donnees) = champs_[i]->Valeur();
         if (FauteDeDonnee(*type)) {
             etude = gardee;
             return;
@@ -310,13 +316,13 @@ void Resultat::Recalcul() {
         CalculeEtude();
     } catch (...) {
         etude = gardee;
-        RemplitRecalcul();
+        RemplitRecalcul(*type);
         throw;
     }
     if (!SansErreur()) {
         LesDialogues().Message(Icone::Critique, Texte(75) + "\n\n" + Texte(509));
         etude = gardee;
-        RemplitRecalcul();
+        RemplitRecalcul(*type);
         return;
     }
     etude.resultats.EtudeModifiee = Vrai;

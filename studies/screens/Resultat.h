@@ -50,7 +50,7 @@ private:
     void RemplitGrilles(const TypeEtude& type);
     void MontreSelonType(const TypeEtude& type);
     void RemplitGraphiques();
-    void RemplitRecalcul();
+    void RemplitRecalcul(const TypeEtude& type);
     bool FauteDeDonnee(const TypeEtude& type);
     void Recalcul();
     void Quitter();

@@ -124,9 +124,9 @@ TEST_F(RapportsCames, DataReportHasEveryValueOfTheStudy) {
     Imprime({MarqueImpression::Donnees});
     ASSERT_EQ(imprimante.pages.size(), 1U);
     const Textes lignes = ToutesLesLignes();
-    for (const ChampFichier& champ : TrouveType("Angulaire")->champs)
+    for (const ChampEtude& champ : TrouveType("Angulaire")->champs)
         EXPECT_TRUE(Contient(lignes, Texte(champ.texte),
-                             "(" + Texte(champ.unite) + ") : " + Format(etude.donnees.*champ.membre, "###.##")))
+                             "(" + Texte(champ.unite) + ") : " + Format(champ.Nombre(etude.donnees), "###.##")))
             << champ.nom;
     const auto rang = [&](const char* debut) {
         return std::find_if(lignes.begin(), lignes.end(), [&](const auto& l) { return Trim(l).starts_with(debut); }) -

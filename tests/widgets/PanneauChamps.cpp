@@ -9,41 +9,76 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTabWidget>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
 
-constexpr ChampSaisie Table[] = {
-    {"Text1", 152, 18, &DonneesEtude::CoteA},
-    {"Text2", 153, 18, &DonneesEtude::CoteB},
-    {"Text18", 157, 21, &DonneesEtude::VitesseCame},
+struct Fiche {
+    double cote = 120.5, hauteur = -3, vitesse = 0;
+    std::string repere = "A 12";
+};
+
+constexpr Champ<Fiche> table[] = {
+    {"cote", "Text1", 152, 18, &Fiche::cote},
+    {"hauteur", "Text2", 153, 18, &Fiche::hauteur},
+    {"repere", "Repere", 124, 0, &Fiche::repere},
+    {"vitesse", "Text18", 157, 21, &Fiche::vitesse},
 };
 
 } // namespace
 
-TEST(PanneauChamps, PorteLEtudeDansUnSensEtDansLAutre) {
-    etude.donnees.CoteA = 120.5;
-    etude.donnees.CoteB = -3;
-    PanneauChamps panneau("Picture2", 151, Table);
+TEST(PanneauChamps, CarriesAnyRecordToTheFieldsAndBack) {
+    Fiche fiche;
+    PanneauChamps panneau("Picture2", 151, LieChamps(table, fiche));
     EXPECT_EQ(S(panneau.title()), Texte(151));
     EXPECT_EQ(panneau.Champ("Text1")->Valeur(), 120.5);
     EXPECT_EQ(S(panneau.Champ("Text18")->text()), "0");
+    EXPECT_EQ(S(panneau.ChampDe("repere")->text()), "A 12");
+    EXPECT_FALSE(panneau.Lit()) << "nothing was typed";
 
     panneau.Champ("Text2")->setText(QStringLiteral("7,5"));
     panneau.Champ("Text18")->setText(QStringLiteral("300"));
-    panneau.Lit();
-    EXPECT_EQ(etude.donnees.CoteB, 7.5);
-    EXPECT_EQ(etude.donnees.VitesseCame, 300);
+    EXPECT_TRUE(panneau.Lit());
+    EXPECT_EQ(fiche.hauteur, 7.5);
+    EXPECT_EQ(fiche.vitesse, 300);
 
-    // A number beyond a double leaves the whole record as it was.
+    panneau.ChampDe("repere")->setText(QStringLiteral("Élan, 3 %"));
+    EXPECT_TRUE(panneau.Lit());
+    EXPECT_EQ(fiche.repere, "Élan, 3 %") << "a text keeps what no number has";
+
+    // A number beyond a double leaves the whole record as it was, texts too.
     panneau.Champ("Text1")->setText(QStringLiteral("1"));
+    panneau.ChampDe("repere")->setText(QStringLiteral("B"));
     panneau.Champ("Text18")->setText(QStringLiteral("1e999"));
     EXPECT_THROW(panneau.Lit(), ErreurExecution);
-    EXPECT_EQ(etude.donnees.CoteA, 120.5);
+    EXPECT_EQ(fiche.cote, 120.5);
+    EXPECT_EQ(fiche.repere, "Élan, 3 %");
 
     panneau.Charge();
     EXPECT_EQ(S(panneau.Champ("Text1")->text()), "120.5");
+    EXPECT_EQ(S(panneau.ChampDe("repere")->text()), "Élan, 3 %");
+}
+
+TEST(PanneauChamps, ReturnWalksNumbersAndTextsAndLeavesTheLast) {
+    Fiche fiche;
+    QWidget ecran;
+    auto* bouton = new QPushButton(&ecran);
+    bouton->setDefault(true);
+    auto* panneau = new PanneauChamps("Picture2", 151, LieChamps(table, fiche), &ecran);
+    QSignalSpy clique(bouton, &QPushButton::clicked), termine(panneau, &PanneauChamps::Termine);
+    ecran.show();
+    ecran.activateWindow();
+    QTest::qWait(0);
+    panneau->Champs().front()->setFocus();
+    for (QLineEdit* champ : panneau->Champs()) {
+        EXPECT_EQ(ecran.focusWidget(), champ);
+        QTest::keyClick(champ, Qt::Key_Return);
+    }
+    EXPECT_EQ(termine.count(), 1);
+    EXPECT_EQ(clique.count(), 0);
 }
 
 TEST(Legendes, ChaqueGenreDeControleRecoitLaSienne) {

@@ -1,52 +1,87 @@
 #include "studies/RapportsCames.h"
 
-#include "core/Etude.h"
-#include "reports/CadrePages.h"
-
-#include <algorithm>
-#include <span>
-#include <string_view>
+#include "studies/TypesEtude.h"
 
 namespace {
 
-constexpr std::string_view Angulaire[] = {"Angulaire"}, Lineaire[] = {"Lineaire"}, Cylindrique[] = {"Cylindrique"},
-                           Oscillation[] = {"Oscillation"};
-constexpr std::string_view Plates[] = {"Angulaire", "Lineaire"}, Cylindres[] = {"Cylindrique", "Oscillation"};
-constexpr std::string_view Simples[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation"};
-constexpr std::string_view ABras[] = {"Angulaire", "Oscillation", "ConjuguesOscillation"};
-constexpr std::string_view Toutes[] = {"Angulaire", "Lineaire", "Cylindrique", "Oscillation", "ConjuguesOscillation"};
-
 struct Rapport {
     MarqueImpression marque;
-    std::span<const std::string_view> types; ///< the `TypeCame` that have it
+    bool (*pour)(const TypeEtude&); ///< the kinds of study that have it
     void (*imprime)();
 };
 
+bool Toutes(const TypeEtude&) {
+    return true;
+}
+bool Plates(const TypeEtude& type) {
+    return !type.developpee && !type.conjuguees;
+}
+bool Developpees(const TypeEtude& type) {
+    return type.developpee;
+}
+bool Seules(const TypeEtude& type) {
+    return !type.conjuguees;
+}
+bool ABras(const TypeEtude& type) {
+    return type.Bras();
+}
+bool ADonnees(const TypeEtude& type) {
+    return type.imprimeDonnees != nullptr;
+}
+bool APointsMouvement(const TypeEtude& type) {
+    return type.pointsMouvement != nullptr;
+}
+
+void ImprimeDonnees() {
+    LeTypeEtude().imprimeDonnees();
+}
+
 /// The print run, in its order.
 constexpr Rapport rapports[] = {
-    {MarqueImpression::Donnees, Angulaire, ImprimeDonneesAngulaire},
-    {MarqueImpression::Donnees, Lineaire, ImprimeDonneesLineaire},
-    {MarqueImpression::Donnees, Cylindrique, ImprimeDonneesCylindrique},
-    {MarqueImpression::Donnees, Oscillation, ImprimeDonneesOscillation},
+    {MarqueImpression::Donnees, ADonnees, ImprimeDonnees},
     {MarqueImpression::PointsRemarquables, Toutes, ImprimePointsRemarquables},
     {MarqueImpression::Profil, Plates, ImprimeProfilPlat},
-    {MarqueImpression::Profil, Cylindres, ImprimeProfilCylindre},
-    {MarqueImpression::GraphiqueMouvement, Simples, ImprimeGraphiqueLineaire},
+    {MarqueImpression::Profil, Developpees, ImprimeProfilCylindre},
+    {MarqueImpression::GraphiqueMouvement, Seules, ImprimeGraphiqueLineaire},
     {MarqueImpression::GraphiqueMouvement, ABras, ImprimeGraphiqueBras},
     {MarqueImpression::GraphiqueForces, Toutes, ImprimeGraphiqueForces},
-    {MarqueImpression::PointsMouvement, Simples, ImprimePointsMouvement},
+    {MarqueImpression::PointsMouvement, APointsMouvement, ImprimePointsMouvement},
     {MarqueImpression::PointsForces, Toutes, ImprimePointsForces},
+};
+
+Tirage* enCours = nullptr;
+
+/// A run is under way for the life of this object.
+class TirageEnCours {
+public:
+    explicit TirageEnCours(Tirage& tirage) { enCours = &tirage; }
+    ~TirageEnCours() { enCours = nullptr; }
+    TirageEnCours(const TirageEnCours&) = delete;
+    TirageEnCours& operator=(const TirageEnCours&) = delete;
 };
 
 } // namespace
 
+Tirage& TirageCames() {
+    if (enCours == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+    return *enCours;
+}
+
+void DebutPageCames(const std::string& titre) {
+    TirageCames().DebutRapport();
+    TirageCames().Titre(etude.donnees.NomFichier, titre);
+}
+
+void ImprimeRapportLignes(const std::string& titre, std::span<const LigneRapport> lignes) {
+    ImprimeRapportLignes(TirageCames(), etude.donnees.NomFichier, titre, lignes);
+}
+
 void ImprimeRapportsCames(Imprimante& imprimante, const MarquesImpression& marques) {
-    const TirageCames tirage(imprimante, {nullptr, EnTeteMouvement, EnTeteForces});
-    for (const Rapport& rapport : rapports) {
-        impression.NumeroLigne = 0;
-        const bool pourCeType =
-            std::find(rapport.types.begin(), rapport.types.end(), etude.donnees.TypeCame) != rapport.types.end();
-        if (pourCeType && marques.at(static_cast<std::size_t>(rapport.marque))) rapport.imprime();
-    }
-    imprimante.FinDocument();
+    Tirage tirage(imprimante);
+    const TirageEnCours marque(tirage);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    for (const Rapport& rapport : rapports)
+        if (type != nullptr && rapport.pour(*type) && marques.at(static_cast<std::size_t>(rapport.marque)))
+            rapport.imprime();
+    tirage.FinDocument();
 }

@@ -9,6 +9,7 @@
 #include "planecams/CamesPlates.h"
 #include "planecams/DonneesPlates.h"
 #include "studies/DessinCame.h"
+#include "studies/RapportsCames.h"
 
 #include <algorithm>
 #include <cctype>
@@ -82,13 +83,16 @@ constexpr DescriptionZones zonesConjuguees{
 
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, &ZonesAngulaire, M2, M2, false, CalculeCameAngulaire,
-     ChercheFauteAngulaire, false, DessineCamePlate},
+     ChercheFauteAngulaire, false, DessineCamePlate, ImprimeDonneesAngulaire, PointsMouvementAngulaire},
     {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, &ZonesLineaire, M2Large, M2Large, false,
-     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate},
+     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate, ImprimeDonneesLineaire,
+     PointsMouvementLineaire},
     {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, &ZonesCylindrique, M2Large, M2Large, false,
-     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl},
+     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl, ImprimeDonneesCylindrique,
+     PointsMouvementCylindrique},
     {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, &ZonesOscillation, M2, M2, false,
-     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl},
+     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl, ImprimeDonneesOscillation,
+     PointsMouvementOscillation},
     {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true},
 };
 
@@ -118,6 +122,12 @@ const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier) {
     return type == std::end(types) ? nullptr : type;
 }
 
+const TypeEtude& LeTypeEtude() {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    return *type;
+}
+
 FiltreFichier FiltreEtude(const TypeEtude& type) {
     const std::string motif = std::string("*.") + type.extension;
     // The arm cam's own pattern is shown in small letters.
@@ -145,8 +155,7 @@ double AngleExtreme(std::int16_t place) {
 }
 
 void CalculeEtude() {
-    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type == nullptr || !type->Disponible())
-        throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
-    type->calcule();
+    const TypeEtude& type = LeTypeEtude();
+    if (!type.Disponible()) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    type.calcule();
 }

@@ -5,6 +5,7 @@
 #include "cams/DescriptionZones.h"
 #include "cams/LimitesSaisie.h"
 #include "core/Etude.h"
+#include "core/TableTexte.h"
 #include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 
@@ -38,6 +39,8 @@ struct TypeEtude {
     /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
+    void (*imprimeDonnees)() = nullptr;                      ///< the report of its data
+    TableTexte (*pointsMouvement)() = nullptr;               ///< its motion point by point, as it is printed
 
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }
@@ -48,6 +51,10 @@ std::span<const TypeEtude> LesTypesEtude();
 /// The row of a `TypeCame`, or of a file name by its extension in any case; none for an unknown one.
 const TypeEtude* TrouveType(std::string_view nom);
 const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier);
+
+/// The row of the present study.
+/// @throws ErreurExecution incorrect call when its `TypeCame` is none of the table.
+const TypeEtude& LeTypeEtude();
 
 /// The filter of a file dialogue for the study files of one kind: its name " (*.ang)" and "*.Ang".
 FiltreFichier FiltreEtude(const TypeEtude& type);

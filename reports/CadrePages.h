@@ -38,7 +38,6 @@ public:
     explicit Tirage(Imprimante& imprimante, FormatPage format = {});
 
     Imprimante& Appareil() { return imprimante_; }
-    const FormatPage& Format() const { return format_; }
 
     std::int16_t NumeroLigne() const { return numeroLigne_; } ///< lines printed on the present page
     std::int16_t NumeroPage() const { return numeroPage_; }   ///< pages turned in the present report

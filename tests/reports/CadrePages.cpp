@@ -75,6 +75,7 @@ TEST_F(PagesCames, HeadingHasNameDateAndTitle) {
     EXPECT_FALSE(morceaux.back().gras);
     EXPECT_EQ(lignes[3].Texte(), "Titre" + std::string(20, ' '));
     EXPECT_TRUE(lignes[3].morceaux[0].gras);
+    EXPECT_FALSE(lignes[3].morceaux[0].souligne);
     tirage.Ligne("suite");
     EXPECT_EQ(lignes[4].morceaux[0].taille, 11);
     EXPECT_FALSE(lignes[4].morceaux[0].gras);

@@ -8,7 +8,7 @@ namespace {
 struct ColonneZone {
     int (*entete)(const DescriptionZones&); ///< text number; 0 where this kind of cam does not have the column
     bool texte;
-    std::string (*valeur)(const DescriptionZones&, long zone); ///< zone from 1
+    std::string (*valeur)(const DescriptionZones&, long zone); ///< zone from 1; none for the column of their names
 };
 
 template <int texte> int Toujours(const DescriptionZones&) {
@@ -50,29 +50,25 @@ const ColonneZone colonnes[] = {
     {Toujours<185>, false, Entre<&Zone::CoefSymetrie>},
 };
 
-std::vector<const ColonneZone*> ColonnesZones(const DescriptionZones& zones) {
-    std::vector<const ColonneZone*> choisies;
-    for (const auto& colonne : colonnes)
-        if (colonne.entete(zones) != 0) choisies.push_back(&colonne);
-    return choisies;
+/// What a zone is called, then what was entered or calculated for it.
+std::string Cellule(const ColonneZone& colonne, const DescriptionZones& zones, long z, std::int16_t entrees) {
+    if (colonne.valeur == nullptr) return Texte(187) + std::to_string(z);
+    if (z > entrees || z > etude.donnees.Zones.BorneHaute()) return {};
+    return colonne.valeur(zones, z);
 }
 
 } // namespace
 
-std::vector<std::string> EntetesZones(const DescriptionZones& zones) {
-    std::vector<std::string> entetes;
-    for (const auto* colonne : ColonnesZones(zones)) entetes.push_back(Texte(colonne->entete(zones)));
-    return entetes;
-}
-
-std::vector<bool> ColonnesTexteZones(const DescriptionZones& zones) {
-    std::vector<bool> textes;
-    for (const auto* colonne : ColonnesZones(zones)) textes.push_back(colonne->texte);
-    return textes;
-}
-
-std::string CelluleZone(const DescriptionZones& zones, int ligne, int colonne, std::int16_t entrees) {
-    if (colonne == 0) return Texte(187) + std::to_string(ligne + 1);
-    if (ligne >= entrees || ligne + 1 > etude.donnees.Zones.BorneHaute()) return {};
-    return ColonnesZones(zones)[static_cast<std::size_t>(colonne)]->valeur(zones, ligne + 1);
+TableTexte TableZones(const DescriptionZones& zones, std::int16_t entrees) {
+    TableTexte table;
+    table.lignes = etude.donnees.NombreZones;
+    for (const auto& colonne : colonnes) {
+        const int entete = colonne.entete(zones);
+        if (entete == 0) continue;
+        table.colonnes.push_back(
+            {Texte(entete), "",
+             [&colonne, &zones, entrees](int ligne) { return Cellule(colonne, zones, ligne + 1L, entrees); },
+             colonne.texte ? Cote::Gauche : Cote::Droite});
+    }
+    return table;
 }

@@ -3,6 +3,7 @@
 #include "core/Etude.h"
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
+#include "laws/TablePoints.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,10 +22,6 @@ PointLoi LitPoint(std::string_view ligne) {
             std::abs(Val(ligne.substr(second + 1)))};
 }
 
-std::string Decimales(double valeur, const char* masque) {
-    return StrTrim(Val(Format(valeur, masque)));
-}
-
 } // namespace
 
 std::string ComposeFichierLoi() {
@@ -39,13 +36,9 @@ std::string ComposeFichierLoi() {
 }
 
 std::string ComposeListageLoi() {
+    const TableTexte table = TableListageLoi();
     std::string contenu;
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
-        const PointLoi& p = etude.resultats.Mouvement[i];
-        contenu += StrTrim(Divise(static_cast<double>(i), etude.donnees.PointsParDegre)) + ";" +
-                   Decimales(p.Course, "0.000") + ";" + Decimales(p.Vitesse, "0.00000") + ";" +
-                   Decimales(p.Accel, "0.00000") + FinDeLigne;
-    }
+    AjouteCellules(contenu, table, {0, table.lignes, 0, static_cast<int>(table.colonnes.size())}, ';', FinDeLigne);
     return contenu;
 }
 

@@ -1,79 +1,95 @@
-// The page framework of the cam reports: lines, page turns with foot line and repeated column heading, page heading.
+// The page framework of the reports: lines, page turns with foot line and repeated heading, page heading.
 #pragma once
 
 #include "platform/Imprimante.h"
+#include "reports/Cadrage.h"
 
-#include <array>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
+#include <utility>
 
-/// Lines of a page before it turns: the next one still prints, then the foot line.
-inline constexpr std::int16_t LignesPage = 64;
+class Tirage;
 
-/// Which column heading is repeated after a page turn.
-enum EnTete : std::int16_t { SansEnTete = 0, EnTeteDuMouvement = 1, EnTeteDesForces = 2 };
-
-/// The state of a print run.
-struct Impression {
-    std::int16_t NumeroLigne = 0; ///< lines printed on the present page
-    std::int16_t NumeroPage = 0;  ///< pages finished in the present report
-    std::int16_t NombrePages = 0; ///< page total of the present report, for its foot line
-    std::int16_t TypeEnTete = SansEnTete;
+/// What the pages of a print run look like; as it stands, what those of the cams do.
+struct FormatPage {
+    double taille = 11;      ///< of the text in "Courier New", points
+    double tailleTitre = 12; ///< of the first lines of a page heading, points
+    int lignes = 65;         ///< lines of a page: the one with this number still prints, then the page turns
+    int colonnes = 78;       ///< characters of the widest line that the paper makes room for
+    OrientationPage orientation = OrientationPage::Portrait;
+    bool pied = true; ///< a page that turns ends in a foot line with its number, below its lines
+    /// Prints what every page of a report begins with, the first one too. None: each report prints its own heading on
+    /// its first page.
+    std::function<void(Tirage&)> enTete;
 };
 
-extern Impression impression;
-
-/// Prints one column heading through `ImprimeLigneCames`.
-using ProcedureEnTete = void (*)();
-
-/// A print run on a printer, for the life of this object: the run's state is cleared, the reports print on
-/// `ImprimanteEnCours()`, and page turns repeat the headings given (none, motion, forces). The pages are laid out for
-/// `LignesPage` lines of "Courier New" 11.
-class TirageCames {
-public:
-    TirageCames(Imprimante& imprimante, std::array<ProcedureEnTete, 3> enTetes);
-    ~TirageCames();
-    TirageCames(const TirageCames&) = delete;
-    TirageCames& operator=(const TirageCames&) = delete;
-};
-
-/// @throws ErreurExecution incorrect call outside a print run.
-Imprimante& ImprimanteEnCours();
-
-/// Prints one line. The 65th line of a page is followed by the foot line, turns the page and repeats the heading.
-void ImprimeLigneCames(const std::string& texte, bool gras = false);
-
-/// Prints the page heading: the name of what is reported, the date of the day, and `titre`. The reports of the cams
-/// bear the study's name.
-void DebutPage(const std::string& nom, const std::string& titre);
-void DebutPageCames(const std::string& titre);
-
-/// A line of a report that is a list of lines.
+/// A line of a report.
 struct LigneRapport {
     std::string texte;
     bool gras = false;
+    bool souligne = false;
+};
+
+/// A print run in one page format: the reports that it prints, one after the other, and the end of its document.
+class Tirage {
+public:
+    explicit Tirage(Imprimante& imprimante, FormatPage format = {});
+
+    Imprimante& Appareil() { return imprimante_; }
+
+    std::int16_t NumeroLigne() const { return numeroLigne_; } ///< lines printed on the present page
+    std::int16_t NumeroPage() const { return numeroPage_; }   ///< pages turned in the present report
+
+    /// Begins a report at the head of a page, with the heading of the format.
+    /// @param pages page total of its foot lines
+    void DebutRapport(int pages = 0);
+    /// The page total, for a report that knows it once its heading is printed.
+    void AnnoncePages(int pages);
+    /// Pages of a report that has so many lines to print from here on.
+    /// @param tete lines that every further page repeats below the heading of the format
+    int PagesJusqua(int lignes, int tete = 0) const;
+
+    /// Prints one line. The last one of a page is followed by the foot line, turns the page and repeats the headings.
+    void Ligne(const std::string& texte = {}, bool gras = false, bool souligne = false);
+
+    /// Prints the heading of a report: the name of what is reported, the date of the day, and `titre`.
+    void Titre(const std::string& nom, const std::string& titre);
+
+    /// What a page begins with at once when it turns, below the heading of the format; nothing for none.
+    void RepeteEnTete(std::function<void()> enTete) { enTeteTable_ = std::move(enTete); }
+
+    /// Ends the present page, whatever room it has left. The heading of the next one waits for its first line, so that
+    /// no page is put out for its heading alone.
+    void TournePage();
+    /// Prints that heading where it still waits, for a page that begins with a drawing.
+    void EntamePage();
+    /// Turns the page unless so many lines still fit on it.
+    void Reserve(int lignes);
+
+    /// Ends the last page of a report, with a foot line of its own or without.
+    void FinRapport(bool pied);
+
+    void FinDocument() { imprimante_.FinDocument(); }
+
+private:
+    void EcritPied(int numeroPage);
+
+    Imprimante& imprimante_;
+    FormatPage format_;
+    std::function<void()> enTeteTable_;
+    bool enTeteDu_ = false; ///< the heading of the format waits for the first line
+    int lignesEnTete_ = 0;  ///< that it takes
+    std::int16_t numeroLigne_ = 0, numeroPage_ = 0, nombrePages_ = 0;
 };
 
 /// Prints a whole report of lines: heading, lines, and its pages numbered when they are more than one.
-void ImprimeRapportLignes(const std::string& titre, std::span<const LigneRapport> lignes);
-
-/// Prints an empty line and the foot line with this page number and `NombrePages`.
-void ImprimePiedDePage(int numeroPage);
+void ImprimeRapportLignes(Tirage& tirage, const std::string& nom, const std::string& titre,
+                          std::span<const LigneRapport> lignes);
 
 /// A date as "dd mmmm yyyy", the month in the working language. @param mois 1..12
 std::string DateLongue(int jour, int mois, int annee);
 
-/// `nombre` blanks.
-inline std::string Espaces(int nombre) {
-    return std::string(static_cast<std::size_t>(nombre > 0 ? nombre : 0), ' ');
-}
-
-/// `largeur` characters from the right of a field of blanks that ends in `texte`: what is longer loses its head.
-std::string CadreADroite(const std::string& texte, int largeur);
-
-/// Characters of a text, which may take several bytes each.
-int NombreCaracteres(const std::string& texte);
-
-/// The first `caracteres` characters of a text.
-std::string DebutTexte(const std::string& texte, int caracteres);
+/// The date of the day, in that form.
+std::string DateDuJour();

@@ -1,81 +1,117 @@
 #include "reports/TableRapport.h"
 
-#include "core/Etude.h"
-#include "data/Textes.h"
-
 #include <algorithm>
 #include <vector>
 
 namespace {
 
-/// Blanks that keep a column apart from the one before it.
-int Blancs(std::size_t colonne) {
-    return colonne == 0 ? 0 : 1;
+/// The lines of a text.
+std::vector<std::string> Lignes(const std::string& texte) {
+    std::vector<std::string> lignes;
+    std::size_t debut = 0;
+    for (std::size_t fin; (fin = texte.find('\n', debut)) != std::string::npos; debut = fin + 1)
+        lignes.push_back(texte.substr(debut, fin - debut));
+    lignes.push_back(texte.substr(debut));
+    return lignes;
 }
 
-/// A column's own width, or that of its longest value behind so many blanks; only its extremes can be the longest.
-int LargeurColonne(const ColonneRapport& colonne, int blancs) {
-    if (colonne.valeur == nullptr) return colonne.largeur;
-    double mini = 0, maxi = 0;
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
-        mini = std::min(mini, colonne.valeur(i));
-        maxi = std::max(maxi, colonne.valeur(i));
+/// A table on paper: the widths of its columns and the lines of its heading.
+class TablePapier {
+public:
+    TablePapier(const TableTexte& table, int marge) : table_(table), marge_(marge) {
+        for (std::size_t c = 0; c < table.colonnes.size(); ++c) largeurs_.push_back(Largeur(c));
+        ComposeEnTete();
     }
-    const auto largeur = [&](double valeur) { return NombreCaracteres(Format(valeur, colonne.masque)) + blancs; };
-    return std::max({colonne.largeur, largeur(mini), largeur(maxi)});
-}
 
-std::vector<int> LargeursColonnes(std::span<const ColonneRapport> colonnes) {
-    std::vector<int> largeurs;
-    for (const ColonneRapport& colonne : colonnes) largeurs.push_back(LargeurColonne(colonne, Blancs(largeurs.size())));
-    return largeurs;
-}
+    const std::vector<std::string>& EnTete() const { return enTete_; }
 
-void ImprimeLigneTable(std::span<const ColonneRapport> colonnes, const std::vector<int>& largeurs, long point) {
-    std::string ligne;
-    for (std::size_t c = 0; c < colonnes.size(); ++c) {
-        const ColonneRapport& colonne = colonnes[c];
-        if (colonne.valeur != nullptr)
-            ligne += CadreADroite(Format(colonne.valeur(point), colonne.masque), largeurs[c]);
+    std::string Rangee(int ligne) const {
+        std::string rangee = Espaces(marge_);
+        for (std::size_t c = 0; c < largeurs_.size(); ++c) {
+            const ColonneTexte& colonne = table_.colonnes[c];
+            if (colonne.cellule) rangee += Cadre(c, colonne.cellule(ligne));
+        }
+        return rangee;
     }
-    ImprimeLigneCames(ligne);
+
+private:
+    /// Blanks that keep a column apart from the one before it.
+    static int Blancs(std::size_t c) { return c == 0 ? 0 : 1; }
+
+    /// The width that a column asks for, or that of its longest cell with its blank; a column without one of its own
+    /// has room for its heading too.
+    int Largeur(std::size_t c) const {
+        const ColonneTexte& colonne = table_.colonnes[c];
+        int longueur = 0;
+        const auto mesure = [&](const std::string& texte) { longueur = std::max(longueur, NombreCaracteres(texte)); };
+        if (colonne.largeur == 0)
+            for (const std::string& ligne : Lignes(table_.EnTete(static_cast<int>(c)))) mesure(ligne);
+        for (int ligne = 0; colonne.cellule && ligne < table_.lignes; ++ligne) mesure(colonne.cellule(ligne));
+        return std::max(colonne.largeur, longueur + Blancs(c));
+    }
+
+    std::string Cadre(std::size_t c, const std::string& texte) const {
+        return table_.colonnes[c].cote == Cote::Gauche
+                   ? Espaces(Blancs(c)) + CadreAGauche(texte, largeurs_[c] - Blancs(c))
+                   : CadreADroite(texte, largeurs_[c]);
+    }
+
+    /// Adds a line of the heading to which each column gives a text, cut to its width.
+    template <typename Morceau> void AjouteEnTete(Morceau morceau) {
+        std::string ligne = Espaces(marge_);
+        for (std::size_t c = 0; c < largeurs_.size(); ++c)
+            ligne += Cadre(c, DebutTexte(morceau(table_.colonnes[c]), largeurs_[c] - Blancs(c)));
+        enTete_.push_back(ligne);
+    }
+
+    void ComposeEnTete() {
+        std::size_t titres = 1;
+        bool unites = false;
+        for (const ColonneTexte& colonne : table_.colonnes) {
+            titres = std::max(titres, Lignes(colonne.titre).size());
+            unites = unites || !colonne.unite.empty();
+        }
+        for (std::size_t rang = 0; rang < titres; ++rang)
+            AjouteEnTete([rang](const ColonneTexte& colonne) {
+                const std::vector<std::string> lignes = Lignes(colonne.titre);
+                return rang < lignes.size() ? lignes[rang] : std::string();
+            });
+        if (unites) AjouteEnTete([](const ColonneTexte& colonne) { return colonne.unite; });
+    }
+
+    const TableTexte& table_;
+    int marge_;
+    std::vector<int> largeurs_;
+    std::vector<std::string> enTete_;
+};
+
+void ImprimeEnTete(Tirage& tirage, const TablePapier& papier) {
+    for (const std::string& ligne : papier.EnTete()) tirage.Ligne(ligne, true);
+    tirage.Ligne();
+}
+
+void ImprimePapier(Tirage& tirage, const TablePapier& papier, int lignes) {
+    tirage.RepeteEnTete([&] { ImprimeEnTete(tirage, papier); });
+    ImprimeEnTete(tirage, papier);
+    for (int ligne = 0; ligne < lignes; ++ligne) tirage.Ligne(papier.Rangee(ligne));
+    tirage.RepeteEnTete(nullptr);
 }
 
 } // namespace
 
-void ImprimeEnTete(std::span<const ColonneRapport> colonnes) {
-    const std::vector<int> largeurs = LargeursColonnes(colonnes);
-    std::string titres, unites;
-    for (std::size_t c = 0; c < colonnes.size(); ++c) {
-        const int place = largeurs[c] - Blancs(c);
-        titres += CadreADroite(DebutTexte(Texte(colonnes[c].titre), place), largeurs[c]);
-        unites += CadreADroite(colonnes[c].unite, largeurs[c]);
-    }
-    ImprimeLigneCames(titres, true);
-    ImprimeLigneCames(unites, true);
-    ImprimeLigneCames({});
+void ImprimeTable(Tirage& tirage, const TableTexte& table, int marge) {
+    ImprimePapier(tirage, TablePapier(table, marge), table.lignes);
 }
 
-void ImprimeTable(std::span<const ColonneRapport> colonnes, EnTete enTete, const std::string& nom,
-                  const std::string& titre, std::int16_t pages) {
-    impression.TypeEnTete = enTete;
-    impression.NumeroLigne = 0;
-    impression.NumeroPage = 0;
-    DebutPage(nom, titre);
-    ImprimeLigneCames({});
-    ImprimeLigneCames({});
-    impression.NombrePages = pages;
-    ImprimeEnTete(colonnes);
-    const std::vector<int> largeurs = LargeursColonnes(colonnes);
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) ImprimeLigneTable(colonnes, largeurs, i);
-    impression.TypeEnTete = SansEnTete;
-    ImprimePiedDePage(Entier16(impression.NumeroPage + 1));
-    ImprimanteEnCours().NouvellePage();
-}
-
-std::int16_t NombrePagesTable() {
-    // Page heading, two empty lines and column heading; a page that is turned begins with its column heading.
-    constexpr int premiere = LignesPage + 1 - 4 - 2 - 3, autres = LignesPage + 1 - 3;
-    const int lignes = etude.resultats.NombrePoints + 1;
-    return static_cast<std::int16_t>(lignes < premiere ? 1 : 2 + (lignes - premiere) / autres);
+void ImprimeRapportTable(Tirage& tirage, const std::string& nom, const std::string& titre, const TableTexte& table,
+                         std::optional<int> pages) {
+    const TablePapier papier(table, 0);
+    tirage.DebutRapport();
+    tirage.Titre(nom, titre);
+    tirage.Ligne();
+    tirage.Ligne();
+    const int tete = static_cast<int>(papier.EnTete().size()) + 1;
+    tirage.AnnoncePages(pages ? *pages : tirage.PagesJusqua(tete + table.lignes, tete));
+    ImprimePapier(tirage, papier, table.lignes);
+    tirage.FinRapport(true);
 }

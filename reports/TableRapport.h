@@ -1,29 +1,20 @@
-// Printed tables. They are laid out by counting characters: a unit stands below the right end of its column. A value
-// too long for its column widens it, heading and all, so that no digit and no sign is ever cut.
+// Printed tables. They are laid out by counting characters: a unit stands below the heading of its column. A cell too
+// long for its column widens it, heading and all, so that no digit and no sign is ever cut.
 #pragma once
 
+#include "core/TableTexte.h"
 #include "reports/CadrePages.h"
 
-#include <span>
+#include <optional>
 #include <string>
 
-struct ColonneRapport {
-    int titre;                    ///< text number
-    const char* unite;            ///< as it stands on the page
-    double (*valeur)(long point); ///< none for a column that has only its heading
-    const char* masque;
-    int largeur; ///< characters, the blank before the value included
-};
+/// Prints a table from the present line on: its heading, bold and followed by an empty line, which every page that
+/// turns repeats, then its rows.
+/// @param marge blanks before its first column
+void ImprimeTable(Tirage& tirage, const TableTexte& table, int marge = 0);
 
-/// Prints the two lines of a table's column heading and an empty one.
-void ImprimeEnTete(std::span<const ColonneRapport> colonnes);
-
-/// Prints a whole report that is a table of the points 0..`NombrePoints`: page heading, column heading repeated after
-/// each page turn as `enTete`, rows, page numbers.
-/// @param nom name of the study in the page heading
-/// @param pages page total of the foot lines
-void ImprimeTable(std::span<const ColonneRapport> colonnes, EnTete enTete, const std::string& nom,
-                  const std::string& titre, std::int16_t pages);
-
-/// Pages of such a report.
-std::int16_t NombrePagesTable();
+/// Prints a whole report that is one table: report heading, table, page numbers.
+/// @param nom of the study in the report heading
+/// @param pages page total of the foot lines; none: counted
+void ImprimeRapportTable(Tirage& tirage, const std::string& nom, const std::string& titre, const TableTexte& table,
+                         std::optional<int> pages = std::nullopt);

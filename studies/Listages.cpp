@@ -1,7 +1,10 @@
 #include "studies/Listages.h"
 
 #include "cams/Pente.h"
-#include "core/Etude.h"
+#include "core/ValeurPoint.h"
+#include "data/Textes.h"
+
+#include <span>
 
 namespace {
 
@@ -9,15 +12,13 @@ constexpr const char* M3 = "###.###";
 constexpr const char* M3Court = "##.###";
 constexpr const char* M2 = "###.##";
 
-template <double Point::*membre> double DuPoint(long i) {
-    return etude.resultats.Points[i].*membre;
-}
-template <double PointLoi::*membre> double DuMouvement(long i) {
-    return etude.resultats.Mouvement[i].*membre;
-}
-template <double PointProfil::*membre> double DuProfil(long i) {
-    return etude.resultats.Profil[i].*membre;
-}
+struct Colonne {
+    int texte; ///< text number of the heading
+    int unite; ///< text number of the unit
+    double (*valeur)(long point);
+    const char* masque;
+    int texteDeveloppee = 0; ///< the heading on a developed cam, where it is another
+};
 
 /// Pressure angle in degrees: 0 where the follower rests.
 double AnglePression(long i) {
@@ -65,30 +66,30 @@ const Colonne came[] = {
     {258, 18, DuProfil<&PointProfil::YExterieur>, M3},
 };
 
+TableTexte FaitTable(std::span<const Colonne> colonnes) {
+    TableTexte table;
+    if (!etude.resultats.Points.Vide()) table.lignes = etude.resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
+    for (const Colonne& c : colonnes) {
+        const int titre = c.texteDeveloppee != 0 && etude.resultats.Developpee ? c.texteDeveloppee : c.texte;
+        table.colonnes.push_back(ColonneNombres(
+            Texte(titre), Texte(c.unite),
+            [&c](int ligne) { return c.valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre); }, c.masque));
+    }
+    return table;
+}
+
 } // namespace
 
-std::span<const Colonne> ColonnesGalet() {
-    return galet;
+TableTexte TableGalet() {
+    return FaitTable(galet);
 }
-std::span<const Colonne> ColonnesBras(bool pointA) {
+TableTexte TableBras(bool pointA) {
     constexpr std::size_t mouvement = 4; // the cam angle and the motion of the arm
-    return std::span<const Colonne>(bras).first(pointA ? std::size(bras) : mouvement);
+    return FaitTable(std::span<const Colonne>(bras).first(pointA ? std::size(bras) : mouvement));
 }
-std::span<const Colonne> ColonnesEfforts() {
-    return efforts;
+TableTexte TableEfforts() {
+    return FaitTable(efforts);
 }
-std::span<const Colonne> ColonnesCame() {
-    return came;
-}
-
-int TexteColonne(const Colonne& colonne) {
-    return colonne.texteDeveloppee != 0 && etude.resultats.Developpee ? colonne.texteDeveloppee : colonne.texte;
-}
-
-int LignesListage() {
-    return etude.resultats.Points.Vide() ? 0 : etude.resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
-}
-
-std::string CelluleListage(const Colonne& colonne, int ligne) {
-    return Format(colonne.valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre), colonne.masque);
+TableTexte TableCame() {
+    return FaitTable(came);
 }

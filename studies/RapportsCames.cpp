@@ -1,7 +1,5 @@
 #include "studies/RapportsCames.h"
 
-#include "core/Etude.h"
-#include "reports/CadrePages.h"
 #include "studies/TypesEtude.h"
 
 namespace {
@@ -26,6 +24,9 @@ Procedure GraphiqueGalet(const TypeEtude& type) {
 Procedure GraphiqueBras(const TypeEtude& type) {
     return type.Bras() ? ImprimeGraphiqueBras : nullptr;
 }
+Procedure PointsMouvement(const TypeEtude& type) {
+    return type.rapports.pointsMouvement == nullptr ? nullptr : ImprimePointsMouvement;
+}
 
 /// The print run, in its order.
 constexpr Rapport rapports[] = {
@@ -35,19 +36,44 @@ constexpr Rapport rapports[] = {
     {MarqueImpression::GraphiqueMouvement, GraphiqueGalet},
     {MarqueImpression::GraphiqueMouvement, GraphiqueBras},
     {MarqueImpression::GraphiqueForces, Toujours<ImprimeGraphiqueForces>},
-    {MarqueImpression::PointsMouvement, DuType<&RapportsEtude::mouvement>},
+    {MarqueImpression::PointsMouvement, PointsMouvement},
     {MarqueImpression::PointsForces, Toujours<ImprimePointsForces>},
+};
+
+Tirage* enCours = nullptr;
+
+/// A run is under way for the life of this object.
+class TirageEnCours {
+public:
+    explicit TirageEnCours(Tirage& tirage) { enCours = &tirage; }
+    ~TirageEnCours() { enCours = nullptr; }
+    TirageEnCours(const TirageEnCours&) = delete;
+    TirageEnCours& operator=(const TirageEnCours&) = delete;
 };
 
 } // namespace
 
+Tirage& TirageCames() {
+    if (enCours == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+    return *enCours;
+}
+
+void DebutPageCames(const std::string& titre) {
+    TirageCames().DebutRapport();
+    TirageCames().Titre(etude.donnees.NomFichier, titre);
+}
+
+void ImprimeRapportLignes(const std::string& titre, std::span<const LigneRapport> lignes) {
+    ImprimeRapportLignes(TirageCames(), etude.donnees.NomFichier, titre, lignes);
+}
+
 void ImprimeRapportsCames(Imprimante& imprimante, const MarquesImpression& marques) {
-    const TirageCames tirage(imprimante, {nullptr, EnTeteMouvement, EnTeteForces});
+    Tirage tirage(imprimante);
+    const TirageEnCours marque(tirage);
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     for (const Rapport& rapport : rapports) {
-        impression.NumeroLigne = 0;
         const Procedure imprime = type == nullptr ? nullptr : rapport.procedure(*type);
         if (imprime != nullptr && marques.at(static_cast<std::size_t>(rapport.marque))) imprime();
     }
-    imprimante.FinDocument();
+    tirage.FinDocument();
 }

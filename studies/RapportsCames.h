@@ -2,9 +2,13 @@
 // ends its own last page.
 #pragma once
 
+#include "core/TableTexte.h"
 #include "platform/Imprimante.h"
+#include "reports/CadrePages.h"
 
 #include <array>
+#include <span>
+#include <string>
 
 /// The check marks of the print menu, in its order, which is also that of the configuration file.
 enum class MarqueImpression {
@@ -35,6 +39,24 @@ enum TitreRapport {
     TitrePointsForces = 465
 };
 
+/// What the reports print on during such a run.
+/// @throws ErreurExecution incorrect call outside a run.
+Tirage& TirageCames();
+inline Imprimante& ImprimanteEnCours() {
+    return TirageCames().Appareil();
+}
+
+/// Prints one line, and turns the page behind its last one.
+inline void ImprimeLigneCames(const std::string& texte, bool gras = false) {
+    TirageCames().Ligne(texte, gras);
+}
+
+/// Begins a report that has pages of its own: its heading bears the name of the study.
+void DebutPageCames(const std::string& titre);
+
+/// Prints a whole report of lines under the name of the study.
+void ImprimeRapportLignes(const std::string& titre, std::span<const LigneRapport> lignes);
+
 void ImprimeDonneesAngulaire();
 void ImprimeDonneesLineaire();
 void ImprimeDonneesCylindrique();
@@ -56,6 +78,8 @@ void ImprimeGraphiqueForces();   ///< roller force and cam torque
 void ImprimePointsMouvement();
 void ImprimePointsForces();
 
-/// Column headings of the two tables, printed again after each page turn.
-void EnTeteMouvement();
-void EnTeteForces();
+/// What the tables of motion hold, a row for each of the points 0..`NombrePoints`.
+TableTexte PointsMouvementAngulaire();
+TableTexte PointsMouvementLineaire();
+TableTexte PointsMouvementCylindrique();
+TableTexte PointsMouvementOscillation();

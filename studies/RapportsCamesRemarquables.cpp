@@ -25,12 +25,11 @@ std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
 } // namespace
 
 void ImprimePointsRemarquables() {
-    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    const TypeEtude& type = LeTypeEtude();
     std::vector<LigneRapport> lignes;
     int groupe = 0;
     for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {
-        const int texte = ligne.texte(*type);
+        const int texte = ligne.texte(type);
         if (texte == 0) continue;
         if (ligne.groupe != groupe) {
             if (groupe != 0) lignes.push_back({});

@@ -1,29 +1,24 @@
 // The point-to-point tables. Their units are the same in every language.
-#include "core/Etude.h"
+#include "core/ValeurPoint.h"
 #include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
 #include "reports/TableRapport.h"
 #include "studies/RapportsCames.h"
+#include "studies/TypesEtude.h"
 
-#include <algorithm>
 #include <span>
-#include <string_view>
 
 namespace {
 
 constexpr const char* MasqueMouvement = "###.00";
 
-struct TableRapport {
-    std::string_view type; ///< `TypeCame`
-    std::span<const ColonneRapport> colonnes;
+struct ColonneRapport {
+    int titre;                    ///< text number
+    const char* unite;            ///< as it stands on the page
+    double (*valeur)(long point); ///< none for a column that has only its heading
+    const char* masque;
+    int largeur; ///< characters, the blank before the value included
 };
-
-template <double Point::*membre> double DuPoint(long i) {
-    return etude.resultats.Points[i].*membre;
-}
-template <double PointLoi::*membre> double DuMouvement(long i) {
-    return etude.resultats.Mouvement[i].*membre;
-}
 
 constexpr int Angle = 706, Rayon = 247, Vitesse = 790, Accel = 707, Bras = 217, Force = 251, Couple = 252;
 
@@ -65,40 +60,38 @@ constexpr ColonneRapport colonnesForces[] = {
     {Couple, "Nm", DuPoint<&Point::Couple>, "####.00", 11},
 };
 
-constexpr TableRapport tablesMouvement[] = {
-    {"Angulaire", colonnesAngulaire},
-    {"Lineaire", colonnesLineaire},
-    {"Cylindrique", colonnesCylindrique},
-    {"Oscillation", colonnesOscillation},
-};
-
-const TableRapport& TableMouvement() {
-    const auto table = std::find_if(std::begin(tablesMouvement), std::end(tablesMouvement),
-                                    [](const TableRapport& t) { return t.type == etude.donnees.TypeCame; });
-    if (table == std::end(tablesMouvement)) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
-    return *table;
+TableTexte TablePoints(std::span<const ColonneRapport> colonnes) {
+    TableTexte table{{}, etude.resultats.NombrePoints + 1};
+    for (const ColonneRapport& c : colonnes)
+        table.colonnes.push_back(ColonneNombres(Texte(c.titre), c.unite, c.valeur, c.masque, c.largeur));
+    return table;
 }
 
-/// Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
-std::int16_t PagesAnnoncees() {
-    return Entier16(Int((etude.resultats.NombrePoints + 8) / 61.0));
+void ImprimePoints(const TableTexte& table, int titre) {
+    // Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
+    const double pages = Int((etude.resultats.NombrePoints + 8) / 61.0);
+    ImprimeRapportTable(TirageCames(), etude.donnees.NomFichier, Texte(titre), table, static_cast<int>(pages));
 }
 
 } // namespace
 
-void EnTeteMouvement() {
-    ImprimeEnTete(TableMouvement().colonnes);
+TableTexte PointsMouvementAngulaire() {
+    return TablePoints(colonnesAngulaire);
 }
-
-void EnTeteForces() {
-    ImprimeEnTete(colonnesForces);
+TableTexte PointsMouvementLineaire() {
+    return TablePoints(colonnesLineaire);
+}
+TableTexte PointsMouvementCylindrique() {
+    return TablePoints(colonnesCylindrique);
+}
+TableTexte PointsMouvementOscillation() {
+    return TablePoints(colonnesOscillation);
 }
 
 void ImprimePointsMouvement() {
-    ImprimeTable(TableMouvement().colonnes, EnTeteDuMouvement, etude.donnees.NomFichier, Texte(TitrePointsMouvement),
-                 PagesAnnoncees());
+    ImprimePoints(LeTypeEtude().rapports.pointsMouvement(), TitrePointsMouvement);
 }
 
 void ImprimePointsForces() {
-    ImprimeTable(colonnesForces, EnTeteDesForces, etude.donnees.NomFichier, Texte(TitrePointsForces), PagesAnnoncees());
+    ImprimePoints(TablePoints(colonnesForces), TitrePointsForces);
 }

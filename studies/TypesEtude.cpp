@@ -37,10 +37,12 @@ constexpr ChampEtude champsConjuguees[] = {
 constexpr DescriptionZones zonesConjuguees{
     &Zone::AngleDepart, &Zone::AngleFinal, 478, 479, 177, UniteDegres, false, false};
 
-constexpr RapportsEtude rapportsAngulaire{ImprimeDonneesAngulaire, ImprimeProfilPlat, ImprimePointsMouvement};
-constexpr RapportsEtude rapportsLineaire{ImprimeDonneesLineaire, ImprimeProfilPlat, ImprimePointsMouvement};
-constexpr RapportsEtude rapportsCylindrique{ImprimeDonneesCylindrique, ImprimeProfilCylindre, ImprimePointsMouvement};
-constexpr RapportsEtude rapportsOscillation{ImprimeDonneesOscillation, ImprimeProfilCylindre, ImprimePointsMouvement};
+constexpr RapportsEtude rapportsAngulaire{ImprimeDonneesAngulaire, ImprimeProfilPlat, PointsMouvementAngulaire};
+constexpr RapportsEtude rapportsLineaire{ImprimeDonneesLineaire, ImprimeProfilPlat, PointsMouvementLineaire};
+constexpr RapportsEtude rapportsCylindrique{ImprimeDonneesCylindrique, ImprimeProfilCylindre,
+                                            PointsMouvementCylindrique};
+constexpr RapportsEtude rapportsOscillation{ImprimeDonneesOscillation, ImprimeProfilCylindre,
+                                            PointsMouvementOscillation};
 
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", ChampsAngulaire, GroupesAngulaire, M2Large, &ZonesAngulaire, M2, M2, false,
@@ -80,6 +82,12 @@ const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier) {
     return type == std::end(types) ? nullptr : type;
 }
 
+const TypeEtude& LeTypeEtude() {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    return *type;
+}
+
 FiltreFichier FiltreEtude(const TypeEtude& type) {
     const std::string motif = std::string("*.") + type.extension;
     return {Texte(type.titre) + " (" + (type.motifDialogue == nullptr ? motif : type.motifDialogue) + ")", motif};
@@ -101,8 +109,7 @@ double AngleExtreme(std::int16_t place) {
 }
 
 void CalculeEtude() {
-    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type == nullptr || !type->Disponible())
-        throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
-    type->calcule();
+    const TypeEtude& type = LeTypeEtude();
+    if (!type.Disponible()) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
+    type.calcule();
 }

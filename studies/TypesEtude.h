@@ -5,6 +5,7 @@
 #include "cams/DescriptionZones.h"
 #include "cams/GroupesDonnees.h"
 #include "core/Etude.h"
+#include "core/TableTexte.h"
 #include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 
@@ -16,7 +17,7 @@
 struct RapportsEtude {
     void (*donnees)() = nullptr;
     void (*profil)() = nullptr;
-    void (*mouvement)() = nullptr; ///< the table of the motion
+    TableTexte (*pointsMouvement)() = nullptr; ///< its motion point by point, as it is printed
 };
 
 struct TypeEtude {
@@ -50,6 +51,10 @@ std::span<const TypeEtude> LesTypesEtude();
 /// The row of a `TypeCame`, or of a file name by its extension in any case; none for an unknown one.
 const TypeEtude* TrouveType(std::string_view nom);
 const TypeEtude* TrouveTypeFichier(const std::filesystem::path& fichier);
+
+/// The row of the present study.
+/// @throws ErreurExecution incorrect call when its `TypeCame` is none of the table.
+const TypeEtude& LeTypeEtude();
 
 /// The filter of a file dialogue for the study files of one kind: its name " (*.ang)" and "*.Ang".
 FiltreFichier FiltreEtude(const TypeEtude& type);

@@ -19,41 +19,38 @@ class ModeleGrille : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void Remplit(Grille::Contenu contenu) {
+    void Remplit(TableTexte table) {
         beginResetModel();
-        contenu_ = std::move(contenu);
+        table_ = std::move(table);
         endResetModel();
     }
 
-    const Grille::Contenu& Contenu() const { return contenu_; }
-    bool EstTexte(int colonne) const {
-        return static_cast<std::size_t>(colonne) < contenu_.texte.size() &&
-               contenu_.texte[static_cast<std::size_t>(colonne)];
-    }
+    const TableTexte& Table() const { return table_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : contenu_.lignes; }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : table_.lignes; }
     int columnCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(contenu_.entetes.size());
+        return parent.isValid() ? 0 : static_cast<int>(table_.colonnes.size());
     }
 
     QVariant data(const QModelIndex& index, int role) const override {
         if (!index.isValid()) return {};
         if (role == Qt::DisplayRole) return Q(Cellule(index.row(), index.column()));
-        if (role == Qt::TextAlignmentRole)
-            return QVariant((EstTexte(index.column()) ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        if (role == Qt::TextAlignmentRole) {
+            const bool gauche = table_.colonnes[static_cast<std::size_t>(index.column())].cote == Cote::Gauche;
+            return QVariant((gauche ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        }
         return {};
     }
 
     QVariant headerData(int section, Qt::Orientation sens, int role) const override {
         if (sens != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
-        if (role == Qt::DisplayRole) return Q(contenu_.entetes[static_cast<std::size_t>(section)]);
+        if (role == Qt::DisplayRole) return Q(table_.EnTete(section));
         return {};
     }
 
     std::string Cellule(int ligne, int colonne) const {
-        if (ligne < 0 || ligne >= rowCount() || colonne < 0 || colonne >= columnCount()) return {};
         try {
-            return contenu_.cellule(ligne, colonne);
+            return table_.Cellule(ligne, colonne);
         } catch (const ErreurExecution&) {
             // The tables behind were made anew, smaller; their owner fills this grid again right after.
             return {};
@@ -61,7 +58,7 @@ public:
     }
 
 private:
-    Grille::Contenu contenu_;
+    TableTexte table_;
 };
 
 namespace {
@@ -89,8 +86,8 @@ Grille::Grille(QWidget* parent) : QTableView(parent), modele_(new ModeleGrille(t
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 3);
 }
 
-void Grille::Remplit(Contenu contenu) {
-    modele_->Remplit(std::move(contenu));
+void Grille::Remplit(TableTexte table) {
+    modele_->Remplit(std::move(table));
     MesureColonnes();
     PlaceColonnes();
 }
@@ -115,7 +112,7 @@ void Grille::MesureColonnes() {
     largeurs_.assign(static_cast<std::size_t>(modele_->columnCount()), 0);
     for (int colonne = 0; colonne < modele_->columnCount(); ++colonne) {
         int largeur = 0;
-        for (const QString& morceau : Q(modele_->Contenu().entetes[static_cast<std::size_t>(colonne)]).split('\n'))
+        for (const QString& morceau : Q(modele_->Table().EnTete(colonne)).split('\n'))
             largeur = std::max(largeur, entetes.horizontalAdvance(morceau));
         for (int ligne = 0; ligne < lignes; ligne += pas)
             largeur = std::max(largeur, cellules.horizontalAdvance(Q(Cellule(ligne, colonne))));
@@ -135,16 +132,11 @@ void Grille::PlaceColonnes() {
 }
 
 QString Grille::TexteSelection() const {
+    std::string texte;
     const QItemSelection selection = selectionModel()->selection();
-    QStringList lignes;
     for (const QItemSelectionRange& plage : selection)
-        for (int ligne = plage.top(); ligne <= plage.bottom(); ++ligne) {
-            QStringList cellules;
-            for (int colonne = plage.left(); colonne <= plage.right(); ++colonne)
-                cellules << Q(Cellule(ligne, colonne));
-            lignes << cellules.join('\t');
-        }
-    return lignes.isEmpty() ? QString() : lignes.join('\n') + '\n';
+        AjouteCellules(texte, modele_->Table(), {plage.top(), plage.height(), plage.left(), plage.width()}, '\t', "\n");
+    return Q(texte);
 }
 
 void Grille::keyPressEvent(QKeyEvent* evenement) {

@@ -1,10 +1,10 @@
 // A read-only table of any length. The cells are asked for as they come into view, so that it opens at once.
 #pragma once
 
+#include "core/TableTexte.h"
+
 #include <QTableView>
 
-#include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,16 +14,9 @@ class Grille : public QTableView {
     Q_OBJECT
 
 public:
-    struct Contenu {
-        std::vector<std::string> entetes; ///< one per column, may hold line breaks
-        int lignes = 0;
-        std::function<std::string(int ligne, int colonne)> cellule; ///< both from 0
-        std::vector<bool> texte; ///< true for a left-aligned column of text; may be empty: all are numbers
-    };
-
     explicit Grille(QWidget* parent = nullptr);
 
-    void Remplit(Contenu contenu);
+    void Remplit(TableTexte table);
 
     /// Text of a cell, subscripts from 0; empty outside the table.
     std::string Cellule(int ligne, int colonne) const;

@@ -180,11 +180,7 @@ void PanneauZones::MontreBoutons() {
 }
 
 void PanneauZones::RemplitGrille() {
-    grille_->Remplit({EntetesZones(description_), etude.donnees.NombreZones,
-                      [&zones = description_, entrees = zonesEntrees_](int ligne, int colonne) {
-                          return CelluleZone(zones, ligne, colonne, entrees);
-                      },
-                      ColonnesTexteZones(description_)});
+    grille_->Remplit(TableZones(description_, zonesEntrees_));
     double somme = 0;
     for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.donnees.Zones[z].AngleCame;
     somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));

@@ -5,6 +5,7 @@
 #include "laws/ChoixLois.h"
 #include "laws/DessinLoi.h"
 #include "laws/EnregistreLoi.h"
+#include "laws/TablePoints.h"
 #include "platform/Dialogues.h"
 #include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
@@ -26,6 +27,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -36,19 +38,6 @@ constexpr Legende legendes[] = {
 
 constexpr QSize TailleCourbes(640, 600);
 constexpr long PasApercu = 360;
-
-struct ColonneLoi {
-    int texte;
-    Grandeur grandeur;
-    double (*valeur)(long point);
-    const char* masque;
-};
-constexpr ColonneLoi colonnes[] = {
-    {339, Grandeur::AngleEntree, [](long i) { return etude.resultats.Points[i].Angle; }, "0.00"},
-    {250, Grandeur::Sortie, [](long i) { return etude.resultats.Mouvement[i].Course; }, "0.000"},
-    {225, Grandeur::Vitesse, [](long i) { return etude.resultats.Mouvement[i].Vitesse; }, "0.00000"},
-    {226, Grandeur::Accel, [](long i) { return etude.resultats.Mouvement[i].Accel; }, "0.00000"},
-};
 
 QString NomUnite(Grandeur grandeur) {
     const int unite = UniteLoi(grandeur);
@@ -277,15 +266,9 @@ void EcranLoi::MontreResultats() {
 }
 
 void EcranLoi::RemplitGrille() {
-    Grille::Contenu contenu;
-    for (const ColonneLoi& colonne : colonnes)
-        contenu.entetes.push_back(Texte(colonne.texte) + "\n" + Texte(UniteLoi(colonne.grandeur)));
-    contenu.lignes = Calculee() ? etude.resultats.NombrePoints + 1 : 0;
-    contenu.cellule = [](int ligne, int colonne) {
-        const ColonneLoi& c = colonnes[colonne];
-        return Format(c.valeur(ligne), c.masque);
-    };
-    grille_->Remplit(std::move(contenu));
+    TableTexte table = TablePointsLoi();
+    if (!Calculee()) table.lignes = 0;
+    grille_->Remplit(std::move(table));
 }
 
 void EcranLoi::Enregistrer() {

@@ -76,17 +76,6 @@ bool EstRecalculable(std::string_view nom) {
     return TrouveChamp(champsRecalcul, nom) != nullptr;
 }
 
-void RemplitListage(Grille& grille, std::span<const Colonne> colonnes) {
-    Grille::Contenu contenu;
-    for (const auto& colonne : colonnes)
-        contenu.entetes.push_back(Texte(TexteColonne(colonne)) + "\n" + Texte(colonne.unite));
-    contenu.lignes = LignesListage();
-    contenu.cellule = [colonnes](int ligne, int colonne) {
-        return CelluleListage(colonnes[static_cast<std::size_t>(colonne)], ligne);
-    };
-    grille.Remplit(std::move(contenu));
-}
-
 } // namespace
 
 Resultat::Resultat(QWidget* parent) : QWidget(parent) {
@@ -240,15 +229,11 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
 }
 
 void Resultat::RemplitGrilles(const TypeEtude& type) {
-    zones_->Remplit({EntetesZones(*type.zones), etude.donnees.NombreZones,
-                     [&zones = *type.zones](int ligne, int colonne) {
-                         return CelluleZone(zones, ligne, colonne, etude.donnees.NombreZones);
-                     },
-                     ColonnesTexteZones(*type.zones)});
-    RemplitListage(*grilleGalet_, ColonnesGalet());
-    RemplitListage(*grilleBras_, ColonnesBras(type.zones->rayonsBras));
-    RemplitListage(*grilleEfforts_, ColonnesEfforts());
-    RemplitListage(*grilleCame_, ColonnesCame());
+    zones_->Remplit(TableZones(*type.zones, etude.donnees.NombreZones));
+    grilleGalet_->Remplit(TableGalet());
+    grilleBras_->Remplit(TableBras(type.zones->rayonsBras));
+    grilleEfforts_->Remplit(TableEfforts());
+    grilleCame_->Remplit(TableCame());
 }
 
 void Resultat::RemplitGraphiques() {

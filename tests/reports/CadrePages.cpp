@@ -5,23 +5,18 @@
 
 namespace {
 
-void EnTeteEssai() {
-    ImprimeLigneCames("ENTETE");
-}
-
 class PagesCames : public AvecCatalogue {
 protected:
     ImprimanteNotee imprimante;
-    TirageCames tirage{imprimante, {nullptr, EnTeteEssai, nullptr}};
+    Tirage tirage{imprimante};
 
-    PagesCames() { etude.donnees.NomFichier = "Essai.Ang"; }
     ~PagesCames() override {
         LangueTravail = "Français";
         ChargeTextes(LaBase);
     }
 
-    static void Imprime(int lignes) {
-        for (int i = 1; i <= lignes; ++i) ImprimeLigneCames("ligne " + std::to_string(i));
+    void Imprime(int lignes) {
+        for (int i = 1; i <= lignes; ++i) tirage.Ligne("ligne " + std::to_string(i));
     }
 };
 
@@ -30,12 +25,12 @@ protected:
 TEST_F(PagesCames, TheSixtyFifthLineTurnsThePage) {
     Imprime(64);
     EXPECT_EQ(imprimante.Page(), 1);
-    EXPECT_EQ(impression.NumeroLigne, 64);
-    impression.NombrePages = 7;
+    EXPECT_EQ(tirage.NumeroLigne(), 64);
+    tirage.AnnoncePages(7);
     Imprime(1);
     EXPECT_EQ(imprimante.Page(), 2);
-    EXPECT_EQ(impression.NumeroLigne, 0);
-    EXPECT_EQ(impression.NumeroPage, 1);
+    EXPECT_EQ(tirage.NumeroLigne(), 0);
+    EXPECT_EQ(tirage.NumeroPage(), 1);
     const auto page = imprimante.pages[0].Textes();
     ASSERT_EQ(page.size(), 67U);
     EXPECT_EQ(page[64], "ligne 1");
@@ -45,26 +40,29 @@ TEST_F(PagesCames, TheSixtyFifthLineTurnsThePage) {
 }
 
 TEST_F(PagesCames, TheColumnHeadingIsRepeatedAndCounted) {
-    impression.TypeEnTete = EnTeteDuMouvement;
+    tirage.RepeteEnTete([this] { tirage.Ligne("ENTETE"); });
     Imprime(65 + 64);
     ASSERT_EQ(imprimante.Page(), 3);
     EXPECT_EQ(imprimante.pages[1].Textes().front(), "ENTETE");
     EXPECT_EQ(imprimante.pages[1].Textes().size(), 67U);
-    EXPECT_EQ(impression.NumeroLigne, 1) << "only the heading of the third page";
-    impression.TypeEnTete = SansEnTete;
+    EXPECT_EQ(tirage.NumeroLigne(), 1) << "only the heading of the third page";
+    tirage.RepeteEnTete(nullptr);
     Imprime(64);
     EXPECT_TRUE(imprimante.pages.back().Vide());
 }
 
 TEST_F(PagesCames, CountersThatOverflowAreAFailure) {
-    impression.NumeroLigne = 64;
-    impression.NumeroPage = 32767;
-    EXPECT_THROW(ImprimeLigneCames("x"), ErreurExecution);
+    EXPECT_THROW(tirage.AnnoncePages(32768), ErreurExecution);
+    FormatPage format;
+    format.lignes = 40000;
+    Tirage longue(imprimante, format);
+    for (int i = 1; i <= 32767; ++i) longue.Ligne();
+    EXPECT_THROW(longue.Ligne("x"), ErreurExecution);
 }
 
 TEST_F(PagesCames, HeadingHasNameDateAndTitle) {
-    DebutPageCames("Titre");
-    EXPECT_EQ(impression.NumeroLigne, 4);
+    tirage.Titre("Essai.Ang", "Titre");
+    EXPECT_EQ(tirage.NumeroLigne(), 4);
     const auto& lignes = imprimante.pages[0].lignes;
     ASSERT_EQ(lignes.size(), 5U);
     const auto& morceaux = lignes[1].morceaux;
@@ -77,7 +75,8 @@ TEST_F(PagesCames, HeadingHasNameDateAndTitle) {
     EXPECT_FALSE(morceaux.back().gras);
     EXPECT_EQ(lignes[3].Texte(), "Titre" + std::string(20, ' '));
     EXPECT_TRUE(lignes[3].morceaux[0].gras);
-    ImprimeLigneCames("suite");
+    EXPECT_FALSE(lignes[3].morceaux[0].souligne);
+    tirage.Ligne("suite");
     EXPECT_EQ(lignes[4].morceaux[0].taille, 11);
     EXPECT_FALSE(lignes[4].morceaux[0].gras);
     EXPECT_EQ(imprimante.police, "Courier New");
@@ -97,8 +96,7 @@ TEST_F(PagesCames, MonthsAreInTheWorkingLanguage) {
 TEST_F(PagesCames, ALongNameStaysOnThePage) {
     for (const char* nom : {"Une came de tête au nom long.Ang",
                             "Une came de distribution à l'entraînement d'un transfert, version très définitive.Ang"}) {
-        etude.donnees.NomFichier = nom;
-        DebutPageCames("Titre");
+        tirage.Titre(nom, "Titre");
         const std::string ligne = imprimante.pages[0].lignes[imprimante.pages[0].lignes.size() - 4].Texte();
         imprimante.Taille(12);
         EXPECT_LE(imprimante.LargeurTexte(ligne), imprimante.Largeur()) << ligne;
@@ -107,12 +105,60 @@ TEST_F(PagesCames, ALongNameStaysOnThePage) {
 }
 
 TEST_F(PagesCames, AReportOfLinesNumbersItsPages) {
-    const std::vector<LigneRapport> lignes(130, LigneRapport{"valeur"});
-    ImprimeRapportLignes("Titre", lignes);
-    imprimante.FinDocument();
-    ASSERT_EQ(imprimante.pages.size(), 3U);
-    EXPECT_EQ(imprimante.pages[0].Textes().back(), std::string(40, ' ') + "Page 1 / 3");
-    EXPECT_EQ(imprimante.pages[2].Textes().back(), std::string(40, ' ') + "Page 3 / 3");
+    // The heading takes six lines of the first page.
+    for (const auto& [nombre, pages] : {std::pair{130, 3}, {59, 1}, {60, 2}, {124, 2}, {125, 3}}) {
+        imprimante = ImprimanteNotee();
+        const std::vector<LigneRapport> lignes(static_cast<std::size_t>(nombre), LigneRapport{"valeur"});
+        ImprimeRapportLignes(tirage, "Essai", "Titre", lignes);
+        tirage.FinDocument();
+        ASSERT_EQ(imprimante.pages.size(), static_cast<std::size_t>(pages)) << nombre;
+        const std::string total = " / " + std::to_string(pages);
+        for (int p = 0; p < pages; ++p) {
+            const auto textes = imprimante.pages[static_cast<std::size_t>(p)].Textes();
+            EXPECT_EQ(textes.back(), std::string(40, ' ') + "Page " + std::to_string(p + 1) + total) << nombre;
+        }
+    }
+    imprimante = ImprimanteNotee();
+    ImprimeRapportLignes(tirage, "Essai", "Titre", std::vector<LigneRapport>(58));
+    EXPECT_EQ(imprimante.pages[0].Textes().size(), 64U) << "a report of one page that is not full bears no number";
+}
+
+TEST_F(PagesCames, AnotherFormatHasItsOwnLengthAndHeadsEveryPage) {
+    FormatPage format;
+    format.taille = 7;
+    format.lignes = 20;
+    format.orientation = OrientationPage::Paysage;
+    format.pied = false;
+    format.enTete = [](Tirage& t) {
+        t.Ligne("TITRE " + std::to_string(t.NumeroPage() + 1), true, true);
+        t.Ligne();
+    };
+    Tirage autre(imprimante, format);
+    EXPECT_FALSE(imprimante.portrait);
+    autre.DebutRapport();
+    EXPECT_EQ(autre.PagesJusqua(17), 1);
+    EXPECT_EQ(autre.PagesJusqua(18), 2) << "the second one is begun";
+    EXPECT_EQ(autre.PagesJusqua(18 + 15, 3), 3);
+    for (int i = 1; i <= 18; ++i) autre.Ligne("ligne");
+    EXPECT_EQ(imprimante.Page(), 2);
+    EXPECT_TRUE(imprimante.pages[1].Vide()) << "no page for a heading alone";
+    EXPECT_EQ(imprimante.pages[0].Textes().size(), 20U) << "and no foot";
+    autre.Ligne("suite");
+    const auto& lignes = imprimante.pages[1].lignes;
+    EXPECT_EQ(lignes[0].Texte(), "TITRE 2");
+    EXPECT_TRUE(lignes[0].morceaux[0].souligne && lignes[0].morceaux[0].gras);
+    EXPECT_EQ(lignes[2].Texte(), "suite");
+    EXPECT_FALSE(lignes[2].morceaux[0].souligne || lignes[2].morceaux[0].gras);
+    EXPECT_EQ(lignes[2].morceaux[0].taille, 7);
+    autre.Reserve(17);
+    EXPECT_EQ(imprimante.Page(), 2) << "seventeen lines are left";
+    autre.Reserve(18);
+    autre.EntamePage();
+    EXPECT_EQ(imprimante.pages.back().lignes[0].Texte(), "TITRE 3") << "before what is drawn";
+    EXPECT_EQ(autre.NumeroLigne(), 2);
+    autre.FinRapport(false);
+    autre.FinDocument();
+    EXPECT_EQ(imprimante.pages.size(), 3U);
 }
 
 TEST(Cadrage, CutsOnTheLeftAndCountsCharacters) {
@@ -120,4 +166,6 @@ TEST(Cadrage, CutsOnTheLeftAndCountsCharacters) {
     EXPECT_EQ(CadreADroite("-123.45", 5), "23.45");
     EXPECT_EQ(CadreADroite("é²é²", 2), "é²");
     EXPECT_EQ(DebutTexte("Ángulo", 3), "Áng");
+    EXPECT_EQ(CadreAGauche("Ángulo", 8), "Ángulo  ");
+    EXPECT_EQ(CadreAGauche("Ángulo", 3), "Áng");
 }

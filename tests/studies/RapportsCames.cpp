@@ -278,6 +278,13 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDevelopedAndUnderItsOwnNames) {
         })) << tour;
 
         imprimante = ImprimanteNotee();
+        Imprime({MarqueImpression::PointsMouvement});
+        EXPECT_EQ(imprimante.pages.front().Textes()[7],
+                  bras ? "           mm    m/sec   m/sec²         rad/sec  rad/sec²"
+                       : "           mm    m/sec   m/sec²");
+        EXPECT_EQ(NombreCaracteres(imprimante.pages.front().Textes()[9]), 31) << "no row under the heading of the arm";
+
+        imprimante = ImprimanteNotee();
         Imprime(
             {MarqueImpression::Donnees, MarqueImpression::PointsRemarquables, MarqueImpression::GraphiqueMouvement});
         EXPECT_EQ(imprimante.pages.size(), bras ? 4u : 3u) << "a graph of the arm only where there is one";

@@ -12,14 +12,15 @@
 
 namespace {
 
-Grille::Contenu Nombres(int lignes, int* demandes = nullptr) {
-    return {{"Angle\ndegrés", "Rayon", "Loi"},
-            lignes,
-            [demandes](int ligne, int colonne) {
-                if (demandes) ++*demandes;
-                return std::to_string(ligne) + "." + std::to_string(colonne);
-            },
-            {false, false, true}};
+TableTexte Nombres(int lignes, int* demandes = nullptr) {
+    const auto cellule = [demandes](int colonne) {
+        return [demandes, colonne](int ligne) {
+            if (demandes) ++*demandes;
+            return std::to_string(ligne) + "." + std::to_string(colonne);
+        };
+    };
+    return {{{"Angle", "degrés", cellule(0)}, {"Rayon", "", cellule(1)}, {"Loi", "", cellule(2), Cote::Gauche}},
+            lignes};
 }
 
 int LargeurColonnes(const Grille& grille) {
@@ -74,7 +75,7 @@ TEST(Grille, CopieLaSelection) {
 TEST(Grille, UneTableRefaitePlusPetiteNeCasseRien) {
     Grille grille;
     grille.Remplit(
-        {{"A"}, 10, [](int, int) -> std::string { throw ErreurExecution(NumeroErreur::IndiceHorsLimites); }, {}});
+        {{{"A", "", [](int) -> std::string { throw ErreurExecution(NumeroErreur::IndiceHorsLimites); }}}, 10});
     grille.show();
     LaisseFaire();
     EXPECT_EQ(grille.Cellule(0, 0), "");

@@ -115,7 +115,8 @@ std::string ComposeScriptInterieur() {
     const CourbeScript courbe{&PointProfil::XInterieur, &PointProfil::YInterieur};
     Script script;
     TraceCroixCentre(script);
-    if (etude.donnees.TypeCame == "Angulaire") TraceBras(script);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type != nullptr && type->scriptAvecBras) TraceBras(script);
     courbe.TracePolyligne(script);
     return script.texte_;
 }

@@ -82,14 +82,15 @@ constexpr DescriptionZones zonesConjuguees{
 
 const TypeEtude types[] = {
     {"Angulaire", "Ang", 85, " : Ang", champsAngulaire, M2Large, &ZonesAngulaire, M2, M2, false, CalculeCameAngulaire,
-     ChercheFauteAngulaire, false, DessineCamePlate},
+     ChercheFauteAngulaire, false, DessineCamePlate, "DatoCama", "Resultat", true},
     {"Lineaire", "Lin", 86, " : Lin ", champsLineaire, M2Large, &ZonesLineaire, M2Large, M2Large, false,
-     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate},
+     CalculeCameLineaire, ChercheFauteLineaire, false, DessineCamePlate, "DoProfil", "Resultat"},
     {"Cylindrique", "Cyl", 87, " : Cyl", champsCylindrique, M2Large, &ZonesCylindrique, M2Large, M2Large, false,
-     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl},
+     CalculeCameCylindrique, ChercheFauteCylindrique, true, DessinProfilCyl, "DoCyl", "Resultat"},
     {"Oscillation", "Osc", 527, " : Osc", champsOscillation, M2Large, &ZonesOscillation, M2, M2, false,
-     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl},
-    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true},
+     CalculeCameCylOsc, ChercheFauteOscillation, true, DessinProfilCyl, "DoCylOsc", "Resultat"},
+    {"ConjuguesOscillation", "Cjg", 642, " : Cjg", champsConjuguees, M3Large, &zonesConjuguees, M2, M2, true, nullptr,
+     nullptr, false, nullptr, "CamesConjugeesOscillation", "CamesConjugeesOscillation"},
 };
 
 std::string Minuscules(std::string_view texte) {

@@ -38,9 +38,13 @@ struct TypeEtude {
     /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
+    const char* ecranSaisie = "";                            ///< its data screen
+    const char* ecranResultats = "";                         ///< the screen that shows its results: a data screen can
+    bool scriptAvecBras = false;                             ///< the script of the inner profile draws the arm too
 
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }
+    bool ResultatsAPart() const { return std::string_view(ecranSaisie) != ecranResultats; }
 };
 
 std::span<const TypeEtude> LesTypesEtude();

@@ -14,7 +14,6 @@
 
 #include <QBoxLayout>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShowEvent>
 
 #include <utility>
@@ -29,9 +28,7 @@ QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
 }
 
 SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
-    : QWidget(parent), description_(description) {
-    setObjectName(QString::fromLatin1(description.nom));
-}
+    : FenetreEnfant(description.nom, parent), description_(description) {}
 
 SaisieCame::~SaisieCame() {
     CesseEcoute(*this);
@@ -62,7 +59,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, const std::vecto
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
     zones_->LaisseAller(retour_);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
+    RevientPar(*retour_);
 
     for (std::size_t i = 0; i < panneaux_.size(); ++i) {
         for (auto* champ : panneaux_[i]->Champs())
@@ -124,7 +121,7 @@ void SaisieCame::MontreFaute(double DonneesEtude::*membre) {
 void SaisieCame::showEvent(QShowEvent* evenement) {
     // Some data may have been changed among the results meanwhile.
     if (!evenement->spontaneous()) ChargeDonnees();
-    QWidget::showEvent(evenement);
+    FenetreEnfant::showEvent(evenement);
 }
 
 void SaisieCame::ChargeDonnees() {

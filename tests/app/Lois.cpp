@@ -9,6 +9,7 @@
 #include "outils/Ecrans.h"
 #include "widgets/ApercuImpression.h"
 #include "widgets/Chaines.h"
+#include "widgets/FenetreEnfant.h"
 
 #include <QAbstractButton>
 #include <QAction>

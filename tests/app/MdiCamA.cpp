@@ -13,6 +13,7 @@
 #include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/FenetreEnfant.h"
 
 #include <QAction>
 #include <QLabel>
@@ -343,8 +344,8 @@ TEST(CameType, ChoixAuClavierEtTypesInactifs) {
     LaisseFaire();
     for (const ChoixEtude& c : LesChoixEtude()) {
         auto* image = Controle<BoutonImage>(choix, c.image);
-        EXPECT_EQ(image->isEnabled(), TrouveEcran(c.ecran) != nullptr) << c.image;
-        EXPECT_EQ(S(image->text()), Texte(c.texte));
+        EXPECT_EQ(image->isEnabled(), TrouveEcran(c.Ecran()) != nullptr) << c.image;
+        EXPECT_EQ(S(image->text()), Texte(c.Texte()));
     }
     EXPECT_FALSE(Controle<BoutonImage>(choix, "Image8")->isEnabled());
     auto* premiere = Controle<BoutonImage>(choix, "Image1");

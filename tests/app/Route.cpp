@@ -9,6 +9,7 @@
 #include "outils/Ecrans.h"
 #include "studies/RapportsCames.h"
 #include "widgets/Chaines.h"
+#include "widgets/FenetreEnfant.h"
 #include "widgets/ImprimanteQt.h"
 
 #include <QAbstractButton>

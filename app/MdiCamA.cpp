@@ -10,6 +10,7 @@
 #include "studies/Exports.h"
 #include "studies/FichierEtude.h"
 #include "studies/RapportsCames.h"
+#include "studies/TypesEtude.h"
 #include "studies/screens/SeleSauv.h"
 #include "widgets/ApercuImpression.h"
 #include "widgets/Application.h"

@@ -3,6 +3,7 @@
 #include "app/Aide.h"
 #include "app/DessinsCames.h"
 #include "app/Ecrans.h"
+#include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
@@ -18,14 +19,14 @@
 namespace {
 
 constexpr std::array<ChoixEtude, 8> LesChoix{{
-    {"Image1", 0, 85, "Angulaire", "DatoCama", DessineCamePlateBras},
-    {"Image2", 0, 86, "Lineaire", "DoProfil", DessineCamePlateTranslation},
-    {"Image11", 0, 642, "ConjuguesOscillation", "CamesConjugeesOscillation", DessineCamesConjuguees},
-    {"Image3", 1, 87, "Cylindrique", "DoCyl", DessineCameCylindriqueTranslation},
-    {"Image7", 1, 527, "Oscillation", "DoCylOsc", DessineCameCylindriqueBras},
-    {"Image9", 1, 148, nullptr, "CylindriqueIndexeur", DessineIndexeurCylindrique},
-    {"Image6", 2, 93, nullptr, "GlobiqueOscillateur", DessineOscillateurGlobique},
-    {"Image8", 2, 92, nullptr, "GlobiqueIndexeur", DessineIndexeurGlobique},
+    {"Image1", 0, DessineCamePlateBras, "Angulaire"},
+    {"Image2", 0, DessineCamePlateTranslation, "Lineaire"},
+    {"Image11", 0, DessineCamesConjuguees, "ConjuguesOscillation"},
+    {"Image3", 1, DessineCameCylindriqueTranslation, "Cylindrique"},
+    {"Image7", 1, DessineCameCylindriqueBras, "Oscillation"},
+    {"Image9", 1, DessineIndexeurCylindrique, nullptr, 148, "CylindriqueIndexeur"},
+    {"Image6", 2, DessineOscillateurGlobique, nullptr, 93, "GlobiqueOscillateur"},
+    {"Image8", 2, DessineIndexeurGlobique, nullptr, 92, "GlobiqueIndexeur"},
 }};
 
 constexpr int NombreOnglets = 3;
@@ -39,6 +40,18 @@ constexpr QSize TailleImage(216, 156);
 
 std::span<const ChoixEtude> LesChoixEtude() {
     return LesChoix;
+}
+
+int ChoixEtude::Texte() const {
+    return typeCame == nullptr ? texteCalculateur : TrouveType(typeCame)->titre;
+}
+
+const char* ChoixEtude::Ecran() const {
+    return typeCame == nullptr ? ecranCalculateur : TrouveType(typeCame)->ecranSaisie;
+}
+
+bool ChoixEtude::Disponible() const {
+    return TrouveEcran(Ecran()) != nullptr;
 }
 
 CameType::CameType(QWidget* parent) : QDialog(parent) {
@@ -74,8 +87,8 @@ QWidget* CameType::FaitOnglet(int onglet) {
         if (choix.onglet != onglet) continue;
         auto* image = new BoutonImage(choix.dessine, TailleImage);
         image->setObjectName(QString::fromLatin1(choix.image));
-        image->setText(QTexte(choix.texte));
-        image->setEnabled(TrouveEcran(choix.ecran) != nullptr);
+        image->setText(QTexte(choix.Texte()));
+        image->setEnabled(choix.Disponible());
         connect(image, &BoutonImage::clicked, this, [this, &choix] {
             choisi_ = &choix;
             accept();

@@ -9,12 +9,17 @@
 
 /// A kind of study that can be begun.
 struct ChoixEtude {
-    const char* image;    ///< control name of its picture
-    int onglet;           ///< family, from 0
-    int texte;            ///< text number of its name
-    const char* typeCame; ///< `TypeCame` it sets; none leaves it as it is
-    const char* ecran;    ///< data screen it opens
+    const char* image; ///< control name of its picture
+    int onglet;        ///< family, from 0
     void (*dessine)(Dessin&);
+    const char* typeCame; ///< `TypeCame` it sets, a kind of cam; none for a calculator, which leaves it as it is
+    // Of a calculator; the row of the kind says it of a cam.
+    int texteCalculateur = 0;
+    const char* ecranCalculateur = "";
+
+    int Texte() const;         ///< text number of its name
+    const char* Ecran() const; ///< data screen it opens
+    bool Disponible() const;   ///< that screen is built
 };
 
 std::span<const ChoixEtude> LesChoixEtude();

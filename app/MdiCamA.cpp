@@ -1,29 +1,26 @@
 #include "app/MdiCamA.h"
 
 #include "app/Aide.h"
+#include "app/BureauEcrans.h"
 #include "app/CameType.h"
-#include "app/Ecrans.h"
 #include "app/Propos.h"
 #include "data/Demarrage.h"
 #include "laws/ChoixLois.h"
-#include "laws/screens/EcranLoi.h"
 #include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
 #include "studies/FichierEtude.h"
 #include "studies/RapportsCames.h"
-#include "studies/screens/Resultat.h"
+#include "studies/TypesEtude.h"
 #include "studies/screens/SeleSauv.h"
 #include "widgets/ApercuImpression.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/FenetreEnfant.h"
 #include "widgets/ImprimantePoste.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QScreen>
 #include <QStatusBar>
 
@@ -33,7 +30,6 @@ enum NumerosTexte {
     TexteTitre = 7,
     TexteRienASauver = 23,
     TexteNouvelleEtude = 80,
-    TexteTitreResultats = 118,
     TextePret = 119,
     TexteEtudeCalculee = 121,
     TexteEtudeOuverte = 122,
@@ -46,47 +42,15 @@ enum NumerosTexte {
     TexteRotation = 435,
 };
 
-/// The child screens in the order in which they are closed.
-constexpr const char* OrdreFermeture[] = {
-    "DatoCama",
-    "Resultat",
-    "DoProfil",
-    "DoCyl",
-    "DoCylOsc",
-    "CameType",
-    "LoiMouv",
-    "LoisLiq",
-    "LoiSpe",
-    "LoiHes",
-    "LoiMSHDis",
-    "QuelLoi",
-    "QuelLoiSpe",
-    "Persona",
-    "GlobiqueIndexeur",
-    "GlobiqueOscillateur",
-    "CylindriqueIndexeur",
-    "CamesConjugeesOscillation",
-    "CamesConjugueesIndexeur",
-};
-
 /// Size that the window opens at, where the display has room for it.
 constexpr QSize TailleFenetre(1320, 900);
 
-/// The data screen of the present study's kind.
-std::string EcranDeSaisie() {
-    for (const ChoixEtude& choix : LesChoixEtude())
-        if (choix.typeCame && choix.typeCame == etude.donnees.TypeCame) return choix.ecran;
-    return {};
-}
-
 } // namespace
 
-MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new QMdiArea), etat_(new QLabel) {
+MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new BureauEcrans), etat_(new QLabel) {
     setObjectName(QStringLiteral("MdiCamA"));
-    bureau_->setObjectName(QStringLiteral("Bureau"));
-    bureau_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    bureau_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(bureau_);
+    connect(bureau_, &BureauEcrans::Creee, this, [this](FenetreEnfant* fenetre) { Relie(*fenetre); });
     etat_->setObjectName(QStringLiteral("Etat"));
     etat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long message does not widen the window
     statusBar()->addWidget(etat_, 1);
@@ -94,7 +58,7 @@ MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new QMdiArea), et
     ConstruitBarre();
     AjouteAide(*this);
     AppliqueTextes();
-    const std::vector<QAction*> marques = MarquesImpression();
+    const std::vector<QAction*> marques = EntreesMarques();
     for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
     Annonce(Texte(TextePret));
     resize(TailleFenetre.boundedTo(screen()->availableSize()));
@@ -119,7 +83,7 @@ void MdiCamA::CommenceEtude(const ChoixEtude& choix) {
     const std::string ancienType = etude.donnees.TypeCame;
     VideEtude();
     etude.donnees.TypeCame = choix.typeCame ? choix.typeCame : ancienType;
-    OuvreEcran(choix.ecran);
+    OuvreEcran(choix.Ecran());
     etude.resultats.Erreur = Faux;
     Annonce(Texte(TexteNouvelleEtude));
 }
@@ -153,7 +117,7 @@ void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     if (!CalculeOuverte()) {
         // What was read can be put right on its data screen.
         etude.resultats.ResultatsPrets = Faux;
-        OuvreEcran(EcranDeSaisie());
+        OuvreEcran(TrouveType(etude.donnees.TypeCame)->ecranSaisie);
         return;
     }
     etude.resultats.ResultatsPrets = Vrai;
@@ -177,39 +141,38 @@ bool MdiCamA::CalculeOuverte() {
 }
 
 void MdiCamA::Sauvegarder() {
-    if (!etude.resultats.EtudeModifiee) {
+    FenetreEnfant* active = bureau_->Active();
+    if (active != nullptr ? !active->PretAEnregistrer() : !etude.resultats.EtudeModifiee) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
         return;
     }
-    if (EcranLoi* loi = EcranLoiActif()) return loi->Enregistrer();
+    if (active != nullptr) return active->Enregistrer();
     SeleSauv sauvegarde(this);
     connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.donnees.NomFichier);
-        if (QWidget* resultat = EcranOuvert("Resultat"))
-            resultat->setWindowTitle(Q(etude.donnees.NomFichier + " " + Texte(TexteTitreResultats)));
+        bureau_->Dit(&FenetreEnfant::MontreNomFichier);
     });
     sauvegarde.exec();
 }
 
 void MdiCamA::Imprimer() {
-    if (!etude.resultats.ResultatsPrets) {
+    const FenetreEnfant* active = bureau_->Active();
+    if (active != nullptr ? !active->PretAImprimer() : !etude.resultats.ResultatsPrets) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
         return;
     }
-    if (const EcranLoi* loi = EcranLoiActif()) {
-        const RapportLoi rapport = loi->Rapport();
-        return ApercuEtImprime(this, Q(rapport.titre),
-                               [&rapport](Imprimante& imprimante) { ImprimeEtudeLoi(imprimante, rapport); });
-    }
+    if (active != nullptr) return ImprimeFenetre(*active);
     // The title stands at the head of every report: a study without one is asked for it again.
     while (etude.donnees.NomFichier.empty())
         etude.donnees.NomFichier =
             Trim(LesDialogues().Saisie(Texte(TexteTitre), Texte(TexteEntrezTitre), {}).value_or(""));
-    ::MarquesImpression marques{};
-    const std::vector<QAction*> entrees = MarquesImpression();
-    for (std::size_t i = 0; i < entrees.size(); ++i) marques.at(i) = entrees[i]->isChecked();
+    const ::MarquesImpression marques = MarquesCochees();
     ApercuEtImprime(this, Q(NomSansExtension(etude.donnees.NomFichier)),
                     [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
+}
+
+void MdiCamA::ImprimeFenetre(const FenetreEnfant& fenetre) {
+    ApercuEtImprime(this, fenetre.windowTitle(), [&fenetre](Imprimante& imprimante) { fenetre.Imprime(imprimante); });
 }
 
 void MdiCamA::ConfigureImpression() {
@@ -247,8 +210,7 @@ void MdiCamA::EtudieLoi(const ChoixLoi& choix) {
 
 void MdiCamA::SauveConfiguration() {
     Configuration configuration;
-    const std::vector<QAction*> marques = MarquesImpression();
-    for (std::size_t i = 0; i < marques.size(); ++i) configuration.imprime.at(i) = marques[i]->isChecked();
+    configuration.imprime = MarquesCochees();
     configuration.langue = LangueTravail;
     EcritConfiguration(CheminAppli / NomConfiguration, configuration);
     Annonce(Texte(TexteConfigurationSauvee));
@@ -273,13 +235,13 @@ void MdiCamA::closeEvent(QCloseEvent* evenement) {
     evenement->accept();
 }
 
-// ---- child screens
+// ---- child windows
 
 void MdiCamA::RefuseSiRotation() {
     etude.resultats.Erreur = Faux;
     if (!etude.resultats.RotationEnCours) return;
     LesDialogues().Message(Icone::Information, Texte(TexteRotation));
-    if (auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat"))) resultat->MontreRotation();
+    bureau_->Dit(&FenetreEnfant::MontreRotation);
     etude.resultats.Erreur = Vrai;
 }
 
@@ -291,103 +253,46 @@ bool MdiCamA::RotationEmpeche() {
 }
 
 void MdiCamA::FermeEcrans() {
-    for (const char* nom : OrdreFermeture) FermeEcran(nom);
+    bureau_->FermeTout();
 }
 
-QWidget* MdiCamA::EcranOuvert(const std::string& nom) const {
-    const auto trouve = ecrans_.find(nom);
-    return trouve == ecrans_.end() || !trouve->second ? nullptr : trouve->second->widget();
+FenetreEnfant* MdiCamA::OuvreEcran(std::string_view nom) {
+    return bureau_->Ouvre(nom);
 }
 
-/// The law screen that is open: saving and printing go to it.
-EcranLoi* MdiCamA::EcranLoiActif() const {
-    for (const EtudeLoi& loi : LesEtudesLois())
-        if (etude.donnees.*loi.active && etude.donnees.TypeLoi == loi.typeLoi)
-            return qobject_cast<EcranLoi*>(EcranOuvert(loi.ecran));
-    return nullptr;
+FenetreEnfant* MdiCamA::EcranOuvert(std::string_view nom) const {
+    return bureau_->Ouverte(nom);
 }
 
-void MdiCamA::FermeEcran(const std::string& nom) {
-    const auto trouve = ecrans_.find(nom);
-    if (trouve == ecrans_.end()) return;
-    const QPointer<QMdiSubWindow> sousFenetre = trouve->second;
-    ecrans_.erase(trouve);
-    if (!sousFenetre) return;
-    if (const EtudeLoi* loi = TrouveEtudeLoi(nom)) {
-        // A law study lives on its screen only.
-        etude.donnees.*loi->active = Faux;
-        etude.donnees.TypeLoi.clear();
-        etude.resultats.EtudeModifiee = Faux;
-        etude.resultats.ResultatsPrets = Faux;
-    }
-    etude.resultats.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
-    sousFenetre->removeEventFilter(this);
-    sousFenetre->hide();
-    bureau_->removeSubWindow(sousFenetre);
-    sousFenetre->deleteLater(); // the request may come out of one of its own buttons
+void MdiCamA::MontreEcran(const char* nom) {
+    if (!RotationEmpeche()) bureau_->Montre(nom);
 }
 
-QWidget* MdiCamA::OuvreEcran(const std::string& nom) {
-    const EcranEnfant* ecran = TrouveEcran(nom);
-    if (!ecran) return nullptr;
-    FermeEcran(nom);
-    QWidget* contenu = ecran->cree(ecran->nom, {.etudeCalculee = [this] { MontreResultats(); },
-                                                .etudeRecalculee = [this] { Annonce(Texte(TexteEtudeCalculee)); },
-                                                .quitte = [this, ecran] { QuitteEcran(*ecran); },
-                                                .imprime = [this] { Imprimer(); },
-                                                .fichierEnregistre =
-                                                    [this](const std::string& fichier) {
-                                                        Annonce(Texte(TexteFichierEnregistre) + " " + fichier);
-                                                    }});
-    QMdiSubWindow* sousFenetre = bureau_->addSubWindow(contenu, Qt::SubWindow);
-    sousFenetre->setSystemMenu(nullptr); // its entries are not in the working language
-    sousFenetre->installEventFilter(this);
-    ecrans_[nom] = sousFenetre;
-    PlaceSousFenetre(*sousFenetre);
-    sousFenetre->show();
-    return contenu;
-}
-
-void MdiCamA::PlaceSousFenetre(QMdiSubWindow& sousFenetre) {
-    const QSize besoin = sousFenetre.sizeHint();
-    const QSize manque = (besoin - bureau_->viewport()->size()).expandedTo({0, 0});
-    if (!isMaximized() && !manque.isNull()) resize((size() + manque).boundedTo(screen()->availableSize()));
-    const QSize place = bureau_->viewport()->size();
-    sousFenetre.resize(besoin.boundedTo(place));
-    sousFenetre.move((place.width() - sousFenetre.width()) / 2, (place.height() - sousFenetre.height()) / 2);
+void MdiCamA::Relie(FenetreEnfant& fenetre) {
+    connect(&fenetre, &FenetreEnfant::EtudeCalculee, this, &MdiCamA::MontreResultats);
+    connect(&fenetre, &FenetreEnfant::EtudeRecalculee, this, [this] { Annonce(Texte(TexteEtudeCalculee)); });
+    connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
+            [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
+    connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
+    connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
 }
 
 void MdiCamA::MontreResultats() {
-    const auto saisie = ecrans_.find(EcranDeSaisie());
-    if (saisie != ecrans_.end() && saisie->second) saisie->second->hide();
-    if (auto* resultat = qobject_cast<Resultat*>(EcranOuvert("Resultat")))
-        resultat->Montre();
+    const TypeEtude& type = *TrouveType(etude.donnees.TypeCame);
+    if (type.ResultatsAPart()) bureau_->Cache(type.ecranSaisie);
+    if (FenetreEnfant* resultats = EcranOuvert(type.ecranResultats))
+        resultats->Montre();
     else
-        OuvreEcran("Resultat");
+        OuvreEcran(type.ecranResultats);
     Annonce(Texte(TexteEtudeCalculee));
 }
 
-void MdiCamA::QuitteEcran(const EcranEnfant& ecran) {
-    const bool resultats = ecran.nom == std::string_view("Resultat");
-    FermeEcran(ecran.nom);
-    if (!resultats) return Annonce(Texte(TextePret));
-    const auto saisie = ecrans_.find(EcranDeSaisie());
-    if (saisie == ecrans_.end() || !saisie->second)
-        OuvreEcran(EcranDeSaisie()); // the study came from a file
+void MdiCamA::Quitte(const FenetreEnfant& fenetre) {
+    const std::string nom = fenetre.Nom();
+    bureau_->Ferme(nom);
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type != nullptr && type->ResultatsAPart() && nom == type->ecranResultats)
+        bureau_->Montre(type->ecranSaisie); // not open yet when the study came from a file
     else
-        saisie->second->show();
-}
-
-bool MdiCamA::eventFilter(QObject* objet, QEvent* evenement) {
-    if (evenement->type() == QEvent::ToolTip) return true; // those of the title bar are not in the working language
-    if (evenement->type() != QEvent::Close) return QMainWindow::eventFilter(objet, evenement);
-    // The cross of a child window is its way back, with all that the screen does then.
-    for (const auto& [nom, sousFenetre] : ecrans_)
-        if (sousFenetre == objet) {
-            evenement->ignore();
-            const QString bouton = QString::fromLatin1(TrouveEcran(nom)->boutonRetour);
-            if (auto* retour = sousFenetre->findChild<QAbstractButton*>(bouton)) retour->click();
-            return true;
-        }
-    return QMainWindow::eventFilter(objet, evenement);
+        Annonce(Texte(TextePret));
 }

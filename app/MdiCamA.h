@@ -1,26 +1,25 @@
-// The main window: menus, tool bar, child screens, and the commands that begin, open and save a study.
+// The main window: menus, tool bar, and the commands that begin, open, save and print a study. It knows its child
+// windows by their base only; where they stand is the matter of their desk.
 #pragma once
 
+#include "app/Commandes.h"
 #include "data/Configuration.h"
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <filesystem>
-#include <map>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
+class QAction;
 class QLabel;
-class QMdiArea;
-class QMdiSubWindow;
-class QMenu;
 class QToolBar;
-class EcranLoi;
+class BureauEcrans;
+class FenetreEnfant;
 struct ChoixEtude;
 struct ChoixLoi;
-struct EcranEnfant;
 struct TypeEtude;
 
 class MdiCamA : public QMainWindow {
@@ -38,10 +37,10 @@ public:
 
     /// Shows a child screen, made anew.
     /// @return the screen; none when it is not built.
-    QWidget* OuvreEcran(const std::string& nom);
+    FenetreEnfant* OuvreEcran(std::string_view nom);
 
     /// The child screen of that name that is open, shown or hidden; none otherwise.
-    QWidget* EcranOuvert(const std::string& nom) const;
+    FenetreEnfant* EcranOuvert(std::string_view nom) const;
 
     /// Begins a study of the kind chosen; what was open is discarded.
     void CommenceEtude(const ChoixEtude& choix);
@@ -59,37 +58,16 @@ public:
     void Annonce(const std::string& texte);
 
 protected:
-    bool eventFilter(QObject* objet, QEvent* evenement) override;
     void closeEvent(QCloseEvent* evenement) override;
 
 private:
-    /// One entry of the menus. `niveau` 0 stands on the menu bar; an entry with deeper ones behind it is a menu.
-    struct EntreeMenu {
-        const char* nom;
-        int niveau;
-        int texte;
-        int aide; ///< text number of the hint in the status line; 0 for none
-        enum Genre { Menu, Commande, Marque } genre;
-        void (MdiCamA::*commande)(); ///< none while its screen is not built: the entry is disabled
-        const char* raccourci = "";
-        bool separe = false; ///< a line stands above it
-    };
-
-    /// One button of the tool bar: its key, the menu entry that it does the same as, and its drop-down entries.
-    struct BoutonBarre {
-        const char* cle;
-        const char* entree;
-        int aide;
-        void (MdiCamA::*sousMenu)(QMenu&) = nullptr;
-        bool separe = false;
-    };
-
     static std::span<const EntreeMenu> LeMenu();
-    static std::span<const BoutonBarre> LaBarre();
 
     // Building, in MenusMdi.cpp.
     void ConstruitMenus();
+    void ConstruitCommande(QMenu& menu, const EntreeMenu& entree);
     void ConstruitBarre();
+    void ConstruitBouton(const EntreeMenu& entree);
     void ConstruitLangues(QMenu& menu);
     void AjouteEtudes(QMenu& menu);
     void AjouteOuvertures(QMenu& menu);
@@ -97,8 +75,9 @@ private:
     void AjouteLoisSpeciales(QMenu& menu);
     void AjouteLois(QMenu& menu, std::span<const char* const> cles);
     void AppliqueTextes();
+    void AppliqueTextesBouton(const Commande& commande);
     QAction* Action(const char* nom) const;
-    std::vector<QAction*> MarquesImpression() const;
+    std::vector<QAction*> EntreesMarques() const;
 
     // Commands.
     void Nouveau();
@@ -106,6 +85,8 @@ private:
     void OuvreParType(const TypeEtude* type);
     void Sauvegarder();
     void Imprimer();
+    void ImprimeFenetre(const FenetreEnfant& fenetre);
+    std::array<bool, NombreImpressions> MarquesCochees() const;
     void ConfigureImpression();
     void MontrePropos();
     void MontreLoisUsuelles();
@@ -114,17 +95,15 @@ private:
     void SauveConfiguration();
     void Quitter();
 
-    // Child screens.
+    // Child windows.
     bool RotationEmpeche();
-    EcranLoi* EcranLoiActif() const;
-    void FermeEcran(const std::string& nom);
-    void QuitteEcran(const EcranEnfant& ecran);
+    void Relie(FenetreEnfant& fenetre);
     bool CalculeOuverte();
+    void MontreEcran(const char* nom);
     void MontreResultats();
-    void PlaceSousFenetre(QMdiSubWindow& sousFenetre);
+    void Quitte(const FenetreEnfant& fenetre);
 
-    QMdiArea* bureau_;
+    BureauEcrans* bureau_;
     QToolBar* barre_;
     QLabel* etat_;
-    std::map<std::string, QPointer<QMdiSubWindow>> ecrans_; ///< open child screens by name
 };

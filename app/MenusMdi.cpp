@@ -1,4 +1,4 @@
-// The tables of the main window's menus and tool bar, and their building.
+// The commands of the main window, and the menus and the tool bar that are built of them.
 #include "app/CameType.h"
 #include "app/Ecrans.h"
 #include "app/MdiCamA.h"
@@ -7,6 +7,7 @@
 #include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/Icones.h"
+#include "widgets/Nomme.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -20,6 +21,11 @@ namespace {
 constexpr int TexteTitreFenetre = 37;
 constexpr int TexteTitreBarre = 79;
 constexpr const char* NomLangueMenu = "FichierLanguesDisponibles";
+
+/// The buttons of the tool bar by their keys, with a line where there is none.
+constexpr const char* OrdreBarre[] = {"Nouveau", "Ouvre",   "Sauve", nullptr,         "Inerties",
+                                      "Propos",  "Imprime", nullptr, "LoisMouvement", "LoisMouvementSpe",
+                                      nullptr,   "Quitter"};
 
 struct EntreeDeroulante {
     const char* cle;
@@ -60,87 +66,84 @@ QAction* AjouteAction(QMenu& menu, const char* nom, const QString& texte) {
 
 } // namespace
 
-std::span<const MdiCamA::EntreeMenu> MdiCamA::LeMenu() {
+std::span<const EntreeMenu> MdiCamA::LeMenu() {
     using E = EntreeMenu;
+    using M = MdiCamA;
     // clang-format off
     static constexpr EntreeMenu menu[] = {
-        {"Fichier", 0, 38, 0, E::Menu, nullptr},
-        {"FichierNouveau", 1, 39, 80, E::Commande, &MdiCamA::Nouveau, "Ctrl+N"},
-        {"FichierOuvrir", 1, 40, 81, E::Commande, &MdiCamA::Ouvrir, "Ctrl+O"},
-        {"FichierSauvegarde", 1, 41, 82, E::Commande, &MdiCamA::Sauvegarder, "Ctrl+S"},
-        {"FichierLangues", 1, 42, 0, E::Menu, nullptr, "", true},
-        {"FichierLanguesTravail", 2, 43, 0, E::Menu, nullptr},
-        {"FichierLanguesModification", 2, 44, 0, E::Commande, nullptr},
-        {"FichierConfigImpresora", 1, 45, 0, E::Commande, &MdiCamA::ConfigureImpression},
-        {"FichierPropos", 1, 46, 84, E::Commande, &MdiCamA::MontrePropos, "", true},
-        {"FichierQuitte", 1, 47, 91, E::Commande, &MdiCamA::Quitter, "Ctrl+Q", true},
-        {"FicImprimer", 0, 48, 0, E::Menu, nullptr},
-        {"FicImprimerProfil", 1, 49, 0, E::Marque, nullptr},
-        {"FicImprimerDonnees", 1, 50, 0, E::Marque, nullptr},
-        {"FicImprimerFicImprimerGraph", 1, 51, 0, E::Marque, nullptr},
-        {"FicImprimerGraphMouvement", 1, 52, 0, E::Marque, nullptr},
-        {"FicImprimerPointForces", 1, 53, 0, E::Marque, nullptr},
-        {"FicImprimerPointLoi", 1, 54, 0, E::Marque, nullptr},
-        {"FicImprimerPointsRemarq", 1, 55, 0, E::Marque, nullptr},
-        {"FicImprimerImprimer", 1, 56, 88, E::Commande, &MdiCamA::Imprimer, "Ctrl+P", true},
-        {"FicImprimerSauveImpre", 1, 57, 0, E::Commande, &MdiCamA::SauveConfiguration},
-        {"FichierClasiques", 0, 58, 0, E::Menu, nullptr},
-        {"FichierClasiquesLoisStad", 1, 59, 89, E::Commande, &MdiCamA::MontreLoisUsuelles},
-        {"FichierClasiquesLoisSpe", 1, 60, 90, E::Commande, &MdiCamA::MontreLoisSpeciales},
-        {"FichierClasiquesInerties", 1, 61, 83, E::Commande, nullptr},
-        {"FichierGenerateurs", 0, 62, 0, E::Menu, nullptr},
-        {"FichierGenerateursCroixMalte", 1, 63, 0, E::Commande, nullptr},
-        {"FichierGenerateursIndexeurs", 1, 64, 0, E::Commande, nullptr},
-        {"FichierGenerateursBiellePiston", 1, 65, 0, E::Commande, nullptr},
-        {"FichierGenerateursBielleCre", 1, 67, 0, E::Commande, nullptr},
-        {"FichierGenerateursManiBieMani", 1, 70, 0, E::Commande, nullptr},
-        {"FichierGenerateursEtauLimeur", 1, 71, 0, E::Commande, nullptr},
-        {"FichierGenerateursExcentrique", 1, 74, 0, E::Commande, nullptr},
-        {"FichierGenerateursGlissiere", 1, 76, 0, E::Commande, nullptr},
+        {"Fichier", 0, 38, E::Menu},
+        {"FichierNouveau", 1, 39, E::Ordre, {.fait = &M::Nouveau, .aide = 80, .raccourci = "Ctrl+N", .cle = "Nouveau", .deroule = &M::AjouteEtudes}},
+        {"FichierOuvrir", 1, 40, E::Ordre, {.fait = &M::Ouvrir, .aide = 81, .raccourci = "Ctrl+O", .cle = "Ouvre", .deroule = &M::AjouteOuvertures}},
+        {"FichierSauvegarde", 1, 41, E::Ordre, {.fait = &M::Sauvegarder, .aide = 82, .raccourci = "Ctrl+S", .cle = "Sauve"}},
+        {"", 1, 0, E::Trait},
+        {"FichierLangues", 1, 42, E::Menu},
+        {"FichierLanguesTravail", 2, 43, E::Menu},
+        {"FichierLanguesModification", 2, 44, E::Ordre, {.ecran = "Persona"}},
+        {"FichierConfigImpresora", 1, 45, E::Ordre, {.fait = &M::ConfigureImpression}},
+        {"", 1, 0, E::Trait},
+        {"FichierPropos", 1, 46, E::Ordre, {.fait = &M::MontrePropos, .aide = 84, .cle = "Propos"}},
+        {"", 1, 0, E::Trait},
+        {"FichierQuitte", 1, 47, E::Ordre, {.fait = &M::Quitter, .aide = 91, .raccourci = "Ctrl+Q", .cle = "Quitter"}},
+        {"FicImprimer", 0, 48, E::Menu},
+        {"FicImprimerProfil", 1, 49, E::Marque},
+        {"FicImprimerDonnees", 1, 50, E::Marque},
+        {"FicImprimerFicImprimerGraph", 1, 51, E::Marque},
+        {"FicImprimerGraphMouvement", 1, 52, E::Marque},
+        {"FicImprimerPointForces", 1, 53, E::Marque},
+        {"FicImprimerPointLoi", 1, 54, E::Marque},
+        {"FicImprimerPointsRemarq", 1, 55, E::Marque},
+        {"", 1, 0, E::Trait},
+        {"FicImprimerImprimer", 1, 56, E::Ordre, {.fait = &M::Imprimer, .aide = 88, .raccourci = "Ctrl+P", .cle = "Imprime"}},
+        {"FicImprimerSauveImpre", 1, 57, E::Ordre, {.fait = &M::SauveConfiguration}},
+        {"FichierClasiques", 0, 58, E::Menu},
+        {"FichierClasiquesLoisStad", 1, 59, E::Ordre, {.fait = &M::MontreLoisUsuelles, .aide = 89, .cle = "LoisMouvement", .deroule = &M::AjouteLoisUsuelles}},
+        {"FichierClasiquesLoisSpe", 1, 60, E::Ordre, {.fait = &M::MontreLoisSpeciales, .aide = 90, .cle = "LoisMouvementSpe", .deroule = &M::AjouteLoisSpeciales}},
+        {"FichierClasiquesInerties", 1, 61, E::Ordre, {.ecran = "Inerties", .aide = 83, .cle = "Inerties"}},
+        {"FichierGenerateurs", 0, 62, E::Menu},
+        {"FichierGenerateursCroixMalte", 1, 63, E::Ordre},
+        {"FichierGenerateursIndexeurs", 1, 64, E::Ordre},
+        {"FichierGenerateursBiellePiston", 1, 65, E::Ordre},
+        {"FichierGenerateursBielleCre", 1, 67, E::Ordre},
+        {"FichierGenerateursManiBieMani", 1, 70, E::Ordre},
+        {"FichierGenerateursEtauLimeur", 1, 71, E::Ordre},
+        {"FichierGenerateursExcentrique", 1, 74, E::Ordre},
+        {"FichierGenerateursGlissiere", 1, 76, E::Ordre},
     };
     // clang-format on
     return menu;
-}
-
-std::span<const MdiCamA::BoutonBarre> MdiCamA::LaBarre() {
-    // clang-format off
-    static constexpr BoutonBarre barre[] = {
-        {"Nouveau", "FichierNouveau", 80, &MdiCamA::AjouteEtudes},
-        {"Ouvre", "FichierOuvrir", 81, &MdiCamA::AjouteOuvertures},
-        {"Sauve", "FichierSauvegarde", 82},
-        {"Inerties", "FichierClasiquesInerties", 83, nullptr, true},
-        {"Propos", "FichierPropos", 84},
-        {"Imprime", "FicImprimerImprimer", 88},
-        {"LoisMouvement", "FichierClasiquesLoisStad", 89, &MdiCamA::AjouteLoisUsuelles, true},
-        {"LoisMouvementSpe", "FichierClasiquesLoisSpe", 90, &MdiCamA::AjouteLoisSpeciales},
-        {"Quitter", "FichierQuitte", 91, nullptr, true},
-    };
-    // clang-format on
-    return barre;
 }
 
 void MdiCamA::ConstruitMenus() {
     std::vector<QMenu*> parents; // the open menu of each level
     for (const EntreeMenu& entree : LeMenu()) {
         parents.resize(static_cast<std::size_t>(entree.niveau));
-        if (entree.separe) parents.back()->addSeparator();
-        if (entree.genre == EntreeMenu::Menu) {
-            auto* menu = new QMenu(this);
-            menu->setObjectName(QString::fromLatin1(entree.nom));
+        if (entree.genre == EntreeMenu::Trait) {
+            parents.back()->addSeparator();
+        } else if (entree.genre == EntreeMenu::Menu) {
+            auto* menu = Nomme(new QMenu(this), entree.nom);
             if (parents.empty())
                 menuBar()->addMenu(menu);
             else
                 parents.back()->addMenu(menu);
             parents.push_back(menu);
-            continue;
+        } else {
+            ConstruitCommande(*parents.back(), entree);
         }
-        QAction* action = AjouteAction(*parents.back(), entree.nom, QString());
-        action->setShortcut(QKeySequence(QString::fromLatin1(entree.raccourci)));
-        action->setCheckable(entree.genre == EntreeMenu::Marque);
-        action->setEnabled(entree.commande || entree.genre == EntreeMenu::Marque);
-        if (entree.commande) connect(action, &QAction::triggered, this, entree.commande);
     }
     ConstruitLangues(*findChild<QMenu*>(QStringLiteral("FichierLanguesTravail")));
+}
+
+void MdiCamA::ConstruitCommande(QMenu& menu, const EntreeMenu& entree) {
+    const Commande& commande = entree.commande;
+    QAction* action = AjouteAction(menu, entree.nom, QString());
+    action->setShortcut(QKeySequence(QString::fromLatin1(commande.raccourci)));
+    action->setCheckable(entree.genre == EntreeMenu::Marque);
+    if (commande.fait != nullptr)
+        connect(action, &QAction::triggered, this, commande.fait);
+    else if (commande.ecran != nullptr && TrouveEcran(commande.ecran) != nullptr)
+        connect(action, &QAction::triggered, this, [this, ecran = commande.ecran] { MontreEcran(ecran); });
+    else
+        action->setEnabled(action->isCheckable());
 }
 
 void MdiCamA::ConstruitLangues(QMenu& menu) {
@@ -154,31 +157,35 @@ void MdiCamA::ConstruitLangues(QMenu& menu) {
 }
 
 void MdiCamA::ConstruitBarre() {
-    barre_ = addToolBar(QString());
-    barre_->setObjectName(QStringLiteral("Toolbar1"));
+    barre_ = Nomme(addToolBar(QString()), "Toolbar1");
     barre_->setMovable(false);
     barre_->setContextMenuPolicy(Qt::PreventContextMenu); // it cannot be hidden
-    for (const BoutonBarre& bouton : LaBarre()) {
-        if (bouton.separe) barre_->addSeparator();
-        QAction* action = barre_->addAction(IconeBarre(QString::fromLatin1(bouton.cle)), QString());
-        action->setObjectName(QString::fromLatin1(bouton.cle));
-        QAction* entree = Action(bouton.entree);
-        action->setEnabled(entree->isEnabled());
-        connect(action, &QAction::triggered, entree, &QAction::trigger);
-        if (bouton.sousMenu) {
-            auto* menu = new QMenu(this);
-            menu->setObjectName(QStringLiteral("Menu") + action->objectName());
-            action->setMenu(menu);
-            qobject_cast<QToolButton*>(barre_->widgetForAction(action))->setPopupMode(QToolButton::MenuButtonPopup);
-        }
+    for (const char* cle : OrdreBarre) {
+        if (cle == nullptr) barre_->addSeparator();
+        for (const EntreeMenu& entree : LeMenu())
+            if (cle != nullptr && entree.commande.cle != nullptr && std::string_view(cle) == entree.commande.cle)
+                ConstruitBouton(entree);
     }
+}
+
+void MdiCamA::ConstruitBouton(const EntreeMenu& entree) {
+    const char* cle = entree.commande.cle;
+    QAction* bouton = Nomme(barre_->addAction(IconeBarre(QString::fromLatin1(cle)), QString()), cle);
+    QAction* action = Action(entree.nom);
+    bouton->setEnabled(action->isEnabled());
+    connect(bouton, &QAction::triggered, action, &QAction::trigger);
+    if (entree.commande.deroule == nullptr) return;
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("Menu") + bouton->objectName());
+    bouton->setMenu(menu);
+    qobject_cast<QToolButton*>(barre_->widgetForAction(bouton))->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void MdiCamA::AjouteEtudes(QMenu& menu) {
     for (const EntreeDeroulante& entree : LesEtudes) {
         const ChoixEtude& choix = ChoixDeLImage(entree.cible);
-        QAction* action = AjouteAction(menu, entree.cle, QTexte(choix.texte));
-        action->setEnabled(TrouveEcran(choix.ecran) != nullptr);
+        QAction* action = AjouteAction(menu, entree.cle, QTexte(choix.Texte()));
+        action->setEnabled(choix.Disponible());
         connect(action, &QAction::triggered, this, [this, &choix] {
             if (!RotationEmpeche()) CommenceEtude(choix);
         });
@@ -214,24 +221,27 @@ void MdiCamA::AppliqueTextes() {
     setWindowTitle(QTexte(TexteTitreFenetre));
     barre_->setWindowTitle(QTexte(TexteTitreBarre));
     for (const EntreeMenu& entree : LeMenu()) {
+        if (entree.genre == EntreeMenu::Trait) continue;
         if (entree.genre == EntreeMenu::Menu) {
             findChild<QMenu*>(QString::fromLatin1(entree.nom))->setTitle(QTexte(entree.texte));
             continue;
         }
         Action(entree.nom)->setText(QTexte(entree.texte));
-        Action(entree.nom)->setStatusTip(QTexte(entree.aide));
-    }
-    for (const BoutonBarre& bouton : LaBarre()) {
-        QAction* action = Action(bouton.cle);
-        action->setText(QTexte(bouton.aide));
-        action->setToolTip(QTexte(bouton.aide));
-        action->setStatusTip(QTexte(bouton.aide));
-        if (!bouton.sousMenu) continue;
-        action->menu()->clear();
-        (this->*bouton.sousMenu)(*action->menu());
+        Action(entree.nom)->setStatusTip(QTexte(entree.commande.aide));
+        if (entree.commande.cle != nullptr) AppliqueTextesBouton(entree.commande);
     }
     for (QAction* langue : findChildren<QAction*>(QString::fromLatin1(NomLangueMenu)))
         langue->setChecked(S(langue->text()) == LangueTravail);
+}
+
+void MdiCamA::AppliqueTextesBouton(const Commande& commande) {
+    QAction* bouton = Action(commande.cle);
+    bouton->setText(QTexte(commande.aide));
+    bouton->setToolTip(QTexte(commande.aide));
+    bouton->setStatusTip(QTexte(commande.aide));
+    if (commande.deroule == nullptr) return;
+    bouton->menu()->clear();
+    (this->*commande.deroule)(*bouton->menu());
 }
 
 QAction* MdiCamA::Action(const char* nom) const {
@@ -240,9 +250,16 @@ QAction* MdiCamA::Action(const char* nom) const {
     return action;
 }
 
-std::vector<QAction*> MdiCamA::MarquesImpression() const {
+std::vector<QAction*> MdiCamA::EntreesMarques() const {
     std::vector<QAction*> marques;
     for (const EntreeMenu& entree : LeMenu())
         if (entree.genre == EntreeMenu::Marque) marques.push_back(Action(entree.nom));
+    return marques;
+}
+
+std::array<bool, NombreImpressions> MdiCamA::MarquesCochees() const {
+    std::array<bool, NombreImpressions> marques{};
+    const std::vector<QAction*> entrees = EntreesMarques();
+    for (std::size_t i = 0; i < entrees.size(); ++i) marques.at(i) = entrees[i]->isChecked();
     return marques;
 }

@@ -116,7 +116,7 @@ std::string ComposeScriptInterieur() {
     Script script;
     TraceCroixCentre(script);
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type != nullptr && type->scriptBras) TraceBras(script);
+    if (type != nullptr && type->scriptAvecBras) TraceBras(script);
     courbe.TracePolyligne(script);
     return script.texte_;
 }

@@ -37,11 +37,14 @@ struct TypeEtude {
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
     RapportsEtude rapports = {};
-    bool scriptBras = false;             ///< the script of the inner profile shows the arm
+    bool scriptAvecBras = false;         ///< the script of the inner profile draws the arm too
     const char* motifDialogue = nullptr; ///< pattern as file dialogues show it, where it is not that of the extension
+    const char* ecranSaisie = "";        ///< its data screen
+    const char* ecranResultats = "";     ///< the screen that shows its results: a data screen can
 
     bool Disponible() const { return calcule != nullptr; }
     bool Bras() const { return zones->Bras(); }
+    bool ResultatsAPart() const { return std::string_view(ecranSaisie) != ecranResultats; }
     /// The scalar of the present study that cannot be calculated with; none when all will do.
     const ChampEtude* ChercheFaute() const { return ChercheInterdit(champs, etude.donnees); }
 };

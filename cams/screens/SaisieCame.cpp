@@ -15,7 +15,6 @@
 
 #include <QBoxLayout>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShowEvent>
 
 #include <stdexcept>
@@ -31,8 +30,7 @@ QWidget* EmpilePanneaux(const std::vector<QWidget*>& panneaux, int etirement) {
 }
 
 SaisieCame::SaisieCame(const DescriptionSaisie& description, QWidget* parent)
-    : QWidget(parent), description_(description) {
-    setObjectName(QString::fromLatin1(description.nom));
+    : FenetreEnfant(description.nom, parent), description_(description) {
     for (const GroupeDonnees& groupe : description.groupes) {
         std::vector<ChampLie> champs;
         for (const char* nom : groupe.Champs())
@@ -83,7 +81,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
     zones_->LaisseAller(retour_);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
+    RevientPar(*retour_);
     RelieChamps();
     MontreBoutons();
     panneaux_.front()->Champs().front()->setFocus();
@@ -143,7 +141,7 @@ bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
 void SaisieCame::showEvent(QShowEvent* evenement) {
     // Some data may have been changed among the results meanwhile.
     if (!evenement->spontaneous()) ChargeDonnees();
-    QWidget::showEvent(evenement);
+    FenetreEnfant::showEvent(evenement);
 }
 
 void SaisieCame::ChargeDonnees() {

@@ -4,8 +4,7 @@
 
 #include "cams/GroupesDonnees.h"
 #include "cams/screens/PanneauZones.h"
-
-#include <QWidget>
+#include "widgets/FenetreEnfant.h"
 
 #include <span>
 #include <string_view>
@@ -26,15 +25,11 @@ struct DescriptionSaisie {
     void (*calcule)();
 };
 
-class SaisieCame : public QWidget {
+class SaisieCame : public FenetreEnfant {
     Q_OBJECT
 
 public:
     ~SaisieCame() override;
-
-signals:
-    void EtudeCalculee(); ///< the study is calculated and its results are ready
-    void Quitte();        ///< the screen is given up
 
 protected:
     /// @param description must outlive the screen (a constant).

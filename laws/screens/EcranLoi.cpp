@@ -23,7 +23,6 @@
 #include <QGridLayout>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -54,10 +53,9 @@ Tableau<PointLoi> TableApercu(const EtudeLoi& loi) {
 
 } // namespace
 
-EcranLoi::EcranLoi(const EtudeLoi& loi, QWidget* parent) : QWidget(parent), loi_(loi), apercu_(TableApercu(loi)) {
-    setObjectName(QString::fromLatin1(loi.ecran));
+EcranLoi::EcranLoi(const EtudeLoi& loi, QWidget* parent)
+    : FenetreEnfant(loi.ecran, parent, loi.active), loi_(loi), apercu_(TableApercu(loi)) {
     etude.donnees.TypeLoi = loi.typeLoi;
-    etude.donnees.*loi.active = Vrai;
     etude.donnees.SortieEnDegres = loi.degresDabord ? Vrai : Faux;
 
     auto* gauche = new QWidget;
@@ -86,6 +84,19 @@ EcranLoi::EcranLoi(const EtudeLoi& loi, QWidget* parent) : QWidget(parent), loi_
 
 EcranLoi::~EcranLoi() {
     CesseEcoute(*this);
+}
+
+bool EcranLoi::Active() const {
+    return FenetreEnfant::Active() && etude.donnees.TypeLoi == loi_.typeLoi;
+}
+
+void EcranLoi::Imprime(Imprimante& imprimante) const {
+    ImprimeEtudeLoi(imprimante, Rapport());
+}
+
+void EcranLoi::Ferme() {
+    FenetreEnfant::Ferme();
+    etude.donnees.TypeLoi.clear();
 }
 
 RapportLoi EcranLoi::Rapport() const {
@@ -184,7 +195,7 @@ void EcranLoi::RelieChamps() {
     connect(enregistrer_, &QPushButton::clicked, this, &EcranLoi::Enregistrer);
     connect(imprimer_, &QPushButton::clicked, this, &EcranLoi::ImpressionDemandee);
     connect(retour_, &QPushButton::clicked, this, &EcranLoi::Retour);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
+    RevientPar(*retour_);
 }
 
 // ---- units
@@ -246,7 +257,7 @@ void EcranLoi::Calculer() {
     etude.resultats.ResultatsPrets = Vrai;
     etude.resultats.EtudeModifiee = Vrai;
     MontreResultats();
-    emit LoiCalculee();
+    emit EtudeRecalculee();
 }
 
 void EcranLoi::MontreResultats() {
@@ -277,7 +288,7 @@ void EcranLoi::Enregistrer() {
         return;
     }
     const std::string nom = loi_.genre == nullptr ? etude.lois.LoiEtude.NomLoi : loi_.typeLoi;
-    if (const auto fichier = EnregistreLoi(nom)) emit LoiEnregistree(Q(*fichier));
+    if (const auto fichier = EnregistreLoi(nom)) emit FichierEnregistre(Q(*fichier));
 }
 
 void EcranLoi::Retour() {

@@ -4,8 +4,7 @@
 
 #include "laws/EtudesLois.h"
 #include "laws/RapportLoi.h"
-
-#include <QWidget>
+#include "widgets/FenetreEnfant.h"
 
 #include <vector>
 
@@ -17,7 +16,7 @@ class QPushButton;
 class QRadioButton;
 class ZoneDessin;
 
-class EcranLoi : public QWidget {
+class EcranLoi : public FenetreEnfant {
     Q_OBJECT
 
 public:
@@ -25,19 +24,19 @@ public:
     explicit EcranLoi(const EtudeLoi& loi, QWidget* parent = nullptr);
     ~EcranLoi() override;
 
+    bool Active() const override;
+
     /// Saves the law as a listing or as a law file, as the user answers.
-    void Enregistrer();
+    void Enregistrer() override;
 
-    /// What the printout is made from.
-    RapportLoi Rapport() const;
+    void Imprime(Imprimante& imprimante) const override;
 
-signals:
-    void LoiCalculee();
-    void LoiEnregistree(const QString& fichier); ///< name without folder
-    void ImpressionDemandee();
-    void Quitte();
+    /// A law study lives on its screen only.
+    void Ferme() override;
 
 private:
+    /// What the printout is made from.
+    RapportLoi Rapport() const;
     QWidget* FaitDonnees();
     QWidget* FaitUnites();
     QWidget* FaitResultats();

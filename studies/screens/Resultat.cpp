@@ -25,7 +25,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -78,8 +77,7 @@ bool EstRecalculable(std::string_view nom) {
 
 } // namespace
 
-Resultat::Resultat(QWidget* parent) : QWidget(parent) {
-    setObjectName("Resultat");
+Resultat::Resultat(QWidget* parent) : FenetreEnfant("Resultat", parent) {
     onglets_ = Nomme(new QTabWidget, "SSTab1");
     onglets_->addTab(new ZoneDefilante(FaitValeurs()), {});
     onglets_->addTab(FaitListages(), {});
@@ -98,9 +96,9 @@ Resultat::Resultat(QWidget* parent) : QWidget(parent) {
     AppliqueLegendes(*this, legendes);
 
     connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, quitter_, &QPushButton::click);
+    RevientPar(*quitter_);
     connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
-    Montre();
+    Resultat::Montre();
 }
 
 QWidget* Resultat::FaitValeurs() {
@@ -182,7 +180,7 @@ QWidget* Resultat::FaitGraphiques(const char* titre1, ZoneDessin** zone1, const 
 }
 
 void Resultat::Montre() {
-    setWindowTitle((etude.donnees.NomFichier.empty() ? QString() : Q(etude.donnees.NomFichier) + " ") + QTexte(118));
+    MontreNomFichier();
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) return;
     RemplitValeurs(*type);
@@ -191,6 +189,10 @@ void Resultat::Montre() {
     RemplitGraphiques();
     MontreSelonType(*type);
     came_->Montre({type->dessine, DernierAngleDessin(*type), type->developpee});
+}
+
+void Resultat::MontreNomFichier() {
+    setWindowTitle((etude.donnees.NomFichier.empty() ? QString() : Q(etude.donnees.NomFichier) + " ") + QTexte(118));
 }
 
 void Resultat::MontreRotation() {

@@ -2,7 +2,7 @@
 // panel where a few data may be changed and the study calculated again.
 #pragma once
 
-#include <QWidget>
+#include "widgets/FenetreEnfant.h"
 
 #include <vector>
 
@@ -18,21 +18,15 @@ class ZoneDessin;
 struct TypeEtude;
 struct ValeurRemarquable;
 
-class Resultat : public QWidget {
+class Resultat : public FenetreEnfant {
     Q_OBJECT
 
 public:
     explicit Resultat(QWidget* parent = nullptr);
 
-    /// Shows the results of the study record.
-    void Montre();
-
-    /// Brings the turning cam to the front.
-    void MontreRotation();
-
-signals:
-    void Quitte();
-    void EtudeRecalculee();
+    void Montre() override;
+    void MontreNomFichier() override;
+    void MontreRotation() override;
 
 private:
     /// A remarkable value and its labels.

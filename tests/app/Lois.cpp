@@ -1,4 +1,5 @@
 // The law studies as the main window opens, saves, prints and closes them.
+#include "app/BureauEcrans.h"
 #include "app/MdiCamA.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
@@ -9,6 +10,7 @@
 #include "outils/Ecrans.h"
 #include "widgets/ApercuImpression.h"
 #include "widgets/Chaines.h"
+#include "widgets/FenetreEnfant.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -103,6 +105,27 @@ TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
         EXPECT_EQ(dialogues_.boites[0].texte, Texte(23));
         EXPECT_EQ(dialogues_.boites[1].texte, Texte(135));
     }
+}
+
+TEST_F(LoisFenetre, SavingAndPrintingGoToTheLawThatIsOpenWhateverIsInFront) {
+    Declenche("Hesser");
+    FenetreEnfant* loi = mdi_.EcranOuvert("LoiHes");
+    const FenetreEnfant* saisie = mdi_.OuvreEcran("DatoCama");
+    LaisseFaire();
+    EXPECT_TRUE(saisie->EnAvant());
+    EXPECT_FALSE(loi->EnAvant());
+    const auto* bureau = Controle<BureauEcrans>(mdi_, "Bureau");
+    EXPECT_EQ(bureau->Active(), loi);
+
+    // Another study of the record leaves it nothing to save.
+    etude.donnees.TypeLoi.clear();
+    EXPECT_EQ(bureau->Active(), nullptr);
+    etude.donnees.TypeLoi = "LoiHesser";
+    loi->Revient();
+    LaisseFaire();
+    EXPECT_EQ(mdi_.EcranOuvert("LoiHes"), nullptr);
+    EXPECT_EQ(bureau->Active(), nullptr);
+    EXPECT_TRUE(saisie->EnAvant());
 }
 
 TEST_F(LoisFenetre, EveryKeyOpensItsStudy) {

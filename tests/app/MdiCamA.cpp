@@ -13,6 +13,7 @@
 #include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/FenetreEnfant.h"
 
 #include <QAction>
 #include <QLabel>
@@ -82,6 +83,10 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
         if (!action->isSeparator()) {
             EXPECT_FALSE(action->icon().isNull()) << S(action->objectName());
         }
+    // A kind that can be calculated has its screens.
+    for (const TypeEtude& type : LesTypesEtude())
+        for (const char* ecran : {type.ecranSaisie, type.ecranResultats})
+            EXPECT_EQ(TrouveEcran(ecran) != nullptr, type.Disponible()) << type.nom << " " << ecran;
     // A kind that cannot be calculated cannot be opened either.
     const QList<QAction*> ouvertures = Action("Ouvre")->menu()->actions();
     for (qsizetype i = 0; i < ouvertures.size(); ++i)
@@ -191,38 +196,6 @@ TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
         EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
         EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DoCyl"), "Text1")->Valeur(), 90);
     }
-}
-
-TEST_F(Fenetre, LaRouteDUneEtudeOuverte) {
-    mdi_.OuvreFichier(Exemple());
-    ASSERT_TRUE(Visible("Resultat"));
-    EXPECT_EQ(etude.resultats.ResultatsPrets, Vrai);
-    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
-    EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "Exemple.Ang " + Texte(118));
-    const double rayon = etude.resultats.RayonMax;
-
-    // The way back leads to the data screen, filled from the record.
-    Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
-    EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
-    ASSERT_TRUE(Visible("DatoCama"));
-    EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DatoCama"), "Text4")->Valeur(), etude.donnees.RayonO1P);
-
-    // Calculated again from there, it can be saved.
-    Clique(*mdi_.EcranOuvert("DatoCama"), "Calculer");
-    ASSERT_TRUE(Visible("Resultat"));
-    EXPECT_FALSE(Visible("DatoCama"));
-    EXPECT_EQ(etude.resultats.RayonMax, rayon);
-    const QTemporaryDir dossier;
-    dialogues_.fichiers.push_back(Chemin(dossier.path()) / "Copie.Ang");
-    QTimer::singleShot(0, &mdi_, [this] { Clique(*Controle<QWidget>(mdi_, "SeleSauv"), "Sauvegarde"); });
-    Action("FichierSauvegarde")->trigger();
-    EXPECT_EQ(Etat(), Texte(127) + " Copie.Ang");
-    EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "Copie.Ang " + Texte(118));
-    EXPECT_TRUE(std::filesystem::exists(Chemin(dossier.path()) / "Copie.Ang"));
-    EXPECT_TRUE(dialogues_.boites.empty());
-
-    Clique(*mdi_.EcranOuvert("Resultat"), "Quitter");
-    EXPECT_TRUE(Visible("DatoCama")) << "the data screen comes back";
 }
 
 TEST_F(Fenetre, UneCameCylindriqueOuverteRevientASonEcranDeSaisie) {
@@ -343,8 +316,8 @@ TEST(CameType, ChoixAuClavierEtTypesInactifs) {
     LaisseFaire();
     for (const ChoixEtude& c : LesChoixEtude()) {
         auto* image = Controle<BoutonImage>(choix, c.image);
-        EXPECT_EQ(image->isEnabled(), TrouveEcran(c.ecran) != nullptr) << c.image;
-        EXPECT_EQ(S(image->text()), Texte(c.texte));
+        EXPECT_EQ(image->isEnabled(), TrouveEcran(c.Ecran()) != nullptr) << c.image;
+        EXPECT_EQ(S(image->text()), Texte(c.Texte()));
     }
     EXPECT_FALSE(Controle<BoutonImage>(choix, "Image8")->isEnabled());
     auto* premiere = Controle<BoutonImage>(choix, "Image1");
@@ -364,25 +337,6 @@ TEST(CameType, ChoixAuClavierEtTypesInactifs) {
     echappe.show();
     QTest::keyClick(&echappe, Qt::Key_Escape);
     EXPECT_FALSE(echappe.isVisible());
-}
-
-TEST(CameType, AucuneLegendeCoupeeDansLesTroisLangues) {
-    for (const char* langue : Langues) {
-        ChoisitLangue(langue);
-        CameType choix;
-        choix.show();
-        Propos propos;
-        propos.show();
-        LaisseFaire();
-        EXPECT_EQ(LegendesCoupees(choix), std::vector<std::string>{}) << langue;
-        EXPECT_EQ(LegendesCoupees(propos), std::vector<std::string>{}) << langue;
-        // The names below the pictures have two lines.
-        for (const BoutonImage* image : choix.findChildren<BoutonImage*>()) {
-            const QRect besoin = image->fontMetrics().boundingRect(QRect(0, 0, image->width() - 24, 1000),
-                                                                   Qt::TextWordWrap | Qt::AlignHCenter, image->text());
-            EXPECT_LE(besoin.height(), 2 * image->fontMetrics().lineSpacing()) << S(image->text());
-        }
-    }
 }
 
 TEST(Propos, MontreLaVersionDuProgramme) {

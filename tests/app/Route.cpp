@@ -9,11 +9,14 @@
 #include "outils/Ecrans.h"
 #include "studies/RapportsCames.h"
 #include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/FenetreEnfant.h"
 #include "widgets/ImprimanteQt.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -32,6 +35,10 @@ protected:
         LaisseFaire();
     }
 
+    bool Visible(const char* nom) {
+        const QWidget* ecran = mdi_.EcranOuvert(nom);
+        return ecran != nullptr && ecran->isVisible();
+    }
     void EntreEtude(QWidget& saisie) {
         Controle<QLineEdit>(saisie, "Text13")->setText("4");
         const std::pair<const char*, const char*> donnees[] = {
@@ -63,7 +70,9 @@ TEST_F(Route, FromTheChooserToPaper) {
     EntreEtude(*saisie);
     CliqueSur(*saisie, "Calculer");
     ASSERT_TRUE(dialogues_.boites.empty()) << dialogues_.boites.back().texte;
-    ASSERT_NE(mdi_.EcranOuvert("Resultat"), nullptr);
+    ASSERT_TRUE(Visible("Resultat"));
+    EXPECT_FALSE(Visible("DatoCama"));
+    EXPECT_EQ(mdi_.EcranOuvert("DatoCama"), saisie) << "hidden, not closed";
     const double rayon = etude.resultats.RayonMax;
 
     const auto nom = [this](const char* fichier) { return dossier_.Chemin() / fichier; };
@@ -79,11 +88,27 @@ TEST_F(Route, FromTheChooserToPaper) {
     for (const char* fichier : {"route.Ang", "route.Pnt", "route_Ext.Scr", "route_Int.Scr"})
         EXPECT_TRUE(std::filesystem::exists(nom(fichier))) << fichier;
 
+    EXPECT_EQ(S(Controle<QLabel>(mdi_, "Etat")->text()), Texte(127) + " route.Ang");
+    EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "route.Ang " + Texte(118)) << "the name it was given";
+    CliqueSur(*mdi_.EcranOuvert("Resultat"), "Quitter");
+    EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
+    EXPECT_TRUE(saisie->isVisible()) << "the data screen comes back";
+
     dialogues_.fichiers = {nom("route.Ang")};
     Controle<QAction>(mdi_, "FichierOuvrir")->trigger();
     EXPECT_EQ(S(mdi_.EcranOuvert("Resultat")->windowTitle()), "route.Ang " + Texte(118));
     EXPECT_EQ(etude.resultats.RayonMax, rayon);
     EXPECT_EQ(etude.donnees.MasseBrasO1A, 0.8);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
+
+    // From a file there is no data screen to come back to: it is opened on the record, and calculates again.
+    CliqueSur(*mdi_.EcranOuvert("Resultat"), "Quitter");
+    ASSERT_TRUE(Visible("DatoCama"));
+    EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DatoCama"), "Text4")->Valeur(), 70);
+    CliqueSur(*mdi_.EcranOuvert("DatoCama"), "Calculer");
+    ASSERT_TRUE(Visible("Resultat"));
+    EXPECT_EQ(etude.resultats.RayonMax, rayon);
+    EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
 
     MarquesImpression toutes;
     toutes.fill(true);

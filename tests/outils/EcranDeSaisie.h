@@ -41,13 +41,4 @@ protected:
             QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
         }
     }
-    void ChercheLegendesCoupees() {
-        for (const char* langue : {"Français", "Español", "English"}) {
-            ChoisitLangue(langue);
-            Ouvre();
-            ecran->resize(ecran->sizeHint());
-            LaisseFaire();
-            for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
-        }
-    }
 };

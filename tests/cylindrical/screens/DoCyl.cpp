@@ -85,10 +85,6 @@ TEST_F(SaisieCyl, OneZoneMayTakeItsLawFromAFileAndTurnsMayNotOverlap) {
     EXPECT_NEAR(etude.resultats.RayonMax, 20, 1e-6);
 }
 
-TEST_F(SaisieCyl, NoCaptionIsCutInAnyLanguage) {
-    ChercheLegendesCoupees();
-}
-
 TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
     etude.donnees.TypeCame = "Oscillation";
     SuitReturn({"Text1", "Text2", "Text3", "RayonGalet", "VitesseCame", "Text6", "Text7", "NombreZones"});
@@ -125,8 +121,4 @@ TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
     EXPECT_EQ(etude.donnees.InertieMasseA, 0.06);
     EXPECT_NEAR(etude.resultats.Points[90].Rayon, 0, 1e-12);
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(0, 3), "180") << "angles, and no radii";
-}
-
-TEST_F(SaisieCylOsc, NoCaptionIsCutInAnyLanguage) {
-    ChercheLegendesCoupees();
 }

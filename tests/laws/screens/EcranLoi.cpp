@@ -225,32 +225,6 @@ TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {
 #endif
 }
 
-TEST_F(EcransLois, NothingIsCutInAnyLanguage) {
-    for (const char* langue : {"Français", "Español", "English"}) {
-        ChoisitLangue(langue);
-        for (const EtudeLoi& loi : LesEtudesLois()) {
-            Ouvre(loi.ecran, {}, "MS_Spe");
-            for (const char* option : {"Option1", "Option2"}) {
-                Controle<QRadioButton>(*ecran_, option)->click();
-                LaisseFaire();
-                EXPECT_EQ(LegendesCoupees(*ecran_), std::vector<std::string>{}) << langue << " " << loi.ecran;
-            }
-        }
-        for (const char* chooser : {"QuelLoi", "QuelLoiSpe"}) {
-            QuelLoi ecran(chooser);
-            ecran.show();
-            LaisseFaire();
-            EXPECT_EQ(LegendesCoupees(ecran), std::vector<std::string>{}) << langue;
-            // The names below the pictures have two lines.
-            for (const auto* image : ecran.findChildren<BoutonImage*>()) {
-                const QRect besoin = image->fontMetrics().boundingRect(
-                    QRect(0, 0, image->width() - 24, 1000), Qt::TextWordWrap | Qt::AlignHCenter, image->text());
-                EXPECT_LE(besoin.height(), 2 * image->fontMetrics().lineSpacing()) << S(image->text());
-            }
-        }
-    }
-}
-
 TEST(QuelLoi, PicturesAreChosenByKeyAndShowTheirCoefficients) {
     QuelLoi ecran("QuelLoi");
     ecran.show();

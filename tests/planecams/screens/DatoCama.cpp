@@ -246,10 +246,6 @@ TEST_F(SaisieBras, GravityIsCutBackToATurn) {
     EXPECT_EQ(etude.donnees.AnglePesanteur, 12.5) << "the scroll bar's whole degrees do not round the entry";
 }
 
-TEST_F(SaisieBras, NoCaptionIsCutInAnyLanguage) {
-    ChercheLegendesCoupees();
-}
-
 TEST_F(SaisieBras, ALawFileIsOfferedToOneZoneOnly) {
     auto* lois = Controle<QComboBox>(*ecran, "Combo1");
     Tape("Text13", "1");

@@ -203,15 +203,3 @@ TEST_F(FenetreResultat, OpensAndTurnsFastEnough) {
     EXPECT_LT(ouverture, 1500);
     EXPECT_LT(pas, 100);
 }
-
-TEST_F(FenetreResultat, NoCaptionIsCutInAnyLanguage) {
-    for (const char* langue : {"Français", "Español", "English"}) {
-        ChoisitLangue(langue);
-        Ouvre();
-        for (int onglet = 0; onglet < 5; ++onglet) {
-            Controle<QTabWidget>(*ecran, "SSTab1")->setCurrentIndex(onglet);
-            LaisseFaire();
-            for (const auto& coupee : LegendesCoupees(*ecran)) ADD_FAILURE() << langue << " " << coupee;
-        }
-    }
-}

@@ -77,13 +77,3 @@ TEST_F(Sauvegarde, AFileThatCannotBeWrittenKeepsTheStudy) {
     EXPECT_EQ(etude.donnees.NombreZones, 4);
     EXPECT_TRUE(ecran.isVisible()) << "another place can be chosen";
 }
-
-TEST_F(Sauvegarde, NoCaptionIsCutInAnyLanguage) {
-    for (const char* langue : {"Français", "Español", "English"}) {
-        ChoisitLangue(langue);
-        SeleSauv ecran;
-        ecran.show();
-        LaisseFaire();
-        for (const auto& coupee : LegendesCoupees(ecran)) ADD_FAILURE() << langue << " " << coupee;
-    }
-}

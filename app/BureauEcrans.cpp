@@ -1,0 +1,115 @@
+#include "app/BureauEcrans.h"
+
+#include "app/Ecrans.h"
+#include "widgets/FenetreEnfant.h"
+
+#include <QEvent>
+#include <QMdiSubWindow>
+#include <QScreen>
+
+namespace {
+
+FenetreEnfant* FenetreDe(QMdiSubWindow* cadre) {
+    return cadre == nullptr ? nullptr : qobject_cast<FenetreEnfant*>(cadre->widget());
+}
+
+} // namespace
+
+BureauEcrans::BureauEcrans(QWidget* parent) : QMdiArea(parent) {
+    setObjectName(QStringLiteral("Bureau"));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+QMdiSubWindow* BureauEcrans::Cadre(std::string_view nom) const {
+    const auto trouve = cadres_.find(nom);
+    return trouve == cadres_.end() ? nullptr : trouve->second.data();
+}
+
+FenetreEnfant* BureauEcrans::Ouverte(std::string_view nom) const {
+    return FenetreDe(Cadre(nom));
+}
+
+FenetreEnfant* BureauEcrans::Ouvre(std::string_view nom) {
+    const EcranEnfant* ecran = TrouveEcran(nom);
+    if (ecran == nullptr) return nullptr;
+    Ferme(nom);
+    FenetreEnfant* fenetre = ecran->cree(ecran->nom);
+    emit Creee(fenetre);
+    QMdiSubWindow* cadre = addSubWindow(fenetre, Qt::SubWindow);
+    cadre->setSystemMenu(nullptr); // its entries are not in the working language
+    cadre->installEventFilter(this);
+    cadres_[ecran->nom] = cadre;
+    Place(*cadre);
+    cadre->show();
+    return fenetre;
+}
+
+/// In the middle of the desk; the main window grows where the display has room.
+void BureauEcrans::Place(QMdiSubWindow& cadre) {
+    const QSize besoin = cadre.sizeHint();
+    const QSize manque = (besoin - viewport()->size()).expandedTo({0, 0});
+    QWidget* principale = window();
+    if (!principale->isMaximized() && !manque.isNull())
+        principale->resize((principale->size() + manque).boundedTo(screen()->availableSize()));
+    const QSize place = viewport()->size();
+    cadre.resize(besoin.boundedTo(place));
+    cadre.move((place.width() - cadre.width()) / 2, (place.height() - cadre.height()) / 2);
+}
+
+void BureauEcrans::Montre(std::string_view nom) {
+    if (QMdiSubWindow* cadre = Cadre(nom))
+        cadre->show();
+    else
+        Ouvre(nom);
+}
+
+void BureauEcrans::Cache(std::string_view nom) {
+    if (QMdiSubWindow* cadre = Cadre(nom)) cadre->hide();
+}
+
+void BureauEcrans::Ferme(std::string_view nom) {
+    const auto trouve = cadres_.find(nom);
+    if (trouve == cadres_.end()) return;
+    const QPointer<QMdiSubWindow> cadre = trouve->second;
+    cadres_.erase(trouve);
+    if (!cadre) return;
+    if (FenetreEnfant* fenetre = FenetreDe(cadre)) fenetre->Ferme();
+    etude.resultats.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
+    cadre->hide();
+    removeSubWindow(cadre);
+    cadre->deleteLater(); // the request may come out of one of its own buttons
+}
+
+void BureauEcrans::FermeTout() {
+    for (const EcranEnfant& ecran : LesEcrans()) Ferme(ecran.nom);
+}
+
+FenetreEnfant* BureauEcrans::Active() const {
+    const EcranEnfant* premier = nullptr;
+    for (const EcranEnfant& ecran : LesEcrans()) {
+        if (ecran.rang == 0 || (premier != nullptr && premier->rang < ecran.rang)) continue;
+        const FenetreEnfant* fenetre = Ouverte(ecran.nom);
+        if (fenetre != nullptr && fenetre->Active()) premier = &ecran;
+    }
+    return premier == nullptr ? nullptr : Ouverte(premier->nom);
+}
+
+void BureauEcrans::Dit(void (FenetreEnfant::*quoi)()) const {
+    for (const EcranEnfant& ecran : LesEcrans())
+        if (FenetreEnfant* fenetre = Ouverte(ecran.nom)) (fenetre->*quoi)();
+}
+
+bool BureauEcrans::eventFilter(QObject* objet, QEvent* evenement) {
+    FenetreEnfant* fenetre = FenetreDe(qobject_cast<QMdiSubWindow*>(objet));
+    if (fenetre != nullptr && Ouverte(fenetre->Nom()) == fenetre) {
+        if (evenement->type() == QEvent::ToolTip) return true; // those of the title bar are not in the working language
+        if (evenement->type() == QEvent::Close) {
+            // The cross of a child window is its way back, with all that the screen does then.
+            evenement->ignore();
+            fenetre->Revient();
+            return true;
+        }
+    }
+    return QMdiArea::eventFilter(objet, evenement);
+}

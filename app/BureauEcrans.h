@@ -1,0 +1,56 @@
+// The desk of child windows: which are open, where they stand, which is in front, and which of them takes saving and
+// printing. It knows each by its row only (app/Ecrans).
+#pragma once
+
+#include <QMdiArea>
+#include <QPointer>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+class FenetreEnfant;
+class QMdiSubWindow;
+
+class BureauEcrans : public QMdiArea {
+    Q_OBJECT
+
+public:
+    explicit BureauEcrans(QWidget* parent = nullptr);
+
+    /// Opens a child window, made anew.
+    /// @return none when it is not built.
+    FenetreEnfant* Ouvre(std::string_view nom);
+
+    /// The child window of that name that is open, shown or hidden; none otherwise.
+    FenetreEnfant* Ouverte(std::string_view nom) const;
+
+    /// Shows a child window as it was hidden; opens it when it is not open.
+    void Montre(std::string_view nom);
+
+    void Cache(std::string_view nom);
+    void Ferme(std::string_view nom);
+
+    /// Closes all of them, in the order of their rows.
+    void FermeTout();
+
+    /// The window that saving and printing go to; none when they go to the cam study.
+    FenetreEnfant* Active() const;
+
+    /// Tells every open window.
+    void Dit(void (FenetreEnfant::*quoi)()) const;
+
+signals:
+    /// A child window was made: whoever listens to it does so from now on.
+    void Creee(FenetreEnfant* fenetre);
+
+protected:
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+private:
+    QMdiSubWindow* Cadre(std::string_view nom) const;
+    void Place(QMdiSubWindow& cadre);
+
+    std::map<std::string, QPointer<QMdiSubWindow>, std::less<>> cadres_; ///< of the open windows, by name
+};

@@ -1,0 +1,68 @@
+// A child window, as far as the main window knows it: its name, its way back, what it takes of saving and printing, and
+// what it tells. A screen overrides what is its own; the desk of child windows opens and closes it.
+#pragma once
+
+#include "core/Etude.h"
+
+#include <QWidget>
+
+class Imprimante;
+class QAbstractButton;
+
+class FenetreEnfant : public QWidget {
+    Q_OBJECT
+
+public:
+    std::string Nom() const { return objectName().toStdString(); }
+
+    /// True for the window that the user works in.
+    bool EnAvant() const;
+
+    /// Leaves the screen as its own way back does.
+    void Revient();
+
+    /// True while saving and printing go to this window instead of to a cam study: its flag is set. A window that has
+    /// none and stays beside the studies says here when it takes them.
+    virtual bool Active() const;
+
+    /// Whether the active window has anything to save, or to print.
+    virtual bool PretAEnregistrer() const;
+    virtual bool PretAImprimer() const;
+
+    /// Saves what the active window holds.
+    virtual void Enregistrer() {}
+
+    /// Prints what the active window holds, and ends the document; its title is the window's.
+    virtual void Imprime(Imprimante&) const {}
+
+    /// The results of the study record are to be shown, those of another calculation.
+    virtual void Montre() {}
+
+    /// The study has another file name.
+    virtual void MontreNomFichier() {}
+
+    /// Brings the turning cam to the front, where this window has one.
+    virtual void MontreRotation() {}
+
+    /// What the window leaves in the study record when it is closed. What an active window holds goes with it.
+    virtual void Ferme();
+
+signals:
+    void EtudeCalculee();                       ///< the study is calculated and its results are to be shown
+    void EtudeRecalculee();                     ///< what this window shows was calculated
+    void FichierEnregistre(const QString& nom); ///< name without folder
+    void ImpressionDemandee();                  ///< this window is to be printed
+    void Quitte();                              ///< the window is given up
+
+protected:
+    /// @param nom the screen's name
+    /// @param active its flag, set from here on until it is closed; none for a window of a cam study
+    explicit FenetreEnfant(const char* nom, QWidget* parent, Booleen16 DonneesEtude::*active = nullptr);
+
+    /// The button of the way back, which Escape and the cross of the window click.
+    void RevientPar(QAbstractButton& bouton);
+
+private:
+    Booleen16 DonneesEtude::*active_;
+    QAbstractButton* retour_ = nullptr;
+};

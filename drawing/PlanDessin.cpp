@@ -5,12 +5,28 @@
 #include <algorithm>
 #include <cmath>
 
-PlanDessin::PlanDessin(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge, double bandeau)
-    : dessin_(dessin),
-      echelle_(std::max(0.0, std::min((dessin.Largeur() - 2 * marge) / (coinHaut.x - coinBas.x),
-                                      (dessin.Hauteur() - bandeau - 2 * marge) / (coinHaut.y - coinBas.y)))),
-      x0_(dessin.Largeur() / 2 - echelle_ * (coinBas.x + coinHaut.x) / 2),
-      y0_((dessin.Hauteur() + bandeau) / 2 + echelle_ * (coinBas.y + coinHaut.y) / 2) {}
+namespace {
+
+/// Where the origin of the plane stands when its middle is in the middle of the surface, below the band.
+PointDessin Origine(const Dessin& dessin, const Etendue& e, double echelle, double bandeau) {
+    return {dessin.Largeur() / 2 - echelle * (e.bas.x + e.haut.x) / 2,
+            (dessin.Hauteur() + bandeau) / 2 + echelle * (e.bas.y + e.haut.y) / 2};
+}
+
+double EchelleQuiTient(const Dessin& dessin, const Etendue& e, double marge, double bandeau) {
+    return std::max(0.0, std::min((dessin.Largeur() - 2 * marge) / e.Largeur(),
+                                  (dessin.Hauteur() - bandeau - 2 * marge) / e.Hauteur()));
+}
+
+} // namespace
+
+PlanDessin::PlanDessin(Dessin& dessin, const Etendue& etendue, double marge, double bandeau)
+    : dessin_(dessin), echelle_(EchelleQuiTient(dessin, etendue, marge, bandeau)),
+      x0_(Origine(dessin, etendue, echelle_, bandeau).x), y0_(Origine(dessin, etendue, echelle_, bandeau).y) {}
+
+PlanDessin PlanDessin::AEchelle(Dessin& dessin, const Etendue& etendue, double echelle) {
+    return {dessin, echelle, Origine(dessin, etendue, echelle, 0)};
+}
 
 void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein) {
     std::vector<PointDessin> places;

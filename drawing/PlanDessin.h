@@ -2,6 +2,7 @@
 // in.
 #pragma once
 
+#include "drawing/Etendue.h"
 #include "platform/Dessin.h"
 
 #include <span>
@@ -10,9 +11,11 @@
 
 class PlanDessin {
 public:
-    /// @param coinBas, coinHaut the corners of what must be seen
+    /// As large as it fits. @param etendue what must be seen
     /// @param marge free around it, `bandeau` free above it, in the unit of the surface
-    PlanDessin(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge, double bandeau = 0);
+    PlanDessin(Dessin& dessin, const Etendue& etendue, double marge, double bandeau = 0);
+    /// To a scale, in the middle of the surface. @param echelle units of the surface for one of the mechanism
+    static PlanDessin AEchelle(Dessin& dessin, const Etendue& etendue, double echelle);
 
     PointDessin operator()(PointDessin p) const { return {x0_ + echelle_ * p.x, y0_ - echelle_ * p.y}; }
     /// Units of the surface for one of the mechanism.
@@ -30,6 +33,9 @@ public:
     void Cote(PointDessin a, PointDessin b, const Trait& t);
 
 private:
+    PlanDessin(Dessin& dessin, double echelle, PointDessin origine)
+        : dessin_(dessin), echelle_(echelle), x0_(origine.x), y0_(origine.y) {}
+
     Dessin& dessin_;
     double echelle_, x0_, y0_;
 };

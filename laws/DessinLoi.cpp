@@ -2,9 +2,9 @@
 
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/Graduations.h"
+#include "drawing/LegendeDessin.h"
 #include "laws/EtudesLois.h"
-#include "reports/Graduations.h"
-#include "reports/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -175,7 +175,8 @@ void DessineImage(Dessin& dessin, const Tableau<PointLoi>& table, double marge) 
 
 void DessineNoms(Dessin& dessin, double y, double hauteur) {
     std::vector<EntreeLegende> entrees;
-    for (const CourbeLoi& courbe : courbes) entrees.push_back({{courbe.couleur, 2.0}, courbe.texte, courbe.couleur});
+    for (const CourbeLoi& courbe : courbes)
+        entrees.push_back({{courbe.couleur, 2.0}, Texte(courbe.texte), courbe.couleur});
     DessineLegende(dessin, {hauteur / 2, y}, hauteur, entrees);
 }
 

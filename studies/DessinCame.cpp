@@ -4,8 +4,9 @@
 #include "studies/DessinCame.h"
 
 #include "core/Etude.h"
+#include "data/Textes.h"
+#include "drawing/LegendeDessin.h"
 #include "drawing/PlanDessin.h"
-#include "reports/LegendeDessin.h"
 #include "studies/TypesEtude.h"
 
 #include <algorithm>
@@ -39,20 +40,9 @@ double LongueurTige() {
 }
 
 /// What the drawing covers at any angle, so that the scale does not change while the cam turns.
-struct Etendue {
-    double gauche, bas, droite, haut;
-
-    void Contient(PointDessin p, double rayon) {
-        gauche = std::min(gauche, p.x - rayon);
-        droite = std::max(droite, p.x + rayon);
-        bas = std::min(bas, p.y - rayon);
-        haut = std::max(haut, p.y + rayon);
-    }
-};
-
 Etendue CalculeEtendue() {
     const double came = etude.resultats.RayonMax + etude.donnees.RayonGalet;
-    Etendue e{-came, -came, came, came};
+    Etendue e{{-came, -came}, {came, came}};
     if (!ABras()) {
         e.Contient({0, came + LongueurTige()}, 2);
         return e;
@@ -75,11 +65,14 @@ template <class X, class Y> std::vector<PointDessin> CourbeTournee(const PlanDes
     return points;
 }
 
-constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
-                                     {{Couleur::TexteDiscret, 2.0}, 290},
-                                     {{Couleur::Primitif, 2.0, true}, 293},
-                                     {{Couleur::Galet, 2.0}, 289},
-                                     {{Couleur::Bras, 2.0}, 217}};
+void DessineNoms(Dessin& dessin) {
+    std::vector<EntreeLegende> legende = {{{Couleur::Came, 2.0}, Texte(291)},
+                                          {{Couleur::TexteDiscret, 2.0}, Texte(290)},
+                                          {{Couleur::Primitif, 2.0, true}, Texte(293)},
+                                          {{Couleur::Galet, 2.0}, Texte(289)}};
+    if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    DessineLegende(dessin, {14, 16}, 12, legende);
+}
 
 void DessineProfils(Dessin& dessin, const PlanDessin& vue, double radians) {
     const auto interieur = CourbeTournee(
@@ -121,8 +114,7 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     const long i = std::clamp(static_cast<long>(Arrondi(angle * etude.donnees.PointsParDegre)), 0L,
                               static_cast<long>(etude.resultats.NombrePoints));
     constexpr double marge = 14, bandeau = 26;
-    const Etendue etendue = CalculeEtendue();
-    const PlanDessin vue(dessin, {etendue.gauche, etendue.bas}, {etendue.droite, etendue.haut}, marge, bandeau);
+    const PlanDessin vue(dessin, CalculeEtendue(), marge, bandeau);
     const PointDessin P = CentreGalet(i);
     const double radians = std::atan2(P.y, P.x) - etude.resultats.Points[i].Angle / RadDeg;
     DessineProfils(dessin, vue, radians);
@@ -136,6 +128,5 @@ void DessineCamePlate(Dessin& dessin, double angle) {
         DessineBras(dessin, vue, i);
     else
         dessin.Ligne(vue(P), vue({P.x, P.y + etude.donnees.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
-    // The arm stands last.
-    DessineLegende(dessin, {14, 16}, 12, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
+    DessineNoms(dessin);
 }

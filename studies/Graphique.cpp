@@ -5,8 +5,8 @@
 #include "cylindrical/DonneesCyl.h"
 #include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
-#include "reports/Graduations.h"
-#include "reports/LegendeDessin.h"
+#include "drawing/Graduations.h"
+#include "drawing/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,7 +59,7 @@ void DessineGraduations(Dessin& dessin, const Cadre& c, double maximum, std::siz
 void DessineNoms(Dessin& dessin, const Cadre& c, std::span<const Courbe> courbes) {
     std::vector<EntreeLegende> entrees;
     for (std::size_t rang = 0; rang < courbes.size(); ++rang)
-        entrees.push_back({{couleurs[rang], 2.0}, courbes[rang].legende, couleurs[rang]});
+        entrees.push_back({{couleurs[rang], 2.0}, Texte(courbes[rang].legende), couleurs[rang]});
     DessineLegende(dessin, {c.gauche, c.haut - 1.4 * c.texte}, c.texte, entrees);
 }
 

@@ -4,8 +4,8 @@
 #include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/Graduations.h"
 #include "reports/CadrePages.h"
-#include "reports/Graduations.h"
 #include "studies/Graphique.h"
 #include "studies/RapportsCames.h"
 

@@ -5,13 +5,14 @@
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/LegendeDessin.h"
+#include "drawing/PlanDessin.h"
 #include "reports/CadrePages.h"
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -23,17 +24,6 @@ constexpr double HauteurTexte = 2.8; // mm
 constexpr double Marge = 3;          // around the drawing, mm
 constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primitif, 0.18, true},
     traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18};
-
-struct Etendue {
-    double gauche = 0, bas = 0, droite = 0, haut = 0; // the cam centre is always in it
-
-    void Contient(PointDessin p) {
-        gauche = std::min(gauche, p.x);
-        droite = std::max(droite, p.x);
-        bas = std::min(bas, p.y);
-        haut = std::max(haut, p.y);
-    }
-};
 
 using Courbes = std::vector<std::vector<PointDessin>>;
 
@@ -53,26 +43,17 @@ Courbes CourbesCame() {
 /// The largest scale at which the drawing fits; the smallest there is for a cam that fits at none.
 double ChoisitEchelle(const Etendue& e, double largeur, double hauteur) {
     for (const double echelle : echelles)
-        if (echelle * (e.droite - e.gauche) <= largeur && echelle * (e.haut - e.bas) <= hauteur) return echelle;
+        if (echelle * e.Largeur() <= largeur && echelle * e.Hauteur() <= hauteur) return echelle;
     return *std::rbegin(echelles);
 }
 
 /// What each stroke is, in one row that takes the width of the page at most.
-void DessineLegende(Dessin& dessin) {
+void DessineNoms(Dessin& dessin) {
     // Both profiles are drawn alike: one entry names them.
-    const std::pair<Trait, std::string> entrees[] = {
+    const EntreeLegende entrees[] = {
         {traitProfil, Texte(291) + ", " + Texte(290)}, {traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}};
-    constexpr double trait = 8, blanc = 2, ecart = 6;
-    double longueur = -ecart;
-    for (const auto& [plume, nom] : entrees) longueur += trait + blanc + dessin.LargeurTexte(nom, HauteurTexte) + ecart;
-    const double reduction = std::min(1.0, dessin.Largeur() / longueur);
-    double x = 0;
-    for (const auto& [plume, nom] : entrees) {
-        dessin.Ligne({x, HauteurTexte}, {x + trait * reduction, HauteurTexte}, plume);
-        x += (trait + blanc) * reduction;
-        dessin.Texte({x, HauteurTexte}, nom, Ancrage::Gauche, HauteurTexte * reduction);
-        x += dessin.LargeurTexte(nom, HauteurTexte * reduction) + ecart * reduction;
-    }
+    DessineLegende(dessin, {0, HauteurTexte}, HauteurTexte, entrees,
+                   {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
 }
 
 /// A bar of known length, to check that the printer has not resized the page.
@@ -87,26 +68,22 @@ void DessineRegle(Dessin& dessin) {
 /// Draws the profile into the surface, below the legend and above the bar. Gives the scale.
 double DessineProfil(Dessin& dessin) {
     constexpr double bande = 2.5 * HauteurTexte;
-    Courbes courbes = CourbesCame();
-    Etendue e;
+    const Courbes courbes = CourbesCame();
+    Etendue e{}; // the cam centre is always in it
     for (const auto& courbe : courbes)
         for (const PointDessin& p : courbe) e.Contient(p);
     const double largeur = dessin.Largeur() - 2 * Marge, hauteur = dessin.Hauteur() - 2 * bande - 2 * Marge;
     const double echelle = ChoisitEchelle(e, largeur, hauteur);
-    const double x0 = dessin.Largeur() / 2 - echelle * (e.gauche + e.droite) / 2;
-    const double y0 = dessin.Hauteur() / 2 + echelle * (e.bas + e.haut) / 2;
-    const auto surPapier = [&](PointDessin p) { return PointDessin{x0 + echelle * p.x, y0 - echelle * p.y}; };
-
-    const PointDessin galet = surPapier(courbes[2].front()), centre = surPapier({0, 0});
-    for (auto& courbe : courbes) std::transform(courbe.begin(), courbe.end(), courbe.begin(), surPapier);
-    const double croix = echelle * etude.resultats.RayonMin / 6;
-    dessin.Ligne({centre.x - croix, centre.y}, {centre.x + croix, centre.y}, traitAxe);
-    dessin.Ligne({centre.x, centre.y - croix}, {centre.x, centre.y + croix}, traitAxe);
-    dessin.Ligne(centre, galet, {Couleur::Repere, 0.18});
-    dessin.Polyligne(courbes[2], traitPrimitif);
-    dessin.Cercle(galet, echelle * etude.donnees.RayonGalet, traitGalet);
-    dessin.Polyligne(courbes[0], traitProfil);
-    dessin.Polyligne(courbes[1], traitProfil);
+    PlanDessin plan = PlanDessin::AEchelle(dessin, e, echelle);
+    const PointDessin galet = courbes[2].front();
+    const double croix = etude.resultats.RayonMin / 6;
+    plan.Ligne({-croix, 0}, {croix, 0}, traitAxe);
+    plan.Ligne({0, croix}, {0, -croix}, traitAxe);
+    plan.Ligne({0, 0}, galet, {Couleur::Repere, 0.18});
+    plan.Contour(courbes[2], traitPrimitif, false);
+    plan.Cercle(galet, etude.donnees.RayonGalet, traitGalet);
+    plan.Contour(courbes[0], traitProfil, false);
+    plan.Contour(courbes[1], traitProfil, false);
     return echelle;
 }
 
@@ -117,7 +94,7 @@ public:
         // Room for the graduations outside the cylinder, mm.
         constexpr double chiffres = 16;
         const double largeur = dessin.Largeur() - 2 * chiffres, hauteur = dessin.Hauteur() - 2 * bande - 2 * chiffres;
-        const Etendue couchee{0, 0, d.largeur, d.haut - d.bas}, debout{0, 0, d.haut - d.bas, d.largeur};
+        const Etendue couchee{{0, 0}, {d.largeur, d.haut - d.bas}}, debout{{0, 0}, {d.haut - d.bas, d.largeur}};
         echelle = ChoisitEchelle(couchee, largeur, hauteur);
         debout_ = ChoisitEchelle(debout, largeur, hauteur) > echelle;
         if (debout_) echelle = ChoisitEchelle(debout, largeur, hauteur);
@@ -198,7 +175,7 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
     double echelle = 1;
     {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
-        DessineLegende(*dessin);
+        DessineNoms(*dessin);
         echelle = dessine(*dessin);
         DessineRegle(*dessin);
     }

@@ -28,10 +28,11 @@ PlanDessin PlanDessin::AEchelle(Dessin& dessin, const Etendue& etendue, double e
     return {dessin, echelle, Origine(dessin, etendue, echelle, 0)};
 }
 
-void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein) {
+void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein, double radians) {
+    const double c = std::cos(radians), s = std::sin(radians);
     std::vector<PointDessin> places;
     places.reserve(points.size());
-    for (const PointDessin& p : points) places.push_back((*this)(p));
+    for (const PointDessin& p : points) places.push_back((*this)({c * p.x - s * p.y, s * p.x + c * p.y}));
     plein ? dessin_.Surface(places, t) : dessin_.Polyligne(places, t);
 }
 
@@ -50,6 +51,11 @@ void PlanDessin::Cote(PointDessin a, PointDessin b, const Trait& t) {
 
 PointDessin Polaire(PointDessin centre, double rayon, double degres) {
     return {centre.x + rayon * std::cos(degres / RadDeg), centre.y + rayon * std::sin(degres / RadDeg)};
+}
+
+PointDessin Tourne(PointDessin p, double radians) {
+    const double c = std::cos(radians), s = std::sin(radians);
+    return {c * p.x - s * p.y, s * p.x + c * p.y};
 }
 
 std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a) {

@@ -27,7 +27,8 @@ public:
     void Nom(PointDessin p, const std::string& nom, Ancrage ancrage, bool accent) {
         dessin_.Texte((*this)(p), nom, ancrage, 13, accent ? Couleur::Repere : Couleur::Texte);
     }
-    void Contour(std::span<const PointDessin> points, const Trait& t, bool plein);
+    /// @param radians that the curve is turned about the origin, counter-clockwise
+    void Contour(std::span<const PointDessin> points, const Trait& t, bool plein, double radians = 0);
     void Fleche(PointDessin de, PointDessin vers, const Trait& t);
     /// A dimension line with an arrow at both ends.
     void Cote(PointDessin a, PointDessin b, const Trait& t);
@@ -42,5 +43,8 @@ private:
 
 /// The point at `rayon` from `centre` in a direction in degrees from the x axis, counter-clockwise.
 PointDessin Polaire(PointDessin centre, double rayon, double degres);
+
+/// `p` turned about the origin, counter-clockwise.
+PointDessin Tourne(PointDessin p, double radians);
 
 std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a);

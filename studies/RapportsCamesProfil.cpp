@@ -5,47 +5,23 @@
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/EchellePapier.h"
 #include "drawing/LegendeDessin.h"
 #include "drawing/PlanDessin.h"
 #include "reports/CadrePages.h"
+#include "studies/ContoursCame.h"
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// The scales of technical drawings, in paper millimetres a millimetre of the cam.
-constexpr double echelles[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01};
-
 constexpr double HauteurTexte = 2.8; // mm
 constexpr double Marge = 3;          // around the drawing, mm
 constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primitif, 0.18, true},
     traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18};
-
-using Courbes = std::vector<std::vector<PointDessin>>;
-
-/// Inner profile, outer profile and pitch curve, cam millimetres.
-Courbes CourbesCame() {
-    Courbes courbes(3);
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
-        const PointProfil& p = etude.resultats.Profil[i];
-        const double angle = etude.resultats.Points[i].Angle / RadDeg, rayon = etude.resultats.Points[i].Rayon;
-        courbes[0].push_back({p.XInterieur, p.YInterieur});
-        courbes[1].push_back({p.XExterieur, p.YExterieur});
-        courbes[2].push_back({rayon * std::cos(angle), rayon * std::sin(angle)});
-    }
-    return courbes;
-}
-
-/// The largest scale at which the drawing fits; the smallest there is for a cam that fits at none.
-double ChoisitEchelle(const Etendue& e, double largeur, double hauteur) {
-    for (const double echelle : echelles)
-        if (echelle * e.Largeur() <= largeur && echelle * e.Hauteur() <= hauteur) return echelle;
-    return *std::rbegin(echelles);
-}
 
 /// What each stroke is, in one row that takes the width of the page at most.
 void DessineNoms(Dessin& dessin) {
@@ -56,34 +32,25 @@ void DessineNoms(Dessin& dessin) {
                    {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
 }
 
-/// A bar of known length, to check that the printer has not resized the page.
-void DessineRegle(Dessin& dessin) {
-    constexpr double longueur = 50, cran = 2.5;
-    const double y = dessin.Hauteur() - cran, x = dessin.Largeur() - longueur;
-    dessin.Ligne({x, y}, {x + longueur, y}, traitAxe);
-    for (const double bout : {x, x + longueur}) dessin.Ligne({bout, y - cran / 2}, {bout, y + cran / 2}, traitAxe);
-    dessin.Texte({x - 2, y}, "50 " + Texte(UniteMm), Ancrage::Droite, HauteurTexte);
-}
-
 /// Draws the profile into the surface, below the legend and above the bar. Gives the scale.
 double DessineProfil(Dessin& dessin) {
     constexpr double bande = 2.5 * HauteurTexte;
-    const Courbes courbes = CourbesCame();
+    const ContoursCame contours = CalculeContours();
     Etendue e{}; // the cam centre is always in it
-    for (const auto& courbe : courbes)
-        for (const PointDessin& p : courbe) e.Contient(p);
+    for (const auto* courbe : {&contours.interieur, &contours.exterieur, &contours.primitif})
+        for (const PointDessin& p : *courbe) e.Contient(p);
     const double largeur = dessin.Largeur() - 2 * Marge, hauteur = dessin.Hauteur() - 2 * bande - 2 * Marge;
     const double echelle = ChoisitEchelle(e, largeur, hauteur);
     PlanDessin plan = PlanDessin::AEchelle(dessin, e, echelle);
-    const PointDessin galet = courbes[2].front();
+    const PointDessin galet = contours.primitif.front();
     const double croix = etude.resultats.RayonMin / 6;
     plan.Ligne({-croix, 0}, {croix, 0}, traitAxe);
     plan.Ligne({0, croix}, {0, -croix}, traitAxe);
     plan.Ligne({0, 0}, galet, {Couleur::Repere, 0.18});
-    plan.Contour(courbes[2], traitPrimitif, false);
+    plan.Contour(contours.primitif, traitPrimitif, false);
     plan.Cercle(galet, etude.donnees.RayonGalet, traitGalet);
-    plan.Contour(courbes[0], traitProfil, false);
-    plan.Contour(courbes[1], traitProfil, false);
+    plan.Contour(contours.interieur, traitProfil, false);
+    plan.Contour(contours.exterieur, traitProfil, false);
     return echelle;
 }
 
@@ -177,7 +144,7 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
         DessineNoms(*dessin);
         echelle = dessine(*dessin);
-        DessineRegle(*dessin);
+        DessineRegle(*dessin, Texte(UniteMm), HauteurTexte, traitAxe);
     }
     imprimante.PlaceTete(derniereLigne);
     ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));

@@ -1,8 +1,8 @@
 #include "app/CameType.h"
 
 #include "app/Aide.h"
-#include "app/DessinsCames.h"
 #include "app/Ecrans.h"
+#include "drawing/DessinsCames.h"
 #include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/Chaines.h"

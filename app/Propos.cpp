@@ -1,8 +1,8 @@
 #include "app/Propos.h"
 
 #include "app/Aide.h"
-#include "app/DessinsCames.h"
 #include "app/Version.h"
+#include "drawing/DessinsCames.h"
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/ZoneDessin.h"

@@ -3,7 +3,7 @@
 #include "drawing/PlanDessin.h"
 
 void DessinePesanteur(Dessin& dessin, double angle) {
-    PlanDessin plan(dessin, {-50, -50}, {50, 50}, 4);
+    PlanDessin plan(dessin, {{-50, -50}, {50, 50}}, 4);
     plan.Cercle({0, 0}, 48, {Couleur::Graduation, 1.0});
     plan.Ligne({-48, 0}, {48, 0}, {Couleur::Graduation, 1.0, true});
     plan.Ligne({0, -48}, {0, 48}, {Couleur::Graduation, 1.0, true});

@@ -4,12 +4,13 @@
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/LegendeDessin.h"
 #include "drawing/PlanDessin.h"
-#include "reports/LegendeDessin.h"
 
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -22,19 +23,12 @@ bool ABras() {
     return !etude.resultats.Mouvement.Vide();
 }
 
-/// What the drawing covers: the sheet, and the pivot of the arm wherever it is carried.
-struct Etendue {
-    PointDessin bas, haut;
-};
-
+/// The sheet, and the pivot of the arm wherever it is carried.
 Etendue CalculeEtendue(const Developpee& d) {
     Etendue e{{0, d.bas}, {d.largeur, d.haut}};
     if (!ABras()) return e;
-    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
-        const PointDessin pivot = PivotDeveloppe(i);
-        e.bas = {std::min(e.bas.x, pivot.x - RayonPivot), std::min(e.bas.y, pivot.y - RayonPivot)};
-        e.haut = {std::max(e.haut.x, pivot.x + RayonPivot), std::max(e.haut.y, pivot.y + RayonPivot)};
-    }
+    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre)
+        e.Contient(PivotDeveloppe(i), RayonPivot);
     return e;
 }
 
@@ -77,11 +71,14 @@ void DessineSuiveur(Dessin& dessin, PlanDessin& plan, const Developpee& d, long 
     dessin.Texte({x, tete.y - HauteurTexte}, position, Ancrage::Centre, HauteurTexte, Couleur::Repere);
 }
 
-constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
-                                     {{Couleur::Courbe2, 2.0}, 290},
-                                     {{Couleur::Primitif, 2.0, true}, 293},
-                                     {{Couleur::Galet, 2.0}, 289},
-                                     {{Couleur::Bras, 2.0}, 217}};
+void DessineNoms(Dessin& dessin) {
+    std::vector<EntreeLegende> legende = {{{Couleur::Came, 2.0}, Texte(291)},
+                                          {{Couleur::Courbe2, 2.0}, Texte(290)},
+                                          {{Couleur::Primitif, 2.0, true}, Texte(293)},
+                                          {{Couleur::Galet, 2.0}, Texte(289)}};
+    if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    DessineLegende(dessin, {14, 16}, HauteurTexte, legende);
+}
 
 } // namespace
 
@@ -90,11 +87,9 @@ void DessinProfilCyl(Dessin& dessin, double angle) {
     if (d.tours.empty()) return;
     const long i = std::clamp(static_cast<long>(Arrondi(angle * etude.donnees.PointsParDegre)), 0L,
                               static_cast<long>(etude.resultats.NombrePoints));
-    const Etendue etendue = CalculeEtendue(d);
-    PlanDessin plan(dessin, etendue.bas, etendue.haut, Marge, Bandeau);
+    PlanDessin plan(dessin, CalculeEtendue(d), Marge, Bandeau);
     DessineFeuille(dessin, plan, d);
     DessineTours(plan, d);
     DessineSuiveur(dessin, plan, d, i);
-    // The arm stands last.
-    DessineLegende(dessin, {14, 16}, HauteurTexte, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
+    DessineNoms(dessin);
 }

@@ -49,7 +49,7 @@ void DessineTambour(PlanDessin& plan, const Accent& accent) {
 
 void DessineSchemaCyl(Dessin& dessin, const std::string& nom) {
     const Accent accent{nom};
-    PlanDessin plan(dessin, {-96, -108}, {112, 98}, 8);
+    PlanDessin plan(dessin, {{-96, -108}, {112, 98}}, 8);
     DessineTambour(plan, accent);
     const PointDessin P{0, 0};
     plan.Ligne(P, {84, 0}, {Couleur::Bras, 2.2});
@@ -64,7 +64,7 @@ void DessineSchemaCyl(Dessin& dessin, const std::string& nom) {
 void DessineSchemaCylOsc(Dessin& dessin, const std::string& nom) {
     const Accent accent{nom};
     constexpr double angle = 14;
-    PlanDessin plan(dessin, {-146, -108}, {72, 98}, 8);
+    PlanDessin plan(dessin, {{-146, -108}, {72, 98}}, 8);
     DessineTambour(plan, accent);
     const PointDessin P{0, 0}, O1 = Polaire(P, -122, angle);
     plan.Ligne(O1, {-Rayon - 4, O1.y}, axe);

@@ -5,17 +5,34 @@
 #include <algorithm>
 #include <cmath>
 
-PlanDessin::PlanDessin(Dessin& dessin, PointDessin coinBas, PointDessin coinHaut, double marge, double bandeau)
-    : dessin_(dessin),
-      echelle_(std::max(0.0, std::min((dessin.Largeur() - 2 * marge) / (coinHaut.x - coinBas.x),
-                                      (dessin.Hauteur() - bandeau - 2 * marge) / (coinHaut.y - coinBas.y)))),
-      x0_(dessin.Largeur() / 2 - echelle_ * (coinBas.x + coinHaut.x) / 2),
-      y0_((dessin.Hauteur() + bandeau) / 2 + echelle_ * (coinBas.y + coinHaut.y) / 2) {}
+namespace {
 
-void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein) {
+/// Where the origin of the plane stands when its middle is in the middle of the surface, below the band.
+PointDessin Origine(const Dessin& dessin, const Etendue& e, double echelle, double bandeau) {
+    return {dessin.Largeur() / 2 - echelle * (e.bas.x + e.haut.x) / 2,
+            (dessin.Hauteur() + bandeau) / 2 + echelle * (e.bas.y + e.haut.y) / 2};
+}
+
+double EchelleQuiTient(const Dessin& dessin, const Etendue& e, double marge, double bandeau) {
+    return std::max(0.0, std::min((dessin.Largeur() - 2 * marge) / e.Largeur(),
+                                  (dessin.Hauteur() - bandeau - 2 * marge) / e.Hauteur()));
+}
+
+} // namespace
+
+PlanDessin::PlanDessin(Dessin& dessin, const Etendue& etendue, double marge, double bandeau)
+    : dessin_(dessin), echelle_(EchelleQuiTient(dessin, etendue, marge, bandeau)),
+      x0_(Origine(dessin, etendue, echelle_, bandeau).x), y0_(Origine(dessin, etendue, echelle_, bandeau).y) {}
+
+PlanDessin PlanDessin::AEchelle(Dessin& dessin, const Etendue& etendue, double echelle) {
+    return {dessin, echelle, Origine(dessin, etendue, echelle, 0)};
+}
+
+void PlanDessin::Contour(std::span<const PointDessin> points, const Trait& t, bool plein, double radians) {
+    const double c = std::cos(radians), s = std::sin(radians);
     std::vector<PointDessin> places;
     places.reserve(points.size());
-    for (const PointDessin& p : points) places.push_back((*this)(p));
+    for (const PointDessin& p : points) places.push_back((*this)({c * p.x - s * p.y, s * p.x + c * p.y}));
     plein ? dessin_.Surface(places, t) : dessin_.Polyligne(places, t);
 }
 
@@ -34,6 +51,11 @@ void PlanDessin::Cote(PointDessin a, PointDessin b, const Trait& t) {
 
 PointDessin Polaire(PointDessin centre, double rayon, double degres) {
     return {centre.x + rayon * std::cos(degres / RadDeg), centre.y + rayon * std::sin(degres / RadDeg)};
+}
+
+PointDessin Tourne(PointDessin p, double radians) {
+    const double c = std::cos(radians), s = std::sin(radians);
+    return {c * p.x - s * p.y, s * p.x + c * p.y};
 }
 
 std::vector<PointDessin> Arc(PointDessin centre, double rayon, double de, double a) {

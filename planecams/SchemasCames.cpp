@@ -32,7 +32,7 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
     const auto trait = [&](const char* nom, Trait ordinaire) {
         return accent == nom ? Trait{Couleur::Repere, ordinaire.epaisseur + 1} : ordinaire;
     };
-    PlanDessin plan(dessin, {-118, -140}, {72, 62}, 10);
+    PlanDessin plan(dessin, {{-118, -140}, {72, 62}}, 10);
 
     plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
     plan.Ligne({-100, 0}, {66, 0}, axe);
@@ -67,7 +67,7 @@ void DessineSchemaTranslation(Dessin& dessin, const std::string& accent) {
     constexpr double galet = 13;
     const PointDessin O{0, 0}, P{0, 66};
     const Trait cote{Couleur::TexteDiscret, 1.0}, axe{Couleur::Graduation, 1.0, true};
-    PlanDessin plan(dessin, {-90, -84}, {98, 140}, 10);
+    PlanDessin plan(dessin, {{-90, -84}, {98, 140}}, 10);
     plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
     plan.Ligne({-86, 0}, {86, 0}, axe);
     plan.Ligne({0, -80}, {0, 136}, axe);

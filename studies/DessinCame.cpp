@@ -4,8 +4,10 @@
 #include "studies/DessinCame.h"
 
 #include "core/Etude.h"
+#include "data/Textes.h"
+#include "drawing/LegendeDessin.h"
 #include "drawing/PlanDessin.h"
-#include "reports/LegendeDessin.h"
+#include "studies/ContoursCame.h"
 #include "studies/TypesEtude.h"
 
 #include <algorithm>
@@ -39,20 +41,9 @@ double LongueurTige() {
 }
 
 /// What the drawing covers at any angle, so that the scale does not change while the cam turns.
-struct Etendue {
-    double gauche, bas, droite, haut;
-
-    void Contient(PointDessin p, double rayon) {
-        gauche = std::min(gauche, p.x - rayon);
-        droite = std::max(droite, p.x + rayon);
-        bas = std::min(bas, p.y - rayon);
-        haut = std::max(haut, p.y + rayon);
-    }
-};
-
 Etendue CalculeEtendue() {
     const double came = etude.resultats.RayonMax + etude.donnees.RayonGalet;
-    Etendue e{-came, -came, came, came};
+    Etendue e{{-came, -came}, {came, came}};
     if (!ABras()) {
         e.Contient({0, came + LongueurTige()}, 2);
         return e;
@@ -65,39 +56,22 @@ Etendue CalculeEtendue() {
     return e;
 }
 
-/// A curve of the cam, turned by `radians` counter-clockwise.
-template <class X, class Y> std::vector<PointDessin> CourbeTournee(const PlanDessin& vue, double radians, X x, Y y) {
-    const double c = std::cos(radians), s = std::sin(radians);
-    std::vector<PointDessin> points;
-    points.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints) + 1);
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i)
-        points.push_back(vue({c * x(i) - s * y(i), s * x(i) + c * y(i)}));
-    return points;
+void DessineNoms(Dessin& dessin) {
+    std::vector<EntreeLegende> legende = {{{Couleur::Came, 2.0}, Texte(291)},
+                                          {{Couleur::TexteDiscret, 2.0}, Texte(290)},
+                                          {{Couleur::Primitif, 2.0, true}, Texte(293)},
+                                          {{Couleur::Galet, 2.0}, Texte(289)}};
+    if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    DessineLegende(dessin, {14, 16}, 12, legende);
 }
 
-constexpr EntreeLegende legende[] = {{{Couleur::Came, 2.0}, 291},
-                                     {{Couleur::TexteDiscret, 2.0}, 290},
-                                     {{Couleur::Primitif, 2.0, true}, 293},
-                                     {{Couleur::Galet, 2.0}, 289},
-                                     {{Couleur::Bras, 2.0}, 217}};
-
-void DessineProfils(Dessin& dessin, const PlanDessin& vue, double radians) {
-    const auto interieur = CourbeTournee(
-        vue, radians, [](long i) { return etude.resultats.Profil[i].XInterieur; },
-        [](long i) { return etude.resultats.Profil[i].YInterieur; });
-    const auto exterieur = CourbeTournee(
-        vue, radians, [](long i) { return etude.resultats.Profil[i].XExterieur; },
-        [](long i) { return etude.resultats.Profil[i].YExterieur; });
-    const auto primitif = CourbeTournee(
-        vue, radians,
-        [](long i) { return etude.resultats.Points[i].Rayon * std::cos(etude.resultats.Points[i].Angle / RadDeg); },
-        [](long i) { return etude.resultats.Points[i].Rayon * std::sin(etude.resultats.Points[i].Angle / RadDeg); });
+void DessineProfils(PlanDessin& vue, double radians) {
+    const ContoursCame contours = CalculeContours();
     const bool ferme = etude.resultats.NombrePoints >= 360 * etude.donnees.PointsParDegre;
-    const Trait came{Couleur::Came, 1.8};
-    ferme ? dessin.Surface(interieur, came) : dessin.Polyligne(interieur, came);
-    dessin.Polyligne(exterieur, {Couleur::TexteDiscret, 1.0});
-    dessin.Polyligne(primitif, {Couleur::Primitif, 1.0, true});
-    dessin.Ligne(vue({0, 0}), interieur.front(), {Couleur::Repere, 1.0});
+    vue.Contour(contours.interieur, {Couleur::Came, 1.8}, ferme, radians);
+    vue.Contour(contours.exterieur, {Couleur::TexteDiscret, 1.0}, false, radians);
+    vue.Contour(contours.primitif, {Couleur::Primitif, 1.0, true}, false, radians);
+    vue.Ligne({0, 0}, Tourne(contours.interieur.front(), radians), {Couleur::Repere, 1.0});
 }
 
 void NommePoint(Dessin& dessin, const PlanDessin& vue, PointDessin p, const char* nom) {
@@ -121,11 +95,10 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     const long i = std::clamp(static_cast<long>(Arrondi(angle * etude.donnees.PointsParDegre)), 0L,
                               static_cast<long>(etude.resultats.NombrePoints));
     constexpr double marge = 14, bandeau = 26;
-    const Etendue etendue = CalculeEtendue();
-    const PlanDessin vue(dessin, {etendue.gauche, etendue.bas}, {etendue.droite, etendue.haut}, marge, bandeau);
+    PlanDessin vue(dessin, CalculeEtendue(), marge, bandeau);
     const PointDessin P = CentreGalet(i);
     const double radians = std::atan2(P.y, P.x) - etude.resultats.Points[i].Angle / RadDeg;
-    DessineProfils(dessin, vue, radians);
+    DessineProfils(vue, radians);
     const double croix = etude.resultats.RayonMin / 6;
     const Trait axe{Couleur::Axe, 1.0};
     dessin.Ligne(vue({-croix, 0}), vue({croix, 0}), axe);
@@ -136,6 +109,5 @@ void DessineCamePlate(Dessin& dessin, double angle) {
         DessineBras(dessin, vue, i);
     else
         dessin.Ligne(vue(P), vue({P.x, P.y + etude.donnees.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
-    // The arm stands last.
-    DessineLegende(dessin, {14, 16}, 12, std::span(legende).first(std::size(legende) - (ABras() ? 0 : 1)));
+    DessineNoms(dessin);
 }

@@ -5,56 +5,22 @@
 #include "core/Lignes.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "drawing/Script.h"
 #include "studies/TypesEtude.h"
 
 #include <cmath>
 
 namespace {
 
-/// Half length of the arms of a centre cross, mm.
-constexpr double DemiCroix = 5;
-
-/// A text that grows line by line.
-class Script {
-public:
-    Script& Mot(const char* mot) {
-        texte_ += mot;
-        return *this;
-    }
-    Script& Point(double x, double y) {
-        AjouteStr(texte_, x);
-        texte_ += ',';
-        AjouteStr(texte_, y);
-        return *this;
-    }
-    Script& Nombre(double valeur) {
-        AjouteStr(texte_, valeur);
-        return *this;
-    }
-    Script& Fin() {
-        texte_ += FinDeLigne;
-        return *this;
-    }
-    /// An empty line, which ends a command.
-    Script& FinCommande() { return Fin().Fin(); }
-
-    std::string texte_;
-};
-
-void TraceCroixCentre(Script& script) {
-    script.Mot("LIGNE -5,0 5,0").FinCommande();
-    script.Mot("LIGNE 0,-5 0,5").FinCommande();
-}
-
 /// The arm at the start of the motion: a cross at its pivot, the arm itself, and the roller.
 void TraceBras(Script& script) {
-    const double x0 = -etude.donnees.CoteA, y0 = -etude.donnees.CoteB;
+    const PointDessin pivot{-etude.donnees.CoteA, -etude.donnees.CoteB};
     const double a = (etude.donnees.AnglePO1A + etude.donnees.Zones[1].AngleDepart) * Pi / 180.0;
-    const double px = std::cos(a) * etude.donnees.RayonO1P + x0, py = std::sin(a) * etude.donnees.RayonO1P + y0;
-    script.Mot("LIGNE ").Point(x0 - DemiCroix, y0).Fin().Point(x0 + DemiCroix, y0).FinCommande();
-    script.Mot("LIGNE ").Point(x0, y0 - DemiCroix).Fin().Point(x0, y0 + DemiCroix).FinCommande();
-    script.Mot("LIGNE ").Point(x0, y0).Fin().Point(px, py).FinCommande();
-    script.Mot("CERCLE ").Point(px, py).Mot(" d ").Nombre(2.0 * etude.donnees.RayonGalet).Fin();
+    const PointDessin galet{std::cos(a) * etude.donnees.RayonO1P + pivot.x,
+                            std::sin(a) * etude.donnees.RayonO1P + pivot.y};
+    script.Croix(pivot, Script::Saut::Retour);
+    script.Ligne(pivot, galet, Script::Saut::Retour);
+    script.Cercle(galet, 2.0 * etude.donnees.RayonGalet);
 }
 
 /// One profile, turned by `AngleRotation`.
@@ -63,17 +29,14 @@ struct CourbeScript {
     double PointProfil::*y;
     double c = std::cos(etude.resultats.AngleRotation), s = std::sin(etude.resultats.AngleRotation);
 
-    void Pose(Script& script, long i) const {
+    PointDessin operator()(long i) const {
         const double xi = etude.resultats.Profil[i].*x, yi = etude.resultats.Profil[i].*y;
-        script.Point(c * xi + s * yi, -xi * s + yi * c);
+        return {c * xi + s * yi, -xi * s + yi * c};
     }
 
     void TracePolyligne(Script& script) const {
-        script.Mot("_pline").Fin();
-        for (long i = 1; i <= etude.resultats.NombrePoints; ++i) {
-            Pose(script, i);
-            script.Fin();
-        }
+        script.DebutPolyligne();
+        for (long i = 1; i <= etude.resultats.NombrePoints; ++i) script.PointPolyligne((*this)(i));
     }
 };
 
@@ -103,22 +66,20 @@ std::string ComposeFichierPoints() {
 std::string ComposeScriptExterieur() {
     const CourbeScript courbe{&PointProfil::XExterieur, &PointProfil::YExterieur};
     Script script;
-    TraceCroixCentre(script);
-    script.Mot("LIGNE 0,0 ");
-    courbe.Pose(script, 0);
-    script.FinCommande();
+    script.Croix({0, 0}, Script::Saut::Blanc);
+    script.Ligne({0, 0}, courbe(0), Script::Saut::Blanc);
     courbe.TracePolyligne(script);
-    return script.texte_;
+    return script.Texte();
 }
 
 std::string ComposeScriptInterieur() {
     const CourbeScript courbe{&PointProfil::XInterieur, &PointProfil::YInterieur};
     Script script;
-    TraceCroixCentre(script);
+    script.Croix({0, 0}, Script::Saut::Blanc);
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type != nullptr && type->scriptAvecBras) TraceBras(script);
     courbe.TracePolyligne(script);
-    return script.texte_;
+    return script.Texte();
 }
 
 void FichiersPoints() {

@@ -1,8 +1,7 @@
-// A graph of results against the cam angle: axes, graduations, and up to three curves, each with its own vertical
-// scale.
+// The graphs of the results of a study: which columns of the record they show against the cam angle.
 #pragma once
 
-#include "platform/Dessin.h"
+#include "drawing/Graphe.h"
 
 #include <span>
 #include <vector>
@@ -21,5 +20,14 @@ std::vector<Courbe> CourbesBras();   ///< angle, speed and acceleration of the a
 std::vector<Courbe> CourbesForce();  ///< roller force
 std::vector<Courbe> CourbesCouple(); ///< cam torque
 
-/// The horizontal axis lies at mid-height; a maximum of 0 is drawn as if it were 1.
+/// The colours of the curves of a graph, in their order.
+inline constexpr Couleur CouleursCourbes[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
+
+/// The cam angle of the study, with its caption.
+AxeGraphe AxeAngleCame();
+
+/// The points of a curve against the cam angle.
+CourbeGraphe PointsCourbe(const Courbe& courbe, Couleur couleur);
+
+/// Up to three curves in one box, each to its own scale around mid-height; nothing before a study is calculated.
 void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes);

@@ -5,108 +5,52 @@
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "drawing/EchellePapier.h"
+#include "drawing/LegendeDessin.h"
+#include "drawing/PlanDessin.h"
 #include "reports/CadrePages.h"
+#include "studies/ContoursCame.h"
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
-
-/// The scales of technical drawings, in paper millimetres a millimetre of the cam.
-constexpr double echelles[] = {50, 20, 10, 5, 2, 1, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01};
 
 constexpr double HauteurTexte = 2.8; // mm
 constexpr double Marge = 3;          // around the drawing, mm
 constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primitif, 0.18, true},
     traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18};
 
-struct Etendue {
-    double gauche = 0, bas = 0, droite = 0, haut = 0; // the cam centre is always in it
-
-    void Contient(PointDessin p) {
-        gauche = std::min(gauche, p.x);
-        droite = std::max(droite, p.x);
-        bas = std::min(bas, p.y);
-        haut = std::max(haut, p.y);
-    }
-};
-
-using Courbes = std::vector<std::vector<PointDessin>>;
-
-/// Inner profile, outer profile and pitch curve, cam millimetres.
-Courbes CourbesCame() {
-    Courbes courbes(3);
-    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
-        const PointProfil& p = etude.resultats.Profil[i];
-        const double angle = etude.resultats.Points[i].Angle / RadDeg, rayon = etude.resultats.Points[i].Rayon;
-        courbes[0].push_back({p.XInterieur, p.YInterieur});
-        courbes[1].push_back({p.XExterieur, p.YExterieur});
-        courbes[2].push_back({rayon * std::cos(angle), rayon * std::sin(angle)});
-    }
-    return courbes;
-}
-
-/// The largest scale at which the drawing fits; the smallest there is for a cam that fits at none.
-double ChoisitEchelle(const Etendue& e, double largeur, double hauteur) {
-    for (const double echelle : echelles)
-        if (echelle * (e.droite - e.gauche) <= largeur && echelle * (e.haut - e.bas) <= hauteur) return echelle;
-    return *std::rbegin(echelles);
-}
-
 /// What each stroke is, in one row that takes the width of the page at most.
-void DessineLegende(Dessin& dessin) {
+void DessineNoms(Dessin& dessin) {
     // Both profiles are drawn alike: one entry names them.
-    const std::pair<Trait, std::string> entrees[] = {
+    const EntreeLegende entrees[] = {
         {traitProfil, Texte(291) + ", " + Texte(290)}, {traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}};
-    constexpr double trait = 8, blanc = 2, ecart = 6;
-    double longueur = -ecart;
-    for (const auto& [plume, nom] : entrees) longueur += trait + blanc + dessin.LargeurTexte(nom, HauteurTexte) + ecart;
-    const double reduction = std::min(1.0, dessin.Largeur() / longueur);
-    double x = 0;
-    for (const auto& [plume, nom] : entrees) {
-        dessin.Ligne({x, HauteurTexte}, {x + trait * reduction, HauteurTexte}, plume);
-        x += (trait + blanc) * reduction;
-        dessin.Texte({x, HauteurTexte}, nom, Ancrage::Gauche, HauteurTexte * reduction);
-        x += dessin.LargeurTexte(nom, HauteurTexte * reduction) + ecart * reduction;
-    }
-}
-
-/// A bar of known length, to check that the printer has not resized the page.
-void DessineRegle(Dessin& dessin) {
-    constexpr double longueur = 50, cran = 2.5;
-    const double y = dessin.Hauteur() - cran, x = dessin.Largeur() - longueur;
-    dessin.Ligne({x, y}, {x + longueur, y}, traitAxe);
-    for (const double bout : {x, x + longueur}) dessin.Ligne({bout, y - cran / 2}, {bout, y + cran / 2}, traitAxe);
-    dessin.Texte({x - 2, y}, "50 " + Texte(UniteMm), Ancrage::Droite, HauteurTexte);
+    DessineLegende(dessin, {0, HauteurTexte}, HauteurTexte, entrees,
+                   {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
 }
 
 /// Draws the profile into the surface, below the legend and above the bar. Gives the scale.
 double DessineProfil(Dessin& dessin) {
     constexpr double bande = 2.5 * HauteurTexte;
-    Courbes courbes = CourbesCame();
-    Etendue e;
-    for (const auto& courbe : courbes)
-        for (const PointDessin& p : courbe) e.Contient(p);
+    const ContoursCame contours = CalculeContours();
+    Etendue e{}; // the cam centre is always in it
+    for (const auto* courbe : {&contours.interieur, &contours.exterieur, &contours.primitif})
+        for (const PointDessin& p : *courbe) e.Contient(p);
     const double largeur = dessin.Largeur() - 2 * Marge, hauteur = dessin.Hauteur() - 2 * bande - 2 * Marge;
     const double echelle = ChoisitEchelle(e, largeur, hauteur);
-    const double x0 = dessin.Largeur() / 2 - echelle * (e.gauche + e.droite) / 2;
-    const double y0 = dessin.Hauteur() / 2 + echelle * (e.bas + e.haut) / 2;
-    const auto surPapier = [&](PointDessin p) { return PointDessin{x0 + echelle * p.x, y0 - echelle * p.y}; };
-
-    const PointDessin galet = surPapier(courbes[2].front()), centre = surPapier({0, 0});
-    for (auto& courbe : courbes) std::transform(courbe.begin(), courbe.end(), courbe.begin(), surPapier);
-    const double croix = echelle * etude.resultats.RayonMin / 6;
-    dessin.Ligne({centre.x - croix, centre.y}, {centre.x + croix, centre.y}, traitAxe);
-    dessin.Ligne({centre.x, centre.y - croix}, {centre.x, centre.y + croix}, traitAxe);
-    dessin.Ligne(centre, galet, {Couleur::Repere, 0.18});
-    dessin.Polyligne(courbes[2], traitPrimitif);
-    dessin.Cercle(galet, echelle * etude.donnees.RayonGalet, traitGalet);
-    dessin.Polyligne(courbes[0], traitProfil);
-    dessin.Polyligne(courbes[1], traitProfil);
+    PlanDessin plan = PlanDessin::AEchelle(dessin, e, echelle);
+    const PointDessin galet = contours.primitif.front();
+    const double croix = etude.resultats.RayonMin / 6;
+    plan.Ligne({-croix, 0}, {croix, 0}, traitAxe);
+    plan.Ligne({0, croix}, {0, -croix}, traitAxe);
+    plan.Ligne({0, 0}, galet, {Couleur::Repere, 0.18});
+    plan.Contour(contours.primitif, traitPrimitif, false);
+    plan.Cercle(galet, etude.donnees.RayonGalet, traitGalet);
+    plan.Contour(contours.interieur, traitProfil, false);
+    plan.Contour(contours.exterieur, traitProfil, false);
     return echelle;
 }
 
@@ -117,7 +61,7 @@ public:
         // Room for the graduations outside the cylinder, mm.
         constexpr double chiffres = 16;
         const double largeur = dessin.Largeur() - 2 * chiffres, hauteur = dessin.Hauteur() - 2 * bande - 2 * chiffres;
-        const Etendue couchee{0, 0, d.largeur, d.haut - d.bas}, debout{0, 0, d.haut - d.bas, d.largeur};
+        const Etendue couchee{{0, 0}, {d.largeur, d.haut - d.bas}}, debout{{0, 0}, {d.haut - d.bas, d.largeur}};
         echelle = ChoisitEchelle(couchee, largeur, hauteur);
         debout_ = ChoisitEchelle(debout, largeur, hauteur) > echelle;
         if (debout_) echelle = ChoisitEchelle(debout, largeur, hauteur);
@@ -198,9 +142,9 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
     double echelle = 1;
     {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
-        DessineLegende(*dessin);
+        DessineNoms(*dessin);
         echelle = dessine(*dessin);
-        DessineRegle(*dessin);
+        DessineRegle(*dessin, Texte(UniteMm), HauteurTexte, traitAxe);
     }
     imprimante.PlaceTete(derniereLigne);
     ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));

@@ -1,10 +1,10 @@
 // Globoidal cams: bodies whose generating curve is an arc about the axis of the turret, seen along that axis. A point
 // of the cam is given by its angle tau on the turret, its distance rho from the turret's axis, and the turn phi of the
 // cam (0 is the side of the turret, Pi the far side).
-#include "app/DessinsCames.h"
+#include "drawing/DessinsCames.h"
 
-#include "app/PlumeCames.h"
 #include "core/Etude.h"
+#include "drawing/PlumeCames.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 // Plane cams. The outline is the true envelope of the roller on a pitch curve of rises and dwells, so that the roller
 // touches it.
-#include "app/DessinsCames.h"
+#include "drawing/DessinsCames.h"
 
-#include "app/PlumeCames.h"
 #include "core/Etude.h"
+#include "drawing/PlumeCames.h"
 
 #include <algorithm>
 #include <cmath>

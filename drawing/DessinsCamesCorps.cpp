@@ -1,8 +1,8 @@
 // Barrel cams: bodies of revolution about the x axis, seen from the right and from above.
-#include "app/DessinsCames.h"
+#include "drawing/DessinsCames.h"
 
-#include "app/PlumeCames.h"
 #include "core/Etude.h"
+#include "drawing/PlumeCames.h"
 
 #include <algorithm>
 #include <cmath>

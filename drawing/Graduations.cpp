@@ -1,4 +1,4 @@
-#include "reports/Graduations.h"
+#include "drawing/Graduations.h"
 
 #include <cmath>
 #include <initializer_list>

@@ -1,4 +1,4 @@
-#include "app/PlumeCames.h"
+#include "drawing/PlumeCames.h"
 
 #include "core/Etude.h"
 

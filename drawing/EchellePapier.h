@@ -1,0 +1,14 @@
+// Drawings to scale on paper, millimetres.
+#pragma once
+
+#include "drawing/Etendue.h"
+
+#include <string>
+
+/// The largest scale of technical drawings at which the drawing fits, in paper millimetres for one of the mechanism;
+/// the smallest there is for a drawing that fits at none.
+double ChoisitEchelle(const Etendue& etendue, double largeur, double hauteur);
+
+/// A bar of 50 mm at the lower right of the surface, to check that the printer has not resized the page.
+/// @param unite name of the millimetre
+void DessineRegle(Dessin& dessin, const std::string& unite, double hauteurTexte, const Trait& trait);

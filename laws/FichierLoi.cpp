@@ -42,9 +42,8 @@ std::string ComposeListageLoi() {
     std::string contenu;
     for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
         const PointLoi& p = etude.resultats.Mouvement[i];
-        contenu += StrTrim(Divise(static_cast<double>(i), etude.donnees.PointsParDegre)) + ";" +
-                   Decimales(p.Course, "0.000") + ";" + Decimales(p.Vitesse, "0.00000") + ";" +
-                   Decimales(p.Accel, "0.00000") + FinDeLigne;
+        contenu += StrTrim(etude.resultats.Points[i].Angle) + ";" + Decimales(p.Course, "0.000") + ";" +
+                   Decimales(p.Vitesse, "0.00000") + ";" + Decimales(p.Accel, "0.00000") + FinDeLigne;
     }
     return contenu;
 }

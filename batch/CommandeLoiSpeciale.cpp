@@ -41,7 +41,7 @@ void LitPointsParDegre(const Json& donnees) {
 
 /// The inputs of a study out of its data: every one of them, and nothing that is none.
 void LitDonnees(const std::string& fichier, const EtudeLoi& loi) {
-    const Json donnees = Json::parse(LitFichierEntier(fichier));
+    const Json donnees = Json::parse(LitFichierEntier(fichier, Source::Flux));
     if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
     for (const auto& [nom, valeur] : donnees.items()) {
         const bool connu = nom == Unites || nom == PointsParDegre || TrouveChamp(loi.champs, nom) != nullptr;

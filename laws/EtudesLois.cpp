@@ -12,6 +12,8 @@
 namespace {
 
 constexpr int TexteDonneesIncompletes = 69;
+constexpr int TexteFreinage = 801;
+constexpr double TolerancePas = 1e-9;
 
 constexpr const char* MasqueCoefficient = "##.####";
 constexpr const char* MasqueValeur = "0.00000";
@@ -36,15 +38,42 @@ constexpr ValeurLoi duree{"Duree", 334, Grandeur::Duree, &ResultatLoi::Duree, Ma
 
 constexpr double DonneesEtude::*angleEntier[] = {&DonneesEtude::AngleIndexage};
 
-FauteLoi DonneesIncompletes(double DonneesEtude::*membre) {
-    return {Texte(TexteDonneesIncompletes), membre};
+/// The study lacks a number: the text names the field at fault where there is one, the focus goes to the first.
+FauteLoi DonneesIncompletes(std::span<const ChampLoi> champs, double DonneesEtude::*premier,
+                            double DonneesEtude::*faute) {
+    const auto champ = std::find_if(champs.begin(), champs.end(),
+                                    [faute](const ChampLoi& c) { return c.membre == ChampLoi::Membre(faute); });
+    const std::string nom = champ == champs.end() ? "" : Texte(champ->Libelle()) + " : ";
+    return {nom + Texte(TexteDonneesIncompletes), premier};
 }
 
-/// `LoiUnite` from a law of x, 0..1, over the points.
+/// The inputs whose product may not be 0, the first field first.
+std::optional<FauteLoi> ChercheIncomplet(std::span<const ChampLoi> champs,
+                                         std::initializer_list<double DonneesEtude::*> facteurs) {
+    double produit = 1;
+    double DonneesEtude::*nul = nullptr;
+    for (const auto facteur : facteurs) {
+        produit *= etude.donnees.*facteur;
+        if (nul == nullptr && etude.donnees.*facteur == 0.0) nul = facteur;
+    }
+    if (produit != 0.0) return {};
+    return DonneesIncompletes(champs, *facteurs.begin(), nul);
+}
+
+/// Steps of the angles' motion, not rounded but for what arithmetic leaves beside a whole number.
+double NombrePas(std::span<double DonneesEtude::*const> angles) {
+    double pas = 0;
+    for (const auto angle : angles) pas += etude.donnees.*angle * etude.donnees.PointsParDegre;
+    const double entier = Arrondi(pas);
+    return std::abs(pas - entier) <= TolerancePas ? entier : pas;
+}
+
+/// `LoiUnite` from a law of x, 0..1, at every step of the motion and at its end.
 template <class Evalue> void RemplitLoiUnite(const Evalue& evalue) {
-    const long n = etude.resultats.NombrePoints;
-    etude.lois.LoiUnite.Redimensionne(n);
-    for (long i = 0; i <= n; ++i) etude.lois.LoiUnite[i] = evalue(static_cast<double>(i) / static_cast<double>(n));
+    const double n = NombrePas(angleEntier);
+    etude.lois.LoiUnite.Redimensionne(etude.resultats.NombrePoints);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i)
+        etude.lois.LoiUnite[i] = evalue(std::min(static_cast<double>(i) / n, 1.0));
 }
 
 // ---- laws of the catalogue
@@ -86,9 +115,13 @@ std::optional<FauteLoi> ChercheFauteMouv() {
     if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &DonneesEtude::SymetrieLoi};
     if (etude.donnees.ValeurDepart <= 0.0 && etude.donnees.ValeurFin <= 0.0)
         return FauteLoi{Texte(101) + " " + Texte(102), &DonneesEtude::ValeurDepart};
-    const double pourcentage = LoiChoisieSpe() ? etude.donnees.PourcentageLoi : 1.0;
-    if (etude.donnees.VitesseEntree * etude.donnees.AngleIndexage * pourcentage == 0.0 || pourcentage >= 100.0)
-        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
+    const auto incomplet =
+        LoiChoisieSpe() ? ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree,
+                                                        &DonneesEtude::PourcentageLoi})
+                        : ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree});
+    if (incomplet) return incomplet;
+    if (LoiChoisieSpe() && etude.donnees.PourcentageLoi >= 100.0)
+        return DonneesIncompletes(champsMouv, &DonneesEtude::AngleIndexage, &DonneesEtude::PourcentageLoi);
     if (S == 0.0 && !LoiChoisieMSH())
         return FauteLoi{Texte(197), &DonneesEtude::SymetrieLoi}; // the rise would take no time
     return {};
@@ -134,9 +167,8 @@ constexpr ValeurLoi valeursHesser[] = {
 };
 
 std::optional<FauteLoi> ChercheFauteHesser() {
-    if (etude.donnees.AngleIndexage * etude.donnees.ValeurFin * etude.donnees.VitesseEntree == 0.0)
-        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
-    return {};
+    return ChercheIncomplet(champsHesser,
+                            {&DonneesEtude::AngleIndexage, &DonneesEtude::ValeurFin, &DonneesEtude::VitesseEntree});
 }
 
 void RemplitHesser(ResultatLoi& resultat) {
@@ -161,6 +193,7 @@ constexpr ValeurLoi valeursRapide[] = {
     {"VitesseRapide", 373, Grandeur::Vitesse, &ResultatLoi::VitesseRapide, MasqueValeur},
     {"VitesseLente", 374, Grandeur::Vitesse, &ResultatLoi::VitesseLente, MasqueValeur},
     {"AccelRapide", 375, Grandeur::Accel, &ResultatLoi::AccelRapide, MasqueValeur},
+    {"AccelFreinage", TexteFreinage, Grandeur::Accel, &ResultatLoi::AccelFreinage, MasqueValeur},
     {"AccelLente", 376, Grandeur::Accel, &ResultatLoi::AccelLente, MasqueValeur},
     vitesseMaxi,
     accelMaxi,
@@ -173,12 +206,14 @@ AvanceRapide AvanceDemandee() {
 }
 
 std::optional<FauteLoi> ChercheFauteRapide() {
-    const bool complet = etude.donnees.AngleIndexage * etude.donnees.AngleAvanceRapide * etude.donnees.ValeurFin *
-                             etude.donnees.SortieAvanceRapide * etude.donnees.VitesseEntree !=
-                         0.0;
-    if (!complet || !(etude.donnees.AngleAvanceRapide < etude.donnees.AngleIndexage) ||
-        !(etude.donnees.SortieAvanceRapide < etude.donnees.ValeurFin))
-        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
+    const auto incomplet = ChercheIncomplet(
+        champsRapide, {&DonneesEtude::AngleIndexage, &DonneesEtude::AngleAvanceRapide, &DonneesEtude::ValeurFin,
+                       &DonneesEtude::SortieAvanceRapide, &DonneesEtude::VitesseEntree});
+    if (incomplet) return incomplet;
+    if (!(etude.donnees.AngleAvanceRapide < etude.donnees.AngleIndexage))
+        return DonneesIncompletes(champsRapide, &DonneesEtude::AngleIndexage, &DonneesEtude::AngleAvanceRapide);
+    if (!(etude.donnees.SortieAvanceRapide < etude.donnees.ValeurFin))
+        return DonneesIncompletes(champsRapide, &DonneesEtude::AngleIndexage, &DonneesEtude::SortieAvanceRapide);
     if (!AvanceDemandee().place) return FauteLoi{"\n" + Texte(622), &DonneesEtude::AngleAvanceRapide};
     return {};
 }
@@ -191,7 +226,8 @@ void RemplitRapide(ResultatLoi& resultat) {
     resultat.VitesseRapide = loi.V1;
     resultat.VitesseLente = loi.V2;
     resultat.AccelRapide = loi.A1;
-    resultat.AccelLente = loi.A2;
+    resultat.AccelFreinage = loi.A2;
+    resultat.AccelLente = loi.A3;
 }
 
 // ---- liquids
@@ -208,10 +244,10 @@ constexpr ValeurLoi valeursLiquide[] = {
 };
 
 std::optional<FauteLoi> ChercheFauteLiquide() {
-    if (etude.donnees.AngleIndexage * etude.donnees.ValeurFin * etude.donnees.VitesseEntree *
-            etude.donnees.ExcentriciteLiq ==
-        0.0)
-        return DonneesIncompletes(&DonneesEtude::AngleIndexage);
+    const auto incomplet =
+        ChercheIncomplet(champsLiquide, {&DonneesEtude::AngleIndexage, &DonneesEtude::ValeurFin,
+                                         &DonneesEtude::VitesseEntree, &DonneesEtude::ExcentriciteLiq});
+    if (incomplet) return incomplet;
     // At 0.5 nothing is left for the deceleration.
     if (!(etude.donnees.ExcentriciteLiq < 0.5)) return FauteLoi{Texte(382), &DonneesEtude::ExcentriciteLiq};
     return {};
@@ -237,10 +273,9 @@ constexpr ValeurLoi valeursDissyme[] = {coefAccel, coefVitesse, vitesseMaxi, acc
 constexpr double DonneesEtude::*deuxAngles[] = {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente};
 
 std::optional<FauteLoi> ChercheFauteDissyme() {
-    if (etude.donnees.AngleMontee * etude.donnees.AngleDescente * etude.donnees.ValeurFin *
-            etude.donnees.VitesseEntree ==
-        0.0)
-        return DonneesIncompletes(&DonneesEtude::AngleMontee);
+    const auto incomplet = ChercheIncomplet(champsDissyme, {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente,
+                                                            &DonneesEtude::ValeurFin, &DonneesEtude::VitesseEntree});
+    if (incomplet) return incomplet;
     if (!PrepareMSHDissyme(etude.donnees.AngleDescente / etude.donnees.AngleMontee).existe)
         return FauteLoi{Texte(389), &DonneesEtude::AngleDescente};
     return {};
@@ -250,13 +285,13 @@ std::optional<FauteLoi> ChercheFauteDissyme() {
 /// motion like those of the other MSH laws: kept on purpose.
 void RemplitDissyme(ResultatLoi& resultat) {
     const LoiMSHDissyme loi = PrepareMSHDissyme(etude.donnees.AngleDescente / etude.donnees.AngleMontee);
-    const long n = etude.resultats.NombrePoints,
-               sommet = Entier16(etude.donnees.AngleMontee * etude.donnees.PointsParDegre);
-    etude.lois.LoiUnite.Redimensionne(n);
-    for (long i = 0; i <= sommet; ++i)
-        etude.lois.LoiUnite[i] = EvalueMonteeMSH(loi.montee, static_cast<double>(i) / static_cast<double>(sommet));
-    for (long i = sommet + 1; i <= n; ++i)
-        etude.lois.LoiUnite[i] = EvalueDescente(loi, static_cast<double>(i - sommet) / static_cast<double>(n - sommet));
+    const double montee = etude.donnees.AngleMontee * etude.donnees.PointsParDegre, n = NombrePas(deuxAngles);
+    etude.lois.LoiUnite.Redimensionne(etude.resultats.NombrePoints);
+    for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
+        const double pas = std::min(static_cast<double>(i), n);
+        etude.lois.LoiUnite[i] = pas <= montee ? EvalueMonteeMSH(loi.montee, pas / montee)
+                                               : EvalueDescente(loi, (pas - montee) / (n - montee));
+    }
     resultat.CoefAccel = loi.montee.Ca;
     resultat.CoefVitesse = loi.montee.Cv;
 }
@@ -265,7 +300,7 @@ void RemplitDissyme(ResultatLoi& resultat) {
 
 constexpr EtudeLoi etudes[] = {
     {"LoiMouv", "LoiMouv", nullptr, 0, &DonneesEtude::LoiMouvActive, false, champsMouv, valeursMouv, ChercheFauteMouv,
-     angleEntier, RemplitMouv},
+     angleEntier, RemplitMouv, true},
     {"LoiHes", "LoiHesser", "hesser", 363, &DonneesEtude::LoiHesActive, true, champsHesser, valeursHesser,
      ChercheFauteHesser, angleEntier, RemplitHesser},
     {"LoiSpe", "LoiSpecial", "avance-rapide", 116, &DonneesEtude::LoiSpeActive, true, champsRapide, valeursRapide,
@@ -284,20 +319,26 @@ std::optional<FauteLoi> ChercheFauteCommune(const EtudeLoi& loi) {
     return {};
 }
 
+/// Last subscript of the tables. A motion of a special law ends at its own angle, whatever the step: where its steps
+/// are not whole, one last row stands there.
+double DernierPoint(const EtudeLoi& loi) {
+    if (!loi.pasEntiers) return std::ceil(NombrePas(loi.angles));
+    double points = 0;
+    for (const auto angle : loi.angles) points += Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre);
+    return points;
+}
+
 /// An angle that makes no point, or points that no 16-bit subscript reaches.
 std::optional<FauteLoi> ChercheFautePoints(const EtudeLoi& loi) {
-    double points = 0;
-    for (const auto angle : loi.angles) {
-        const double n = Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre);
-        if (n < 1.0) return FauteLoi{Texte(794), angle};
-        points += n;
-    }
-    if (points > 32767.0) return FauteLoi{Texte(205), loi.angles.front()};
+    for (const auto angle : loi.angles)
+        if (Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre) < 1.0) return FauteLoi{Texte(794), angle};
+    if (DernierPoint(loi) > 32767.0) return FauteLoi{Texte(205), loi.angles.front()};
     return {};
 }
 
 /// The motion of the output: the unit law over the stroke and the duration.
-void DerouleMouvement(ResultatLoi& resultat) {
+/// @param fin cam angle that it ends at, degrees
+void DerouleMouvement(ResultatLoi& resultat, double fin) {
     const double depart = etude.donnees.ValeurDepart, course = etude.donnees.ValeurFin - depart;
     const double courseSI = etude.donnees.SortieEnDegres ? course * Pi / 180.0 : course / 1000.0; // rad or m
     const double T = resultat.Duree;
@@ -309,13 +350,14 @@ void DerouleMouvement(ResultatLoi& resultat) {
         const PointLoi& unite = etude.lois.LoiUnite[i];
         PointLoi& point = etude.resultats.Mouvement[i];
         point = {depart + course * unite.Course, parVitesse * unite.Vitesse, parAccel * unite.Accel};
-        etude.resultats.Points[i].Angle = static_cast<double>(i) / etude.donnees.PointsParDegre;
+        etude.resultats.Points[i].Angle = std::min(static_cast<double>(i) / etude.donnees.PointsParDegre, fin);
         resultat.VitesseMaxi = std::max(resultat.VitesseMaxi, std::abs(point.Vitesse));
         resultat.AccelerationMaxi = std::max(resultat.AccelerationMaxi, std::abs(point.Accel));
     }
     for (const auto vitesse : {&ResultatLoi::VitesseRapide, &ResultatLoi::VitesseLente})
         resultat.*vitesse *= parVitesse;
-    for (const auto accel : {&ResultatLoi::AccelRapide, &ResultatLoi::AccelLente, &ResultatLoi::DecelerationMaxi})
+    for (const auto accel : {&ResultatLoi::AccelRapide, &ResultatLoi::AccelFreinage, &ResultatLoi::AccelLente,
+                             &ResultatLoi::DecelerationMaxi})
         resultat.*accel *= parAccel;
 }
 
@@ -378,14 +420,12 @@ std::optional<FauteLoi> ChercheFauteLoi(const EtudeLoi& loi) {
 }
 
 ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi) {
-    double points = 0;
-    for (const auto angle : loi.angles) points += Arrondi(etude.donnees.*angle * etude.donnees.PointsParDegre);
-    etude.resultats.NombrePoints = Entier16(points);
+    etude.resultats.NombrePoints = Entier16(DernierPoint(loi));
     ResultatLoi resultat;
-    // The motion lasts its whole steps, so that table and speeds agree whatever the angle.
-    resultat.Duree = static_cast<double>(etude.resultats.NombrePoints) / etude.donnees.PointsParDegre / 6.0 /
-                     etude.donnees.VitesseEntree;
+    // The motion lasts the steps of its table, so that lift and speeds agree.
+    const double pas = loi.pasEntiers ? etude.resultats.NombrePoints : NombrePas(loi.angles);
+    resultat.Duree = pas / etude.donnees.PointsParDegre / 6.0 / etude.donnees.VitesseEntree;
     loi.remplit(resultat);
-    DerouleMouvement(resultat);
+    DerouleMouvement(resultat, pas / etude.donnees.PointsParDegre);
     return resultat;
 }

@@ -38,7 +38,7 @@ struct ResultatLoi {
     double CoefFixe = 0;
     double CoefAccel = 0, CoefVitesse = 0; ///< maxima of the unit law
     double VitesseRapide = 0, VitesseLente = 0;
-    double AccelRapide = 0, AccelLente = 0;
+    double AccelRapide = 0, AccelFreinage = 0, AccelLente = 0; ///< start and braking of the fast part, stop
     double DecelerationMaxi = 0;
     double VitesseMaxi = 0, AccelerationMaxi = 0; ///< largest magnitudes
     double Duree = 0;                             ///< s
@@ -71,6 +71,7 @@ struct EtudeLoi {
     std::span<double DonneesEtude::*const> angles; ///< the cam angles of the motion, one after the other
     /// The unit law into `LoiUnite`, its coefficients into the result; the amplitudes shown are unit values still.
     void (*remplit)(ResultatLoi& resultat);
+    bool pasEntiers = false; ///< the angle is rounded to whole steps, and the motion lasts those
 };
 
 std::span<const EtudeLoi> LesEtudesLois();

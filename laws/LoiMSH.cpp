@@ -1,21 +1,15 @@
-// The return of the asymmetric law, in its own variable z from 0 (top) to 1, with e = return angle / rise angle.
+// The return of the asymmetric law, in its own variable z from 0 (top) to 1, with e = return angle / rise angle:
+// quarter waves of one amplitude k, which is the acceleration -Ca of the rise's end per unit of the return, k = Ca e²,
+// so that it does not jump at the top. The parts 2 r, 1 - 4 r, 3 r / 2 and r / 2 end at b1 = 2 r, b2 = 1 - 2 r, b3 = 1
+// - r / 2, 1:
 //
-// At the top the rise ends with the acceleration -Ca of the rise, which is -k per unit of the return, k = Ca e². So
-// that the acceleration does not jump there, the return begins with a quarter wave of amplitude k. Its parts end at
+//     0..b1    a = -k cos(Pi z / (4 r))               the speed grows to -V, V = 4 k r / Pi
+//     b1..b2   a = 0                                  constant speed
+//     b2..b3   a = k sin(Pi (z - b2) / (3 r))         braking: up, three quarters of V ...
+//     b3..1    a = k cos(Pi (z - b3) / r)             ... and down, the last quarter
 //
-//     b1 = 2 r / 2,   b2 = (2 r + E2) / 2,   b3 = (2 r + E2 + r) / 2,   1,   with E2 = 2 - 4 r:
-//
-//     0..b1    a = -k cos(Pi z / (2 r))          the speed grows to -V, V = 2 k r / Pi
-//     b1..b2   a = 0                             constant speed
-//     b2..b3   a = k sin(Pi (z - b2) / r)        braking, a quarter wave up ...
-//     b3..1    the same half wave, down          ... and one down, which takes V away again
-//
-// The speed is 0 at both ends and the acceleration joins everywhere, the next rise included, which begins with 0. The
-// parts run through k (4 r² / Pi² + V/k (1 - 2 r) + r² / Pi) of the stroke. The share r is the root of
-// p r² + q r + t = 0 below, that of a return whose quarter waves stand 3 to 1 as in the rise; with it the parts above
-// fall short of the stroke. The rest is carried by a cycloid over the whole return, z - sin(2 Pi z) / (2 Pi): its speed
-// and acceleration are 0 at both ends and its acceleration has no joint at all, so that nothing jumps and the stroke
-// ends at 0.
+// They run through k (r² (24 / Pi² - 14 / Pi) + 4 r / Pi) of the stroke; set to 1, times 2 Pi² / k, this is the
+// quadratic of r below. At r = 1/4 there is no part at constant speed, and the return is the mirror image of the rise.
 #include "laws/LoiMSH.h"
 
 #include <algorithm>
@@ -26,9 +20,12 @@ namespace {
 /// The shares of the asymmetric law's rise: no part at constant speed, deceleration over the second half.
 constexpr double PartA = 0.25, PartB = 0.75;
 
-/// The quarter waves of a return stand 3 to 1; its shares cannot fill more than the interval.
+/// The braking waves of a return stand 3 to 1.
 constexpr double Rapport = 3.0;
 constexpr double LimitePart = 2.0 / (1.0 + Rapport + 1.0);
+
+/// Share at which the part at constant speed has shrunk to nothing; rounding must not lose the mirror of the rise.
+constexpr double PartMiroir = 0.25, ToleranceMiroir = 1e-9;
 
 Loi MonteeDissyme() {
     const double A = PartA, B = PartB, C = 0.0, E = 2.0 - (A + B + C);
@@ -41,30 +38,19 @@ Loi MonteeDissyme() {
     return loi;
 }
 
+/// A root as a share; 0 when it is above the limit, or leaves the part at constant speed less than nothing.
+double PartAdmise(double racine) {
+    const double r = std::abs(racine - PartMiroir) <= ToleranceMiroir ? PartMiroir : racine;
+    return r > 0.0 && r <= LimitePart && 1.0 - 4.0 * r >= 0.0 ? r : 0.0;
+}
+
 /// The share r of a return of amplitude k; 0 when there is none. Of two admissible roots the larger is taken.
 double PartDescente(double k) {
     const double p = 4.0 * (7.0 * Pi - 12.0), q = -8.0 * Pi, t = 2.0 * Pi * Pi / k;
     const double discriminant = q * q - 4.0 * p * t;
     if (discriminant < 0.0) return 0.0;
-    const double petite = (-q - std::sqrt(discriminant)) / (2.0 * p);
-    const double grande = (-q + std::sqrt(discriminant)) / (2.0 * p);
-    if (grande <= LimitePart) return grande;
-    return petite <= LimitePart ? petite : 0.0;
-}
-
-/// What the four parts run through, with speed and acceleration; z 0..1, the course counted from the top.
-PointLoi EvalueParts(double k, double r, double z) {
-    const double vitesse = 2.0 * k * r / Pi;
-    const double b1 = r, b2 = 1.0 - r;
-    const double courseB1 = k * 4.0 * r * r / (Pi * Pi);
-    if (z <= b1) {
-        const double angle = Pi * z / (2.0 * r);
-        return {courseB1 * (1.0 - std::cos(angle)), vitesse * std::sin(angle), k * std::cos(angle)};
-    }
-    if (z <= b2) return {courseB1 + vitesse * (z - b1), vitesse, 0.0};
-    const double angle = Pi * (z - b2) / r;
-    return {courseB1 + vitesse * (b2 - b1) + vitesse / 2.0 * (z - b2) + k * r * r / (Pi * Pi) * std::sin(angle),
-            vitesse / 2.0 * (1.0 + std::cos(angle)), -k * std::sin(angle)};
+    const double racine = std::sqrt(discriminant);
+    return std::max(PartAdmise((-q + racine) / (2.0 * p)), PartAdmise((-q - racine) / (2.0 * p)));
 }
 
 } // namespace
@@ -119,15 +105,28 @@ LoiMSHDissyme PrepareMSHDissyme(double e) {
     loi.k = loi.montee.Ca * e * e;
     loi.r = PartDescente(loi.k);
     loi.existe = loi.r > 0.0;
-    if (loi.existe) loi.reste = 1.0 - EvalueParts(loi.k, loi.r, 1.0).Course;
     return loi;
 }
 
 PointLoi EvalueDescente(const LoiMSHDissyme& loi, double z) {
-    const PointLoi parts = EvalueParts(loi.k, loi.r, z);
-    const double tour = 2.0 * Pi * z;
-    const double course = parts.Course + loi.reste * (z - std::sin(tour) / (2.0 * Pi));
-    const double vitesse = parts.Vitesse + loi.reste * (1.0 - std::cos(tour));
-    const double accel = parts.Accel + loi.reste * 2.0 * Pi * std::sin(tour);
-    return {1.0 - course, -vitesse / loi.e, -accel / (loi.e * loi.e)};
+    const double k = loi.k, r = loi.r, V = 4.0 * k * r / Pi;
+    const double b1 = 2.0 * r, b2 = 1.0 - 2.0 * r, b3 = 1.0 - r / 2.0;
+    const double courseB1 = 16.0 * k * r * r / (Pi * Pi), courseB2 = courseB1 + V * (b2 - b1);
+    // Course, speed and deceleration counted from the top, per unit of the return.
+    PointLoi p;
+    if (z <= b1) {
+        const double y = Pi * z / (4.0 * r);
+        p = {courseB1 * (1.0 - std::cos(y)), V * std::sin(y), k * std::cos(y)};
+    } else if (z <= b2) {
+        p = {courseB1 + V * (z - b1), V, 0.0};
+    } else if (z <= b3) {
+        const double y = Pi * (z - b2) / (3.0 * r);
+        p = {courseB2 + V / 4.0 * (z - b2) + 9.0 * k * r * r / (Pi * Pi) * std::sin(y),
+             V / 4.0 + 3.0 / 4.0 * V * std::cos(y), -k * std::sin(y)};
+    } else {
+        // Told from the end, where everything is at rest.
+        const double y = Pi * (1.0 - z) / r;
+        p = {1.0 - k * r / Pi * ((1.0 - z) - r / Pi * std::sin(y)), k * r / Pi * (1.0 - std::cos(y)), -k * std::sin(y)};
+    }
+    return {1.0 - p.Course, -p.Vitesse / loi.e, -p.Accel / (loi.e * loi.e)};
 }

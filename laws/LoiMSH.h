@@ -25,9 +25,8 @@ struct LoiMSHDissyme {
     Loi montee;          ///< Ca, Cv and the arranged shares of the rise
     double e = 0;        ///< angle of the return over that of the rise
     double k = 0;        ///< amplitude of the return, per unit of its own angle squared
-    double r = 0;        ///< length of the return's first part; its last two parts are r / 2 each
-    double reste = 0;    ///< part of the stroke that the cycloid carries
-    bool existe = false; ///< no law exists for a return that is too short
+    double r = 0;        ///< share of the return: its parts are 2 r, 1 - 4 r, 3 r / 2 and r / 2
+    bool existe = false; ///< no law exists for a return faster than the rise
 };
 
 /// @param e angle of the return over that of the rise, above 0

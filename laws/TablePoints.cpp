@@ -34,8 +34,6 @@ TableTexte TableListageLoi() {
     TableTexte table = TablePointsLoi();
     for (ColonneTexte& colonne : table.colonnes)
         colonne.cellule = [cellule = colonne.cellule](int ligne) { return StrTrim(Val(cellule(ligne))); };
-    table.colonnes.front().cellule = [](int ligne) {
-        return StrTrim(Divise(static_cast<double>(ligne), etude.donnees.PointsParDegre));
-    };
+    table.colonnes.front().cellule = [](int ligne) { return StrTrim(etude.resultats.Points[ligne].Angle); };
     return table;
 }

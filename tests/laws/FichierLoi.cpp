@@ -78,8 +78,10 @@ TEST_F(FichierLoi, AShortFileChangesNothing) {
 
 TEST_F(FichierLoi, ListingInTheUnitsOfTheStudy) {
     etude.resultats.NombrePoints = 2;
-    etude.donnees.PointsParDegre = 2;
+    etude.resultats.Points.Redimensionne(2);
+    etude.resultats.Points[1].Angle = 0.5;
+    etude.resultats.Points[2].Angle = 0.7;
     etude.resultats.Mouvement.Redimensionne(2);
     etude.resultats.Mouvement[1] = {12.34567, -0.1234567, 98.7654321};
-    EXPECT_EQ(ComposeListageLoi(), "0;0;0;0\r\n.5;12.346;-.12346;98.76543\r\n1;0;0;0\r\n");
+    EXPECT_EQ(ComposeListageLoi(), "0;0;0;0\r\n.5;12.346;-.12346;98.76543\r\n.7;0;0;0\r\n");
 }

@@ -60,7 +60,7 @@ TEST(LoisSpeciales, LiquidsDecelerateInOneHalfWave) {
 }
 
 TEST(LoisSpeciales, AsymmetricReturnJoinsTheRiseAndTheNextOne) {
-    for (const double e : {0.98, 1.0, 1.01, 1.1, 1.5, 2.0, 5.0}) {
+    for (const double e : {1.0, 1.01, 1.1, 1.5, 2.0, 5.0, 7.3}) {
         const LoiMSHDissyme loi = PrepareMSHDissyme(e);
         ASSERT_TRUE(loi.existe) << e;
         EXPECT_NEAR(loi.montee.Ca, 5.214566, 5e-7);
@@ -76,7 +76,7 @@ TEST(LoisSpeciales, AsymmetricReturnJoinsTheRiseAndTheNextOne) {
         };
         const double r = loi.r;
         std::vector<double> bornes{0.125, 0.5, 1};
-        for (const double z : {r, 1 - r, 1 - r / 2}) bornes.push_back(1 + e * z);
+        for (const double z : {2 * r, 1 - 2 * r, 1 - r / 2}) bornes.push_back(1 + e * z);
         for (double& b : bornes) b /= total;
         VerifieLoi(entier, bornes, 1e-4);
         for (const double bout : {0.0, 1.0}) {
@@ -84,13 +84,24 @@ TEST(LoisSpeciales, AsymmetricReturnJoinsTheRiseAndTheNextOne) {
             EXPECT_NEAR(entier(bout).Vitesse, 0, 1e-10) << e;
             EXPECT_NEAR(entier(bout).Accel, 0, 1e-9) << e;
         }
-        const double k = loi.k;
-        EXPECT_NEAR(4 * (7 * Pi - 12) * r * r - 8 * Pi * r + 2 * Pi * Pi / k, 0, 1e-12);
-        EXPECT_LE(r, 0.4);
+        // The parts before the last, summed from the top, meet it: the stroke closes.
+        EXPECT_NEAR(EvalueDescente(loi, 1 - r / 2).Course, EvalueDescente(loi, std::nextafter(1 - r / 2, 2)).Course,
+                    1e-9);
         EXPECT_NEAR(EvalueDescente(loi, 0).Accel, -loi.montee.Ca, 1e-12) << "no jump at the top";
+        EXPECT_NEAR(EvalueDescente(loi, 1 - r / 2).Accel, loi.montee.Ca, 1e-9) << "one amplitude";
     }
-    // The larger of two admissible shares is taken; beyond its limit the smaller one.
-    EXPECT_GT(PrepareMSHDissyme(1.01).r, 0.375);
+}
+
+TEST(LoisSpeciales, AsymmetricReturnOfEqualAnglesMirrorsTheRiseAndAFasterOneIsRefused) {
+    const LoiMSHDissyme egale = PrepareMSHDissyme(1.0);
+    EXPECT_EQ(egale.r, 0.25);
+    for (double z = 0; z <= 1; z += 1.0 / 37) {
+        const PointLoi descente = EvalueDescente(egale, z), montee = EvalueMonteeMSH(egale.montee, 1 - z);
+        EXPECT_NEAR(descente.Course, montee.Course, 1e-12) << z;
+        EXPECT_NEAR(descente.Vitesse, -montee.Vitesse, 1e-12) << z;
+        EXPECT_NEAR(descente.Accel, montee.Accel, 1e-11) << z;
+    }
+    EXPECT_FALSE(PrepareMSHDissyme(0.999).existe);
+    EXPECT_FALSE(PrepareMSHDissyme(0.3).existe);
     EXPECT_LT(PrepareMSHDissyme(1.02).r, 0.25);
-    EXPECT_FALSE(PrepareMSHDissyme(0.97).existe);
 }

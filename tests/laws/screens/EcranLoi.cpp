@@ -107,25 +107,25 @@ TEST_F(EcransLois, CustomPercentageCountsWhole) {
 }
 
 TEST_F(EcransLois, RefusedInputsAreToldWithTheFocusOnTheField) {
-    const std::string incomplet = Texte(69);
+    const auto incomplet = [](int champ) { return Texte(champ) + " : " + Texte(69); };
     const Refus refus[] = {
         {"LoiMouv", "MS", {"1.2", "90", "0", "10", "60"}, Texte(522) + " 0 <= C <=1", "Text0"},
         {"LoiMouv", "MS", {"0.5", "90", "-5", "0", "60"}, Texte(101) + " " + Texte(102), "Text2"},
-        {"LoiMouv", "MS", {"0.5", "", "0", "10", "60"}, incomplet, "Text1"},
-        {"LoiMouv", "MS", {"0.5", "90", "0", "10", "0"}, incomplet, "Text1"},
-        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "100"}, incomplet, "Text1"},
-        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "0"}, incomplet, "Text1"},
+        {"LoiMouv", "MS", {"0.5", "", "0", "10", "60"}, incomplet(324), "Text1"},
+        {"LoiMouv", "MS", {"0.5", "90", "0", "10", "0"}, incomplet(327), "Text1"},
+        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "100"}, incomplet(73), "Text1"},
+        {"LoiMouv", "MS_Spe", {"0.5", "90", "0", "10", "60", "0"}, incomplet(73), "Text1"},
         {"LoiMouv", "MS", {"0", "90", "0", "10", "60"}, Texte(197), "Text0"},
         {"LoiMouv", "MS", {"0.5", "40000", "0", "10", "60"}, Texte(205), "Text1"},
         {"LoiMouv", "INCONNUE", {"0.5", "90", "0", "10", "60"}, Texte(521) + " INCONNUE " + Texte(103), "Text1"},
-        {"LoiHes", "", {"90", "0", "60"}, incomplet, "Text1"},
+        {"LoiHes", "", {"90", "0", "60"}, incomplet(364), "Text1"},
         {"LoiHes", "", {"0.2", "10", "60"}, Texte(794), "Text1"},
-        {"LoiSpe", "", {"90", "90", "100", "50", "60"}, incomplet, "Text1"},
-        {"LoiSpe", "", {"90", "45", "100", "100", "60"}, incomplet, "Text1"},
+        {"LoiSpe", "", {"90", "90", "100", "50", "60"}, incomplet(368), "Text1"},
+        {"LoiSpe", "", {"90", "45", "100", "100", "60"}, incomplet(370), "Text1"},
         {"LoiSpe", "", {"100", "50", "100", "5", "60"}, "\n" + Texte(622), "Text2"},
         {"LoiSpe", "", {"100", "85", "100", "90", "60"}, "\n" + Texte(622), "Text2"},
         {"LoiSpe", "", {"90", "80", "100", "90", "60"}, "\n" + Texte(622), "Text2"},
-        {"LoisLiq", "", {"90", "10", "60", "0"}, incomplet, "Text1"},
+        {"LoisLiq", "", {"90", "10", "60", "0"}, incomplet(380), "Text1"},
         {"LoisLiq", "", {"90", "10", "60", "0.5"}, Texte(382), "Text4"},
         {"LoiMSHDis", "", {"100", "97", "10", "60"}, Texte(389), "Text2"},
     };

@@ -4,43 +4,44 @@
 #include "app/MdiCamA.h"
 #include "core/ErreurExecution.h"
 #include "data/Demarrage.h"
+#include "data/EchecDemarrage.h"
 #include "widgets/Application.h"
 #include "widgets/DialoguesQt.h"
 
-namespace {
+#include <cstdio>
+#include <cstdlib>
 
-/// What a failed start says, in the three languages of the program: the texts of the working language are not there
-/// yet.
-struct SensDemarrage {
-    NumeroErreur numero;
-    const char* texte;
-};
+namespace {
 
 constexpr const char* DemarrageImpossible =
     "Velorin ne peut pas démarrer.\nVelorin no puede iniciarse.\nVelorin cannot start.";
-constexpr const char* FichierEndommage = "Fichier endommagé.\nArchivo dañado.\nDamaged file.";
-constexpr SensDemarrage LesSens[] = {
-    {NumeroErreur::FichierIntrouvable, "Fichier introuvable.\nArchivo no encontrado.\nFile not found."},
-    {NumeroErreur::AccesFichier, "Accès refusé.\nAcceso denegado.\nAccess denied."},
-    {NumeroErreur::FinDeFichier, FichierEndommage},
-    {NumeroErreur::ContenuInvalide, FichierEndommage},
-    {NumeroErreur::BaseIllisible, "Base de données endommagée ou mot de passe incorrect.\n"
-                                  "Base de datos dañada o contraseña incorrecta.\nDamaged database or wrong password."},
-    {NumeroErreur::BaseOccupee, "Fichier ouvert par un autre programme.\nArchivo abierto por otro programa.\n"
-                                "File in use by another program."},
-};
+
+constexpr const char* SansAffichage =
+    "velorin: aucun affichage / ninguna pantalla / no display (DISPLAY, WAYLAND_DISPLAY)\n";
+
+/// The toolkit would end the program without a word of ours where it finds no display.
+bool AffichagePresent() {
+#if defined(__unix__) && !defined(__APPLE__)
+    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
+           std::getenv("QT_QPA_PLATFORM") != nullptr;
+#else
+    return true;
+#endif
+}
 
 void AnnonceEchec(const std::exception& faute) {
-    std::string texte = DemarrageImpossible;
-    if (const auto* erreur = dynamic_cast<const ErreurExecution*>(&faute))
-        for (const SensDemarrage& sens : LesSens)
-            if (sens.numero == erreur->numero) texte += std::string("\n\n") + sens.texte;
-    LesDialogues().Message(Icone::Critique, texte + "\n\n" + faute.what());
+    const auto* erreur = dynamic_cast<const ErreurExecution*>(&faute);
+    const std::string sens = erreur == nullptr ? faute.what() : TexteEchecDemarrage(*erreur);
+    LesDialogues().Message(Icone::Critique, DemarrageImpossible + std::string("\n\n") + sens);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    if (!AffichagePresent()) {
+        std::fputs(SansAffichage, stderr);
+        return 1;
+    }
     Application application(argc, argv);
     DialoguesQt dialogues;
     const InstalleDialogues installe(dialogues);

@@ -2,6 +2,7 @@
 
 #include "batch/Passage.h"
 #include "batch/Sorties.h"
+#include "batch/TextesBatch.h"
 #include "data/Textes.h"
 #include "studies/FichierEtude.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 bool PeutOuvrir(const std::filesystem::path& fichier) {
     std::error_code echec;
-    return !std::filesystem::is_directory(fichier, echec) && std::ifstream(fichier, std::ios::binary).is_open();
+    return std::filesystem::is_regular_file(fichier, echec) && std::ifstream(fichier, std::ios::binary).is_open();
 }
 
 /// Reads and calculates. @param calcule set when the pipeline ran to its end, whatever its flag says
@@ -47,7 +48,8 @@ int CommandeEtude(const LigneCommande& ligne, std::ostream& sortie, std::ostream
     if (sorties && ligne.arguments.size() > 1)
         throw UsageIncorrect("etude: --points, --scripts and --rapport take one study file");
     return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
-        if (!PeutOuvrir(fichier)) throw UsageIncorrect("cannot be opened");
+        if (!PeutOuvrir(fichier)) throw UsageIncorrect(Texte(TexteFichierIllisible));
+        VerifieSorties(ligne, fichier);
         const TypeEtude* type = TrouveTypeFichier(fichier);
         bool calcule = false;
         Calcul calcul;

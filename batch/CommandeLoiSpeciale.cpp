@@ -1,7 +1,9 @@
 #include "batch/CommandeLoiSpeciale.h"
 
+#include "batch/DonneesJson.h"
 #include "batch/Passage.h"
-#include "core/FichierEntier.h"
+#include "batch/TextesBatch.h"
+#include "data/Textes.h"
 #include "laws/EtudesLois.h"
 
 #include <algorithm>
@@ -19,33 +21,28 @@ const EtudeLoi& TrouveGenre(const std::string& genre) {
     throw UsageIncorrect("loi-speciale: unknown kind '" + genre + "'; there are" + genres);
 }
 
-double LitNombre(const Json& donnees, const char* nom) {
-    const auto valeur = donnees.find(nom);
-    if (valeur == donnees.end()) throw UsageIncorrect(std::string("no member ") + nom);
-    if (!valeur->is_number()) throw UsageIncorrect(std::string(nom) + " is not a number");
-    return valeur->get<double>();
+void LitUnites(const Donnees& donnees, const EtudeLoi& loi) {
+    const auto valeur = donnees.find(Unites);
+    const std::string defaut = loi.degresDabord ? "degres" : "mm";
+    const Donnees lue = valeur == donnees.end() ? Donnees(defaut) : *valeur;
+    if (lue != "mm" && lue != "degres") throw MembreIncorrect(Unites, "\"mm\" " + Texte(TexteOu) + " \"degres\"", lue);
+    etude.donnees.SortieEnDegres = lue == "degres" ? Vrai : Faux;
 }
 
-void LitUnites(const Json& donnees, const EtudeLoi& loi) {
-    const std::string unites = donnees.value(Unites, loi.degresDabord ? "degres" : "mm");
-    if (unites != "mm" && unites != "degres") throw UsageIncorrect(R"(Unites is "mm" or "degres")");
-    etude.donnees.SortieEnDegres = unites == "degres" ? Vrai : Faux;
-}
-
-void LitPointsParDegre(const Json& donnees) {
+void LitPointsParDegre(const Donnees& donnees) {
     const double points = donnees.contains(PointsParDegre) ? LitNombre(donnees, PointsParDegre) : 1.0;
     if (points < 1.0 || points > 32767.0 || points != Int(points))
-        throw UsageIncorrect("PointsParDegre is a whole number from 1 to 32767");
+        throw MembreIncorrect(PointsParDegre, Texte(TexteNombreEntier) + " 1 " + Texte(TexteJusqua) + " 32767",
+                              donnees[PointsParDegre]);
     etude.donnees.PointsParDegre = Entier16(points);
 }
 
 /// The inputs of a study out of its data: every one of them, and nothing that is none.
 void LitDonnees(const std::string& fichier, const EtudeLoi& loi) {
-    const Json donnees = Json::parse(LitFichierEntier(fichier, Source::Flux));
-    if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
+    const Donnees donnees = LitDonneesJson(fichier);
     for (const auto& [nom, valeur] : donnees.items()) {
         const bool connu = nom == Unites || nom == PointsParDegre || TrouveChamp(loi.champs, nom) != nullptr;
-        if (!connu) throw UsageIncorrect("unknown member " + nom);
+        if (!connu) throw DonneesIncorrectes(Texte(TexteMembreInconnu) + " " + nom);
     }
     LitUnites(donnees, loi);
     LitPointsParDegre(donnees);

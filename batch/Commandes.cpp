@@ -6,6 +6,7 @@
 #include "core/FichierEntier.h"
 #include "data/Configuration.h"
 #include "data/Demarrage.h"
+#include "data/EchecDemarrage.h"
 #include "data/Textes.h"
 
 #include <algorithm>
@@ -50,9 +51,17 @@ void OuvreCatalogue(const LigneCommande& ligne) {
     LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? CheminAppli / NomBase : std::filesystem::path(ligne.base),
                                 MotDePasseBase, BaseDonnees::Usage::Lecture);
     LangueTravail = ligne.langue.empty() ? LitConfiguration(CheminAppli / NomConfiguration).langue : ligne.langue;
-    ChargeTextes(LaBase);
-    if (!ligne.langue.empty() && LangueTravail != ligne.langue)
+    const auto langues = LanguesCompletes(LaBase);
+    if (!ligne.langue.empty() && std::find(langues.begin(), langues.end(), ligne.langue) == langues.end())
         throw UsageIncorrect("the catalogue has no language '" + ligne.langue + "'");
+    ChargeTextes(LaBase);
+}
+
+/// One line, though the texts may not be there yet.
+std::string EchecDemarrage(const ErreurExecution& erreur, const std::string& langue) {
+    std::string texte = TexteEchecDemarrage(erreur, langue);
+    for (auto fin = texte.find('\n'); fin != std::string::npos; fin = texte.find('\n')) texte.replace(fin, 1, " / ");
+    return texte;
 }
 
 const CommandeBatch& TrouveCommande(const std::string& nom) {
@@ -66,6 +75,10 @@ const CommandeBatch& TrouveCommande(const std::string& nom) {
 } // namespace
 
 int LanceCommande(const std::vector<std::string>& mots, std::ostream& sortie, std::ostream& erreurs) {
+    const auto refuse = [&](const std::string& texte) {
+        erreurs << "velorin-batch: " << texte << "\n";
+        return 2;
+    };
     try {
         const LigneCommande ligne = AnalyseLigne(mots);
         if (ligne.aide) {
@@ -73,10 +86,15 @@ int LanceCommande(const std::vector<std::string>& mots, std::ostream& sortie, st
             return 0;
         }
         const CommandeBatch& commande = TrouveCommande(ligne.commande);
-        OuvreCatalogue(ligne);
+        try {
+            OuvreCatalogue(ligne);
+        } catch (const ErreurExecution& erreur) {
+            return refuse(EchecDemarrage(erreur, ligne.langue));
+        }
         return commande.execute(ligne, sortie, erreurs);
+    } catch (const ErreurExecution& erreur) {
+        return refuse(SensErreur(erreur));
     } catch (const std::exception& erreur) {
-        erreurs << "velorin-batch: " << erreur.what() << "\n";
-        return 2;
+        return refuse(erreur.what());
     }
 }

@@ -6,6 +6,25 @@
 #include <algorithm>
 #include <ostream>
 
+namespace {
+
+/// A message longer than this is no longer read: file names may be as long as they like, what stands there not.
+constexpr std::size_t LongueurLigne = 1000;
+
+} // namespace
+
+void EcritFaute(std::ostream& erreurs, const std::string& fichier, const std::exception& faute) {
+    const auto* erreur = dynamic_cast<const ErreurExecution*>(&faute);
+    std::string texte = faute.what();
+    if (erreur != nullptr) {
+        // The line begins with the name of the file: its meaning does not repeat it.
+        texte = SensErreur(erreur->detail == fichier ? ErreurExecution(erreur->numero) : *erreur);
+    }
+    std::replace(texte.begin(), texte.end(), '\n', ' ');
+    if (texte.size() > LongueurLigne) texte = texte.substr(0, LongueurLigne) + "...";
+    erreurs << "velorin-batch: " << fichier << ": " << texte << "\n";
+}
+
 void RemetEtude() {
     etude = Etude{};
     ChargeLois();
@@ -37,7 +56,7 @@ int ParcourtFichiers(std::span<const std::string> fichiers, std::ostream& erreur
         try {
             pire = std::max(pire, traite(fichier));
         } catch (const std::exception& erreur) {
-            erreurs << "velorin-batch: " << fichier << ": " << erreur.what() << "\n";
+            EcritFaute(erreurs, fichier, erreur);
             pire = 2;
         }
     }

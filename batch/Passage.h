@@ -28,6 +28,9 @@ void RemetEtude();
 /// @return 0 calculated, 1 refused or failed
 int LanceCalcul(const Calcul& calcul, const LigneCommande& ligne, std::ostream& sortie);
 
+/// One line on `erreurs`: the file and what is wrong with it, in the working language.
+void EcritFaute(std::ostream& erreurs, const std::string& fichier, const std::exception& faute);
+
 /// Runs `traite` on each file with a fresh record. A file that cannot be opened or makes no sense, told by any
 /// exception that leaves `traite`, is one line on `erreurs` and status 2; the others are calculated all the same.
 /// @return the worst status

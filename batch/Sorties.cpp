@@ -1,18 +1,27 @@
 #include "batch/Sorties.h"
 
+#include "batch/TextesBatch.h"
 #include "core/FichierEntier.h"
+#include "data/Textes.h"
 #include "studies/Exports.h"
 #include "studies/RapportsCames.h"
 #include "widgets/ImprimanteQt.h"
 
 #include <QGuiApplication>
 
+#include <functional>
+#include <iostream>
 #include <optional>
+
+namespace fs = std::filesystem;
 
 namespace {
 
-void EcritRapport(const std::filesystem::path& chemin) {
-    // Fonts need an application object; it shows nothing.
+constexpr const char* SortieStandard = "-";
+
+std::string ComposeRapport(const std::string& titre) {
+    // Fonts need an application object; it shows nothing, and what the toolkit has to say concerns windows.
+    const auto ancien = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     int argc = 1;
     char nom[] = "velorin-batch";
     char* argv[] = {nom, nullptr};
@@ -23,16 +32,66 @@ void EcritRapport(const std::filesystem::path& chemin) {
     }
     MarquesImpression toutes;
     toutes.fill(true);
-    ImprimePdf(chemin, [&toutes](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, toutes); });
+    std::string pdf =
+        ComposePdf(titre, [&toutes](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, toutes); });
+    application.reset();
+    qInstallMessageHandler(ancien);
+    return pdf;
+}
+
+/// One option: the files that it names, which are written together.
+struct Sortie {
+    std::vector<fs::path> chemins;
+    std::function<std::vector<std::string>()> compose;
+};
+
+std::vector<Sortie> SortiesDemandees(const LigneCommande& ligne) {
+    std::vector<Sortie> sorties;
+    if (!ligne.points.empty()) sorties.push_back({{ligne.points}, [] { return std::vector{ComposeFichierPoints()}; }});
+    if (!ligne.scripts.empty()) {
+        const bool standard = ligne.scripts == SortieStandard;
+        const fs::path exterieur = standard ? ligne.scripts : ligne.scripts + "_Ext.Scr";
+        const fs::path interieur = standard ? ligne.scripts : ligne.scripts + "_Int.Scr";
+        sorties.push_back({{exterieur, interieur}, [] {
+                               return std::vector{ComposeScriptExterieur(), ComposeScriptInterieur()};
+                           }});
+    }
+    if (!ligne.rapport.empty())
+        sorties.push_back({{ligne.rapport}, [titre = fs::path(ligne.rapport).stem().string()] {
+                               return std::vector{ComposeRapport(titre)};
+                           }});
+    return sorties;
+}
+
+/// Two names of one file, which need not exist yet.
+bool MemeFichier(const fs::path& a, const fs::path& b) {
+    std::error_code echec;
+    if (fs::equivalent(a, b, echec)) return true;
+    return fs::weakly_canonical(a, echec) == fs::weakly_canonical(b, echec);
 }
 
 } // namespace
 
-void EcritSorties(const LigneCommande& ligne) {
-    if (!ligne.points.empty()) EcritFichierEntier(ligne.points, ComposeFichierPoints());
-    if (!ligne.scripts.empty()) {
-        EcritFichierEntier(ligne.scripts + "_Ext.Scr", ComposeScriptExterieur());
-        EcritFichierEntier(ligne.scripts + "_Int.Scr", ComposeScriptInterieur());
+void VerifieSorties(const LigneCommande& ligne, const std::string& fichierEtude) {
+    std::vector<fs::path> prises{fichierEtude};
+    for (const Sortie& sortie : SortiesDemandees(ligne)) {
+        for (const fs::path& chemin : sortie.chemins)
+            for (const fs::path& prise : prises)
+                if (MemeFichier(chemin, prise)) throw UsageIncorrect(Texte(TexteSortieDouble) + " " + chemin.string());
+        prises.insert(prises.end(), sortie.chemins.begin(), sortie.chemins.end());
     }
-    if (!ligne.rapport.empty()) EcritRapport(ligne.rapport);
+}
+
+void EcritSorties(const LigneCommande& ligne) {
+    for (const Sortie& sortie : SortiesDemandees(ligne)) {
+        const std::vector<std::string> contenus = sortie.compose();
+        std::vector<FichierAEcrire> fichiers;
+        for (std::size_t i = 0; i < contenus.size(); ++i) {
+            if (sortie.chemins[i] == SortieStandard)
+                std::cout << contenus[i];
+            else
+                fichiers.push_back({sortie.chemins[i], contenus[i]});
+        }
+        EcritFichiersEntiers(fichiers);
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "core/ErreurExecution.h"
 #include "core/Nombres.h"
+#include "data/Instantane.h"
 
 #include <sqlcipher/sqlite3.h>
 
@@ -101,6 +102,15 @@ sqlite3* OuvreFichier(const std::filesystem::path& chemin, const std::string& mo
     return base;
 }
 
+/// Removes a file on every way out.
+struct Retire {
+    std::filesystem::path chemin;
+    ~Retire() {
+        std::error_code ignore;
+        std::filesystem::remove(chemin, ignore);
+    }
+};
+
 } // namespace
 
 double EnNombre(const Valeur& v) {
@@ -128,20 +138,36 @@ BaseDonnees BaseDonnees::Ouvre(const std::filesystem::path& chemin, const std::s
     std::error_code echec;
     if (!std::filesystem::exists(chemin, echec))
         throw ErreurExecution(NumeroErreur::FichierIntrouvable, chemin.string());
+    if (usage == Usage::Exclusif) return OuvreFichierBase(chemin, motDePasse, usage, chemin.string());
+    try {
+        return OuvreFichierBase(chemin, motDePasse, usage, chemin.string());
+    } catch (const ErreurExecution& erreur) {
+        if (erreur.numero != NumeroErreur::BaseOccupee) throw;
+    }
+    const std::filesystem::path copie = CopieBase(chemin);
+    // The open file is read to the end of the program; its name is needed no more.
+    const Retire retire{copie};
+    return OuvreFichierBase(copie, motDePasse, usage, chemin.string());
+}
+
+BaseDonnees BaseDonnees::OuvreFichierBase(const std::filesystem::path& chemin, const std::string& motDePasse,
+                                          Usage usage, const std::string& nom) {
     BaseDonnees base;
     const bool exclusif = usage == Usage::Exclusif;
     base.base_ = OuvreFichier(chemin, motDePasse, exclusif ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
-    base.Execute(Chiffrement);
+    const auto execute = [&](const char* sql) {
+        if (sqlite3_exec(base.base_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) SignaleErreur(base.base_, nom);
+    };
+    execute(Chiffrement);
     if (exclusif) {
-        if (sqlite3_db_readonly(base.base_, "main") == 1)
-            throw ErreurExecution(NumeroErreur::AccesFichier, chemin.string());
-        base.Execute("PRAGMA locking_mode = EXCLUSIVE");
-        base.Execute("BEGIN EXCLUSIVE; COMMIT");
+        if (sqlite3_db_readonly(base.base_, "main") == 1) throw ErreurExecution(NumeroErreur::AccesFichier, nom);
+        execute("PRAGMA locking_mode = EXCLUSIVE");
+        execute("BEGIN EXCLUSIVE; COMMIT");
     }
     // The first page tells whether the password fits; an empty file would pass it and hold no table.
-    const Requete compte = PrepareRequete(base.base_, "SELECT count(*) FROM sqlite_master", chemin.string());
-    if (!LigneSuivante(base.base_, compte, chemin.string()) || sqlite3_column_int(compte.get(), 0) == 0)
-        throw ErreurExecution(NumeroErreur::BaseIllisible, chemin.string());
+    const Requete compte = PrepareRequete(base.base_, "SELECT count(*) FROM sqlite_master", nom);
+    if (!LigneSuivante(base.base_, compte, nom) || sqlite3_column_int(compte.get(), 0) == 0)
+        throw ErreurExecution(NumeroErreur::BaseIllisible, nom);
     return base;
 }
 

@@ -36,7 +36,7 @@ class BaseDonnees {
 public:
     enum class Usage {
         Exclusif, ///< for writing, nobody else may have it open
-        Lecture,  ///< shared with other readers
+        Lecture,  ///< shared with other readers; of a database held for writing a copy is read
     };
 
     BaseDonnees() = default;
@@ -67,6 +67,8 @@ public:
     void ValideTransaction();
 
 private:
+    static BaseDonnees OuvreFichierBase(const std::filesystem::path& chemin, const std::string& motDePasse, Usage usage,
+                                        const std::string& nom);
     void Execute(const std::string& sql);
 
     sqlite3* base_ = nullptr;

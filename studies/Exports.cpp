@@ -40,13 +40,26 @@ struct CourbeScript {
     }
 };
 
-void EcritDemande(int titre, const std::string& nom, const char* extension, std::string (*compose)()) {
-    const std::string motif = std::string("*.") + extension;
-    const auto chemin = LesDialogues().FichierASauver({Texte(titre),
-                                                       CheminAppli / NomDossierEtudes,
-                                                       nom + "." + extension,
-                                                       {{Texte(124) + " (" + motif + ")", motif}}});
-    if (chemin && !chemin->empty()) EcritFichierEntier(*chemin, compose());
+/// A file to ask for.
+struct Demande {
+    int titre;
+    std::string nom;
+    const char* extension;
+    std::string (*compose)();
+};
+
+/// Asks for every name, then writes those given together: all of them or none.
+void EcritDemandes(std::initializer_list<Demande> demandes) {
+    std::vector<FichierAEcrire> fichiers;
+    for (const Demande& demande : demandes) {
+        const std::string motif = std::string("*.") + demande.extension;
+        const auto chemin = LesDialogues().FichierASauver({Texte(demande.titre),
+                                                           CheminAppli / NomDossierEtudes,
+                                                           demande.nom + "." + demande.extension,
+                                                           {{Texte(124) + " (" + motif + ")", motif}}});
+        if (chemin && !chemin->empty()) fichiers.push_back({*chemin, demande.compose()});
+    }
+    EcritFichiersEntiers(fichiers);
 }
 
 } // namespace
@@ -83,11 +96,11 @@ std::string ComposeScriptInterieur() {
 }
 
 void FichiersPoints() {
-    EcritDemande(124, NomSansExtension(etude.donnees.NomFichier), "Pnt", ComposeFichierPoints);
+    EcritDemandes({{124, NomSansExtension(etude.donnees.NomFichier), "Pnt", ComposeFichierPoints}});
 }
 
 void FichiersScripts() {
     const std::string nom = NomSansExtension(etude.donnees.NomFichier);
-    EcritDemande(315, nom + "_Ext", "Scr", ComposeScriptExterieur);
-    EcritDemande(316, nom + "_Int", "Scr", ComposeScriptInterieur);
+    EcritDemandes(
+        {{315, nom + "_Ext", "Scr", ComposeScriptExterieur}, {316, nom + "_Int", "Scr", ComposeScriptInterieur}});
 }

@@ -13,7 +13,8 @@ std::string ComposeFichierPoints();
 std::string ComposeScriptExterieur();
 std::string ComposeScriptInterieur();
 
-/// Ask for a path and write there, whole or not at all; a cancelled dialogue writes nothing.
+/// Ask for a path and write there, whole or not at all; a cancelled dialogue writes nothing. The two scripts are
+/// written together.
 /// @throws ErreurExecution disk full, access refused, input/output; the old file is as it was.
 void FichiersPoints();
 void FichiersScripts();

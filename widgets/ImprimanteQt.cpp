@@ -222,7 +222,7 @@ QPageLayout PageParDefaut() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 10, 10, 10), QPageLayout::Millimeter};
 }
 
-bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page) {
+std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page) {
     QByteArray contenu;
     QBuffer tampon(&contenu);
     tampon.open(QIODevice::WriteOnly);
@@ -230,13 +230,18 @@ bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const Q
         QPdfWriter support(&tampon);
         support.setResolution(ResolutionPdf);
         support.setPageLayout(page);
-        support.setTitle(QChemin(chemin.stem()));
+        support.setTitle(Q(titre));
         support.setCreator(QStringLiteral("Velorin"));
         ImprimanteQt imprimante(support);
         pages(imprimante);
         imprimante.FinDocument();
     }
-    if (contenu.isEmpty()) return false;
-    EcritFichierEntier(chemin, {contenu.constData(), static_cast<std::size_t>(contenu.size())});
+    return contenu.toStdString();
+}
+
+bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page) {
+    const std::string contenu = ComposePdf(chemin.stem().string(), pages, page);
+    if (contenu.empty()) return false;
+    EcritFichierEntier(chemin, contenu);
     return true;
 }

@@ -79,6 +79,10 @@ private:
 /// Page layout that the reports are made for: upright A4 with a filing margin.
 QPageLayout PageParDefaut();
 
+/// The bytes of a PDF document; empty when it has no page.
+/// @throws ErreurExecution whatever `pages` throws
+std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page = PageParDefaut());
+
 /// Prints a document into a PDF file, which is written whole or not at all.
 /// @return false, and no file is written, when the document has no page.
 /// @throws ErreurExecution disk full; access refused; input/output; whatever `pages` throws.

@@ -3,6 +3,8 @@
 #include "core/FichierEntier.h"
 #include "outils/DossierTemporaire.h"
 
+#include <chrono>
+
 #include <numbers>
 
 namespace {
@@ -77,21 +79,49 @@ TEST_F(LoiSpeciale, RefusedDataAreToldWithStatusOne) {
     EXPECT_EQ(Lance("hesser", R"({"AngleIndexage":90,"AngleSortie":-3,"VitesseEntree":60})").statut, 1);
 }
 
-TEST_F(LoiSpeciale, WrongUsageIsOneLineWithStatusTwo) {
-    for (const auto& [genre, donnees] :
-         {std::pair{"inconnue", "{}"},
-          {"hesser", "{}"},
-          {"hesser", "[1]"},
-          {"hesser", "{"},
-          {"hesser", R"({"AngleIndexage":"90","AngleSortie":3,"VitesseEntree":60})"},
-          {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"Vitesse":1})"},
-          {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"Unites":"m"})"},
-          {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"PointsParDegre":1.5})"}}) {
-        const Passe passe = Lance(genre, donnees);
-        EXPECT_EQ(passe.statut, 2) << donnees;
+TEST_F(LoiSpeciale, WrongUsageIsOneLineWithStatusTwoThatSaysWhatStoodWhere) {
+    const struct {
+        const char* genre;
+        std::string donnees, attendu;
+    } fausses[] = {
+        {"inconnue", "{}", "inconnue"},
+        {"hesser", "{}", "membre absent : AngleIndexage"},
+        {"hesser", "[1]", "un objet JSON est attendu"},
+        {"hesser", "{", "ligne 1, colonne"},
+        {"hesser", "{\n  \"AngleIndexage\": 9o\n}", "ligne 2, colonne 21"},
+        {"hesser", R"({"AngleIndexage":"90","AngleSortie":3,"VitesseEntree":60})",
+         "AngleIndexage : attendu : un nombre, trouvé : \"90\""},
+        {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"Vitesse":1})",
+         "membre inconnu : Vitesse"},
+        {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"AngleSortie":4,"VitesseEntree":60})",
+         "membre en double : AngleSortie"},
+        {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"Unites":"m"})",
+         "Unites : attendu : \"mm\" ou \"degres\", trouvé : \"m\""},
+        {"hesser", R"({"AngleIndexage":90,"AngleSortie":3,"VitesseEntree":60,"PointsParDegre":1.5})",
+         "un nombre entier de 1 à 32767, trouvé : 1.5"},
+        {"hesser", R"({"AngleIndexage":")" + std::string(100000, 'x') + R"("})", "xxx..."},
+        {"hesser", R"({"AngleIndexage":1e999})", "JSON"},
+    };
+    for (const auto& f : fausses) {
+        const Passe passe = Lance(f.genre, f.donnees.c_str());
+        EXPECT_EQ(passe.statut, 2) << f.attendu;
         EXPECT_EQ(passe.LignesErreur(), 1) << passe.erreurs;
+        EXPECT_LT(passe.erreurs.size(), 400U);
+        EXPECT_NE(passe.erreurs.find(f.attendu), std::string::npos) << passe.erreurs;
         EXPECT_TRUE(passe.sortie.empty());
     }
     EXPECT_EQ(LancePasse({"loi-speciale", "hesser", "/nulle/part.json"}).statut, 2);
     EXPECT_EQ(LancePasse({"loi-speciale", "hesser"}).statut, 2);
+}
+
+TEST_F(LoiSpeciale, ManyMembersAreReadInTheTimeTheyAreLong) {
+    const auto duree = [this](int membres) {
+        std::string donnees = R"({"AngleIndexage":90)";
+        for (int i = 0; i < membres; ++i) donnees += ",\"m" + std::to_string(i) + "\":1";
+        const auto debut = std::chrono::steady_clock::now();
+        EXPECT_EQ(Lance("hesser", (donnees + "}").c_str()).statut, 2);
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
+    };
+    const double peu = duree(10000);
+    EXPECT_LT(duree(100000), 40 * peu + 0.5) << "a hundred times would be the square";
 }

@@ -3,12 +3,15 @@
 #include "batch/DialoguesCollecte.h"
 #include "batch/JsonEtude.h"
 #include "batch/LigneCommande.h"
+#include "data/Demarrage.h"
 #include "outils/DossierTemporaire.h"
 
 #include <sys/wait.h>
 
 #include <cstdio>
 #include <limits>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -149,6 +152,99 @@ TEST(Executable, WritesWhatTheSaveAndPrintCommandsWrite) {
     EXPECT_EQ(refusee.statut, 1);
     EXPECT_NE(refusee.sortie.find("\"echec\""), std::string::npos);
     EXPECT_EQ(LanceReelle("etude '" + exemple + "' '" + exemple + "' --points x.Pnt 2>/dev/null").statut, 2);
+}
+
+TEST(Executable, AnOutputReplacesNeitherTheStudyNorAnotherOutput) {
+    const DossierTemporaire dossier;
+    const std::string fichierEtude = dossier.Ecrit("etude.Ang", LitBrut(exemple));
+    fs::create_symlink("etude.Ang", dossier / "lien.Pnt");
+    fs::create_hard_link(fichierEtude, dossier / "double.pdf");
+    const std::string ici = dossier.Chemin().string();
+    for (const std::string& sorties :
+         {"--points '" + fichierEtude + "'", "--points '" + ici + "/lien.Pnt'", "--rapport '" + ici + "/double.pdf'",
+          "--points '" + ici + "/x' --rapport '" + ici + "/../" + dossier.Chemin().filename().string() + "/x'",
+          "--points '" + ici + "/b_Int.Scr' --scripts '" + ici + "/b'", std::string("--points - --rapport -")}) {
+        const auto passe = LanceReelle("etude '" + fichierEtude + "' --resume " + sorties + " 2>/dev/null");
+        EXPECT_EQ(passe.statut, 2) << sorties;
+        EXPECT_EQ(passe.sortie, "") << sorties;
+        EXPECT_EQ(dossier.NombreFichiers(), 3) << sorties;
+    }
+    EXPECT_EQ(LitBrut(fichierEtude), LitBrut(exemple));
+}
+
+TEST(Executable, StandardOutputPipesAndDevicesAreWrittenThrough) {
+    const DossierTemporaire dossier;
+    const std::string entete = "Rayon du galet ,", fichierEtude = "etude '" + exemple + "' --resume ";
+    for (const char* sortie : {"-", "/dev/stdout"}) {
+        const auto passe = LanceReelle(fichierEtude + "--points " + sortie);
+        EXPECT_EQ(passe.statut, 0) << sortie;
+        EXPECT_NE(passe.sortie.find(entete), std::string::npos) << sortie;
+        EXPECT_NE(passe.sortie.find("\"resume\":"), std::string::npos) << sortie;
+    }
+    // Into a file that the shell holds open, both follow one another.
+    const std::string fichier = (dossier / "sortie").string();
+    EXPECT_EQ(LanceReelle(fichierEtude + "--points /dev/stdout >'" + fichier + "'").statut, 0);
+    EXPECT_NE(LitBrut(fichier).find(entete), std::string::npos);
+    EXPECT_NE(LitBrut(fichier).find("\"resume\":"), std::string::npos);
+    const auto tube = LanceReelle("--aide >/dev/null; mkfifo '" + fichier + ".tube'; cat '" + fichier + ".tube' & " +
+                                  VELORIN_DOSSIER "/velorin-batch " + fichierEtude + "--points '" + fichier +
+                                  ".tube' >/dev/null; wait; test -p '" + fichier + ".tube'");
+    EXPECT_EQ(tube.statut, 0);
+    EXPECT_EQ(tube.sortie.substr(0, entete.size()), entete);
+    EXPECT_EQ(LanceReelle(fichierEtude + "--rapport '" + fichier + ".pdf' 2>&1 >/dev/null").sortie, "")
+        << "the toolkit says nothing";
+}
+
+TEST(Executable, AStudyThatIsNoRegularFileIsRefusedAtOnce) {
+    const DossierTemporaire dossier;
+    const std::string tube = (dossier / "tube.Ang").string();
+    EXPECT_EQ(LanceReelle("--aide >/dev/null; mkfifo '" + tube +
+                          "'; timeout 20 " VELORIN_DOSSIER "/velorin-batch etude '" + tube + "' /dev/zero 2>/dev/null")
+                  .statut,
+              2);
+}
+
+TEST(Executable, BothScriptsAreWrittenOrNeither) {
+    const DossierTemporaire dossier;
+    fs::create_directories(dossier / "came_Int.Scr" / "plein");
+    const auto passe = LanceReelle("etude '" + exemple + "' --resume --scripts '" + (dossier / "came").string() + "'");
+    EXPECT_EQ(passe.statut, 1);
+    EXPECT_EQ(dossier.NombreFichiers(), 1) << "the folder in the way, and no script";
+}
+
+TEST(Executable, WorksBesideTheOpenDesktopAndWaitsForAWriteInFlight) {
+    const DossierTemporaire dossier;
+    const fs::path base = dossier.Ecrit("Base.Mdb", LitBrut(fs::path(VELORIN_DOSSIER) / "BaseDatos.Mdb"));
+    const std::string commande = "loi CYC --points 1 --langue English --base '" + base.string() + "' 2>&1";
+    BaseDonnees bureau = BaseDonnees::Ouvre(base, MotDePasseBase, BaseDonnees::Usage::Exclusif);
+    EXPECT_EQ(LanceReelle(commande).statut, 0) << "the desktop holds the base";
+    bureau.CommenceTransaction();
+    JeuEnregistrements lois = bureau.OuvreTable("Lois");
+    lois.AddNew();
+    lois.Ecrit("NomLoi", std::string("A MOITIE"));
+    lois.Update();
+    const auto attente = LanceReelle(commande);
+    EXPECT_EQ(attente.statut, 2) << "a write is in flight and does not end";
+    EXPECT_NE(attente.sortie.find("File in use by another program : "), std::string::npos) << attente.sortie;
+    EXPECT_NE(attente.sortie.find("2 s"), std::string::npos) << attente.sortie;
+    bureau.ValideTransaction();
+    EXPECT_EQ(LanceReelle(commande).statut, 0);
+}
+
+TEST(Executable, FailedStartsAreToldInTheWorkingLanguageWithTheFile) {
+    const DossierTemporaire dossier;
+    const std::string absente = (dossier / "Absente.Mdb").string();
+    const std::string fausse = dossier.Ecrit("Fausse.Mdb", std::string(9000, 'x'));
+    const auto erreur = [](const std::string& base, const std::string& langue) {
+        return LanceReelle("loi CYC --points 1 --base '" + base + "' --langue " + langue + " 2>&1").sortie;
+    };
+    EXPECT_EQ(erreur(absente, "English"), "velorin-batch: File not found : " + absente + "\n");
+    EXPECT_EQ(erreur(fausse, "Español"),
+              "velorin-batch: Base de datos dañada o contraseña incorrecta : " + fausse + "\n");
+    EXPECT_NE(erreur(absente, "Deutsch").find("Fichier introuvable / Archivo no encontrado / File not found"),
+              std::string::npos);
+    for (const char* colonne : {"Numero", "Longueur"})
+        EXPECT_EQ(LanceReelle(std::string("loi CYC --points 1 --langue ") + colonne + " 2>/dev/null").statut, 2);
 }
 
 TEST(Executable, ManyRunAtOnce) {

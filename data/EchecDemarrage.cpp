@@ -1,0 +1,41 @@
+#include "data/EchecDemarrage.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr const char* langues[] = {"Français", "Español", "English"};
+
+struct SensDemarrage {
+    NumeroErreur numero;
+    const char* textes[std::size(langues)];
+};
+
+constexpr SensDemarrage sens[] = {
+    {NumeroErreur::FichierIntrouvable, {"Fichier introuvable", "Archivo no encontrado", "File not found"}},
+    {NumeroErreur::AccesFichier, {"Accès refusé", "Acceso denegado", "Access denied"}},
+    {NumeroErreur::FinDeFichier, {"Fichier incomplet", "Archivo incompleto", "Incomplete file"}},
+    {NumeroErreur::ContenuInvalide, {"Fichier endommagé", "Archivo dañado", "Damaged file"}},
+    {NumeroErreur::FichierTropGrand, {"Fichier trop grand", "Archivo demasiado grande", "File too large"}},
+    {NumeroErreur::BaseIllisible,
+     {"Base de données endommagée ou mot de passe incorrect", "Base de datos dañada o contraseña incorrecta",
+      "Damaged database or wrong password"}},
+    {NumeroErreur::BaseOccupee,
+     {"Fichier occupé par un autre programme", "Archivo ocupado por otro programa", "File in use by another program"}},
+};
+constexpr SensDemarrage autre{{},
+                              {"Velorin ne peut pas démarrer", "Velorin no puede iniciarse", "Velorin cannot start"}};
+
+} // namespace
+
+std::string TexteEchecDemarrage(const ErreurExecution& erreur, const std::string& langue) {
+    const auto trouve = std::find_if(std::begin(sens), std::end(sens),
+                                     [&](const SensDemarrage& s) { return s.numero == erreur.numero; });
+    const SensDemarrage& ligne = trouve == std::end(sens) ? autre : *trouve;
+    std::string texte;
+    const bool connue = std::find(std::begin(langues), std::end(langues), langue) != std::end(langues);
+    for (std::size_t l = 0; l < std::size(langues); ++l)
+        if (!connue || langue == langues[l]) texte += (texte.empty() ? "" : "\n") + std::string(ligne.textes[l]);
+    return texte + (erreur.detail.empty() ? "" : (connue ? " : " : "\n") + erreur.detail);
+}

@@ -1,0 +1,56 @@
+// A writer first sets its journal up, then changes the file, then clears the journal. A copy taken between two looks at
+// a cleared journal, while the file keeps its time and size, is a whole database.
+#include "data/Instantane.h"
+
+#include "core/ErreurExecution.h"
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <random>
+#include <string>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::chrono::milliseconds Attente(2000), Pas(20);
+
+/// True while a write is in flight: the journal begins with its mark. A cleared one is absent, empty or zeroed.
+bool EcritureEnCours(const fs::path& chemin) {
+    std::ifstream journal(chemin.string() + "-journal", std::ios::binary);
+    char tete[8] = {};
+    journal.read(tete, sizeof tete);
+    return std::any_of(std::begin(tete), std::end(tete), [](char c) { return c != 0; });
+}
+
+struct Etat {
+    fs::file_time_type date;
+    std::uintmax_t taille;
+    bool operator==(const Etat&) const = default;
+};
+
+Etat EtatDe(const fs::path& chemin) {
+    return {fs::last_write_time(chemin), fs::file_size(chemin)};
+}
+
+} // namespace
+
+fs::path CopieBase(const fs::path& chemin) {
+    const fs::path copie = fs::temp_directory_path() / ("velorin-" + std::to_string(std::random_device{}()) + ".Mdb");
+    const auto fin = std::chrono::steady_clock::now() + Attente;
+    do {
+        if (!EcritureEnCours(chemin)) {
+            const Etat avant = EtatDe(chemin);
+            std::error_code echec;
+            if (!fs::copy_file(chemin, copie, fs::copy_options::overwrite_existing, echec))
+                throw ErreurExecution(NumeroErreur::AccesFichier, chemin.string());
+            if (!EcritureEnCours(chemin) && EtatDe(chemin) == avant) return copie;
+        }
+        std::this_thread::sleep_for(Pas);
+    } while (std::chrono::steady_clock::now() < fin);
+    std::error_code ignore;
+    fs::remove(copie, ignore);
+    throw ErreurExecution(NumeroErreur::BaseOccupee, chemin.string() + " (2 s)");
+}

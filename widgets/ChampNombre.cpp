@@ -79,8 +79,12 @@ double ChampNombre::Valeur() const {
 }
 
 void ChampNombre::Montre(double valeur) {
-    setText(Q(StrTrim(valeur)));
+    const QString texte = Q(StrTrim(valeur));
+    // Whoever is in the field goes on typing in it as long as its value stays.
+    if (texte == text() || (hasFocus() && Valeur() == valeur)) return;
+    setText(texte);
     setCursorPosition(0);
+    if (hasFocus()) selectAll();
 }
 
 void ChampNombre::RefuseSigne(bool refuse) {

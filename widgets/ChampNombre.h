@@ -14,7 +14,8 @@ public:
     /// @throws ErreurExecution overflow when the number exceeds a double.
     double Valeur() const;
 
-    /// Shows a number with its shortest digits.
+    /// Shows a number with its shortest digits. A field with the focus is left as it is typed when it has that value
+    /// already; otherwise the number stands in it selected.
     void Montre(double valeur);
 
     /// Whether a minus in front of the number is kept from being typed; otherwise it may be.

@@ -14,6 +14,7 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/ReprendSaisie.h"
 
 #include <QComboBox>
 #include <QFocusEvent>
@@ -94,7 +95,9 @@ QWidget* PanneauZones::FaitCadreZone(const ChampsZones& noms) {
 
 void PanneauZones::RelieChamps() {
     const auto prendFocus = [](QWidget* champ) { return [champ] { champ->setFocus(Qt::TabFocusReason); }; };
-    connect(nombreZones_, &ChampNombre::Suivant, this, prendFocus(valeurDepart_));
+    connect(nombreZones_, &ChampNombre::Suivant, this, [this] {
+        if (EntreNombreZones()) PrendFocusZone();
+    });
     connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, prendFocus(valeurDepart_));
     connect(valeurDepart_, &ChampNombre::Suivant, this, prendFocus(valeurFinale_));
     connect(valeurFinale_, &ChampNombre::Suivant, this, prendFocus(angleCame_));
@@ -111,6 +114,11 @@ void PanneauZones::PrendFocus() {
     nombreZones_->setFocus(Qt::TabFocusReason);
 }
 
+/// To the first field of the frame that can be entered.
+void PanneauZones::PrendFocusZone() {
+    (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
+}
+
 bool PanneauZones::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() == QEvent::FocusOut) {
         // Another window, a menu or the way back may be gone to with any number in the field.
@@ -123,16 +131,16 @@ bool PanneauZones::eventFilter(QObject* objet, QEvent* evenement) {
     return QGroupBox::eventFilter(objet, evenement);
 }
 
-void PanneauZones::EntreNombreZones() {
+bool PanneauZones::EntreNombreZones() {
     const double nombre = Int(nombreZones_->Valeur());
     const int texte = nombre <= 0.0 ? 72 : nombre > 32767.0 ? 206 : 0;
     if (texte != 0) {
         LesDialogues().Message(Icone::Information, Texte(texte));
-        nombreZones_->setFocus();
-        return;
+        ReprendSaisie(*nombreZones_);
+        return false;
     }
     nombreZones_->Montre(nombre);
-    if (Entier16(nombre) == etude.donnees.NombreZones) return;
+    if (Entier16(nombre) == etude.donnees.NombreZones) return true;
     etude.donnees.NombreZones = Entier16(nombre);
     emit Modifie();
     etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
@@ -141,6 +149,7 @@ void PanneauZones::EntreNombreZones() {
     ProposeFichier();
     MontreZone();
     RemplitGrille();
+    return true;
 }
 
 /// A study of one zone may take its law from a file; any other may not.
@@ -167,10 +176,17 @@ void PanneauZones::MontreZone() {
     valeurDepart_->setEnabled(z <= 1 || !description_.departsSuivis);
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
-    if (entree) loi_->setCurrentText(Q(zone.NomLoi));
-    loiChoisie_ = loi_->currentText();
+    MontreLoi(entree ? Q(zone.NomLoi) : loi_->currentText());
     symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
     MontreBoutons();
+}
+
+void PanneauZones::MontreLoi(const QString& nom) {
+    // On the row of that name, not on the first with the name written over it: Return takes the row.
+    const int place = loi_->findText(nom, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    loi_->setCurrentIndex(place);
+    if (place < 0) loi_->setEditText(nom);
+    loiChoisie_ = nom;
 }
 
 void PanneauZones::MontreBoutons() {
@@ -191,7 +207,7 @@ void PanneauZones::VaALaZone(int ligne) {
     if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones)) return;
     etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
-    (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
+    PrendFocusZone();
 }
 
 /// One Return may announce itself twice, as a key and as a choice: the law is chosen once.
@@ -203,7 +219,9 @@ void PanneauZones::DemandeChoix(bool continuer) {
         [this] {
             choixDemande_ = false;
             const bool suite = std::exchange(continuer_, false);
-            if (ChoisitLoi() && suite) symetrie_->setFocus(Qt::TabFocusReason);
+            // Return over the law that the zone has already is no choice.
+            const bool passe = suite && loi_->currentText() == loiChoisie_;
+            if ((passe || ChoisitLoi()) && suite) symetrie_->setFocus(Qt::TabFocusReason);
         },
         Qt::QueuedConnection);
 }
@@ -226,7 +244,7 @@ bool PanneauZones::ChoisitLoi() {
 
 bool PanneauZones::ChercheFichier() {
     // A cancelled dialogue or a file that cannot be read leaves the law as it was.
-    loi_->setCurrentText(loiChoisie_);
+    MontreLoi(loiChoisie_);
     const auto chemin = LesDialogues().FichierAOuvrir(
         {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     if (!chemin || chemin->empty()) return false;

@@ -50,7 +50,9 @@ protected:
 private:
     QWidget* FaitCadreZone(const ChampsZones& champs);
     void RelieChamps();
+    void PrendFocusZone();
     void MontreZone();
+    void MontreLoi(const QString& nom);
     void MontreBoutons();
     void RemplitGrille();
     void ProposeFichier();
@@ -58,7 +60,7 @@ private:
     bool ChoisitLoi();
     bool ChercheFichier();
     bool FichierPermis() const;
-    void EntreNombreZones();
+    bool EntreNombreZones();
     bool DemandePourcentage(std::string& nomLoi);
     void Suivante();
     void TermineZone(const Zone& zone);

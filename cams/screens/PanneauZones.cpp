@@ -98,7 +98,7 @@ void PanneauZones::RelieChamps() {
     connect(nombreZones_, &ChampNombre::Suivant, this, [this] {
         if (EntreNombreZones()) PrendFocusZone();
     });
-    connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, prendFocus(valeurDepart_));
+    connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, &PanneauZones::PrendFocusZone);
     connect(valeurDepart_, &ChampNombre::Suivant, this, prendFocus(valeurFinale_));
     connect(valeurFinale_, &ChampNombre::Suivant, this, prendFocus(angleCame_));
     connect(angleCame_, &ChampNombre::Suivant, this, prendFocus(loi_));

@@ -59,8 +59,12 @@ protected:
     /// @param active its flag, set from here on until it is closed; none for a window of a cam study
     explicit FenetreEnfant(const char* nom, QWidget* parent, Booleen16 DonneesEtude::*active = nullptr);
 
-    /// The button of the way back, which Escape and the cross of the window click.
+    /// The button of the way back, which the cross of the window clicks.
     void RevientPar(QAbstractButton& bouton);
+
+    /// Escape goes back too. Only where that gives nothing up: in a screen that is typed into, Escape closes an open
+    /// list or a box, and leaving takes the button.
+    void RevientAussiParEchappement();
 
 private:
     Booleen16 DonneesEtude::*active_;

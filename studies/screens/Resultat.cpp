@@ -97,6 +97,7 @@ Resultat::Resultat(QWidget* parent) : FenetreEnfant("Resultat", parent) {
 
     connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
     RevientPar(*quitter_);
+    RevientAussiParEchappement();
     connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
     Resultat::Montre();
 }

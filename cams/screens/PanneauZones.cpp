@@ -4,6 +4,7 @@
 #include "cams/ListeZones.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "data/Unites.h"
 #include "laws/CalculLois.h"
 #include "laws/FichierLoi.h"
@@ -178,6 +179,7 @@ void PanneauZones::MontreZone() {
     angleCame_->Montre(zone.AngleCame);
     MontreLoi(entree ? Q(zone.NomLoi) : loi_->currentText());
     symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
+    zoneMontree_ = LitZone();
     MontreBoutons();
 }
 
@@ -203,7 +205,9 @@ void PanneauZones::RemplitGrille() {
 }
 
 void PanneauZones::VaALaZone(int ligne) {
-    // Only zones already entered, or the first that is not, can be gone to.
+    // Only zones already entered, or the first that is not, can be gone to; what was typed is not left behind.
+    if (ligne + 1 == etude.donnees.ZoneCourante) return PrendFocusZone();
+    if (ZoneModifiee() && !AccepteZone()) return;
     if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones)) return;
     etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
@@ -238,7 +242,7 @@ bool PanneauZones::ChoisitLoi() {
     LesDialogues().Message(Icone::Avertissement, Texte(521) + " " + Texte(103));
     loi_->setCurrentIndex(0);
     symetrie_->Montre(0.5);
-    loi_->setFocus();
+    ReprendSaisie(*loi_);
     return false;
 }
 
@@ -276,59 +280,95 @@ bool PanneauZones::DemandePourcentage(std::string& nomLoi) {
     const auto nom = NomLoiPersonnelle(reponse ? ValVirgule(*reponse) : 0.0);
     if (!nom) {
         LesDialogues().Message(Icone::Avertissement, Texte(416));
-        loi_->setFocus();
+        ReprendSaisie(*loi_);
         return false;
     }
     nomLoi = *nom;
     return true;
 }
 
-void PanneauZones::Suivante() {
-    if (etude.donnees.ZoneCourante > etude.donnees.NombreZones) return;
+/// What the fields of the frame hold.
+Zone PanneauZones::LitZone() const {
     Zone zone;
     zone.*description_.valeurDepart = valeurDepart_->Valeur();
     zone.*description_.valeurFinale = valeurFinale_->Valeur();
     zone.AngleCame = angleCame_->Valeur();
     zone.NomLoi = S(loi_->currentText());
     zone.CoefSymetrie = symetrie_->Valeur();
+    return zone;
+}
+
+bool PanneauZones::ZoneModifiee() const {
+    const Zone zone = LitZone();
+    for (const auto membre :
+         {description_.valeurDepart, description_.valeurFinale, &Zone::AngleCame, &Zone::CoefSymetrie})
+        if (zone.*membre != zoneMontree_.*membre) return true;
+    return zone.NomLoi != zoneMontree_.NomLoi;
+}
+
+bool PanneauZones::PrendSaisie() {
+    if (!EntreNombreZones()) return false;
+    const std::int16_t z = etude.donnees.ZoneCourante;
+    const bool attend = z > zonesEntrees_ && z == etude.donnees.NombreZones;
+    if ((attend || ZoneModifiee()) && !AccepteZone()) return false;
+    if (Complet()) return true;
+    LesDialogues().Message(Icone::Information, Texte(TexteZonesManquantes));
+    PrendFocusZone();
+    return false;
+}
+
+bool PanneauZones::AccepteZone() {
+    Zone zone = LitZone();
     auto faute = ChercheFauteZone(zone);
     if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis()) faute = {ChampZone::NomLoi, Texte(511)};
     if (faute) {
         LesDialogues().Message(Icone::Avertissement, faute->texte);
         QWidget* const champs[] = {symetrie_, loi_, angleCame_};
-        champs[static_cast<int>(faute->champ)]->setFocus();
-        return;
+        ReprendSaisie(*champs[static_cast<int>(faute->champ)]);
+        return false;
     }
-    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return;
-    if (acheve_(zone)) TermineZone(zone);
+    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return false;
+    if (!acheve_(zone)) return false;
+    GardeZone(zone);
+    return true;
 }
 
-void PanneauZones::TermineZone(const Zone& zone) {
-    etude.donnees.Zones[etude.donnees.ZoneCourante] = zone;
+void PanneauZones::GardeZone(const Zone& zone) {
+    const std::int16_t z = etude.donnees.ZoneCourante;
+    etude.donnees.Zones[z] = zone;
+    zonesEntrees_ = std::max(zonesEntrees_, z);
     emit Modifie();
-    zonesEntrees_ = std::max(zonesEntrees_, etude.donnees.ZoneCourante);
-    const bool derniere = etude.donnees.ZoneCourante == etude.donnees.NombreZones;
-    if (!derniere) ++etude.donnees.ZoneCourante;
     MontreZone();
     RemplitGrille();
-    if (derniere)
+}
+
+void PanneauZones::Suivante() {
+    if (etude.donnees.ZoneCourante > etude.donnees.NombreZones || !AccepteZone()) return;
+    if (etude.donnees.ZoneCourante == etude.donnees.NombreZones) {
         emit Termine();
-    else
-        valeurFinale_->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    ++etude.donnees.ZoneCourante;
+    MontreZone();
+    valeurFinale_->setFocus(Qt::TabFocusReason);
 }
 
 bool PanneauZones::LitPointsParDegre() {
-    const std::string points = S(pointsParDegre_->currentText());
-    std::string faute;
-    if (!EstPointsParDegre(points))
-        faute = Texte(519) + "\n" + Texte(520);
-    else if (const int texte = FautePoints(Entier16(Val(points))))
-        faute = Texte(texte);
-    if (faute.empty()) {
-        etude.donnees.PointsParDegre = Entier16(Val(points));
-        return true;
+    const std::string texte = S(pointsParDegre_->currentText());
+    if (!EstPointsParDegre(texte)) {
+        LesDialogues().Message(Icone::Avertissement, Texte(519) + "\n" + Texte(520));
+        ReprendSaisie(*pointsParDegre_);
+        return false;
     }
-    LesDialogues().Message(Icone::Avertissement, faute);
-    pointsParDegre_->setFocus();
+    const std::int16_t points = Entier16(Val(texte));
+    if (std::exchange(etude.donnees.PointsParDegre, points) != points) emit Modifie();
+    return true;
+}
+
+bool PanneauZones::ControlePoints() {
+    const int texte = FautePoints(etude.donnees.PointsParDegre);
+    if (texte == 0) return true;
+    LesDialogues().Message(Icone::Avertissement, Texte(texte));
+    ReprendSaisie(*pointsParDegre_);
     return false;
 }

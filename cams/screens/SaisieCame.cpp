@@ -11,6 +11,7 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/ReprendSaisie.h"
 #include "widgets/ZoneDefilante.h"
 
 #include <QBoxLayout>
@@ -134,7 +135,7 @@ bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
     const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
     if (faute == nullptr) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
-    if (auto* champ = ChampDe(faute->nom)) champ->setFocus();
+    if (auto* champ = ChampDe(faute->nom)) ReprendSaisie(*champ);
     return true;
 }
 
@@ -152,7 +153,7 @@ void SaisieCame::ChargeDonnees() {
 bool SaisieCame::HorsDePortee() {
     if (SansErreur()) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(75));
-    if (auto* bras = ChampDe("RayonO1P")) bras->setFocus();
+    if (auto* bras = ChampDe("RayonO1P")) ReprendSaisie(*bras);
     return true;
 }
 
@@ -168,10 +169,14 @@ bool SaisieCame::AcheveZone(Zone& zone) {
     return !HorsDePortee();
 }
 
-void SaisieCame::Calculer() {
-    if (!zones_->LitPointsParDegre()) return;
+bool SaisieCame::PrendSaisie() {
+    if (!zones_->LitPointsParDegre()) return false;
     LitDonnees();
-    if (FauteDeDonnee(description_.champs)) return;
+    return zones_->PrendSaisie();
+}
+
+void SaisieCame::Calculer() {
+    if (!PrendSaisie() || !zones_->ControlePoints() || FauteDeDonnee(description_.champs)) return;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);

@@ -57,6 +57,7 @@ protected:
     void showEvent(QShowEvent* evenement) override;
 
 private:
+    bool PrendSaisie();
     bool AcheveZone(Zone& zone);
     void PerimeResultats();
     void RelieChamps();

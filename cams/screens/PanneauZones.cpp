@@ -2,6 +2,7 @@
 
 #include "cams/LimitesSaisie.h"
 #include "cams/ListeZones.h"
+#include "cams/RemarquesZones.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "data/TextesSaisie.h"
@@ -15,6 +16,7 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/Remarques.h"
 #include "widgets/ReprendSaisie.h"
 
 #include <QComboBox>
@@ -63,6 +65,8 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     disposition->addWidget(grille_, 1);
     somme_ = Nomme(new QLabel, "SommeAngles");
     disposition->addWidget(somme_);
+    remarques_ = Nomme(new Remarques, "RemarquesZones");
+    disposition->addWidget(remarques_);
     AppliqueLegendes(*this, legendes);
     RelieChamps();
 
@@ -199,9 +203,8 @@ void PanneauZones::MontreBoutons() {
 
 void PanneauZones::RemplitGrille() {
     grille_->Remplit(TableZones(description_, zonesEntrees_));
-    double somme = 0;
-    for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.donnees.Zones[z].AngleCame;
-    somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));
+    somme_->setText(QTexte(191) + " " + Q(StrTrim(SommeAngles(zonesEntrees_))) + " " + QTexte(UniteDegres));
+    remarques_->Montre(RemarquesZones(description_, zonesEntrees_));
 }
 
 void PanneauZones::VaALaZone(int ligne) {
@@ -335,7 +338,13 @@ bool PanneauZones::AccepteZone() {
 
 void PanneauZones::GardeZone(const Zone& zone) {
     const std::int16_t z = etude.donnees.ZoneCourante;
-    etude.donnees.Zones[z] = zone;
+    const Zone avant = std::exchange(etude.donnees.Zones[z], zone);
+    // The end that was edited is where the next zone starts.
+    if (z < zonesEntrees_ && zone.*description_.valeurFinale != avant.*description_.valeurFinale) {
+        Zone& suivante = etude.donnees.Zones[z + 1];
+        suivante.RayonDepart = zone.RayonFinal;
+        suivante.*description_.valeurDepart = zone.*description_.valeurFinale;
+    }
     zonesEntrees_ = std::max(zonesEntrees_, z);
     emit Modifie();
     MontreZone();

@@ -13,6 +13,7 @@ class Grille;
 class QComboBox;
 class QLabel;
 class QPushButton;
+class Remarques;
 
 /// The control names of the fields.
 struct ChampsZones {
@@ -84,6 +85,7 @@ private:
     QGroupBox* cadreZone_;
     Grille* grille_;
     QLabel* somme_;
+    Remarques* remarques_;
     QPushButton* suivante_;
     Zone zoneMontree_;   ///< what the fields held when the zone was shown
     QString loiChoisie_; ///< the last law that was accepted in the list

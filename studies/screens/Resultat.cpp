@@ -2,6 +2,7 @@
 
 #include "cams/CompleteZones.h"
 #include "cams/ListeZones.h"
+#include "cams/RemarquesZones.h"
 #include "cams/screens/PanneauRotation.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
@@ -18,6 +19,8 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/Remarques.h"
+#include "widgets/ReprendSaisie.h"
 #include "widgets/ZoneDefilante.h"
 #include "widgets/ZoneDessin.h"
 
@@ -117,6 +120,8 @@ QWidget* Resultat::FaitValeurs() {
     disposition->addWidget(Nomme(new QLabel, "TitreGrille"), 2, 0, 1, 3);
     disposition->addWidget(zones_, 3, 0, 1, 3);
     disposition->setRowStretch(3, 1);
+    remarques_ = Nomme(new Remarques, "RemarquesZones");
+    disposition->addWidget(remarques_, 4, 0, 1, 3);
     return feuille;
 }
 
@@ -233,6 +238,7 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
 
 void Resultat::RemplitGrilles(const TypeEtude& type) {
     zones_->Remplit(TableZones(*type.zones, etude.donnees.NombreZones));
+    remarques_->Montre(RemarquesZones(*type.zones, etude.donnees.NombreZones));
     grilleGalet_->Remplit(TableGalet());
     grilleBras_->Remplit(TableBras(type.zones->rayonsBras));
     grilleEfforts_->Remplit(TableEfforts());
@@ -282,7 +288,7 @@ bool Resultat::FauteDeDonnee(const TypeEtude& type) {
     if (faute == nullptr) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
     for (std::size_t i = 0; i < champs_.size(); ++i)
-        if (faute->nom == std::string_view(champsRecalcul[i].nom)) champs_[i]->setFocus();
+        if (faute->nom == std::string_view(champsRecalcul[i].nom)) ReprendSaisie(*champs_[i]);
     return true;
 }
 

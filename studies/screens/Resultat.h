@@ -14,6 +14,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QTabWidget;
+class Remarques;
 class ZoneDessin;
 struct TypeEtude;
 struct ValeurRemarquable;
@@ -56,6 +57,7 @@ private:
     QGridLayout* dispositionDonnees_;
     Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;
     ZoneDessin *graphiqueGalet_, *graphiqueBras_, *graphiqueForce_, *graphiqueCouple_;
+    Remarques* remarques_;
     PanneauRotation* came_;
     std::vector<ChampNombre*> champs_;
     QPushButton *recalcul_, *quitter_;

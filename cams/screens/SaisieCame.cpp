@@ -1,6 +1,7 @@
 #include "cams/screens/SaisieCame.h"
 
 #include "cams/CompleteZones.h"
+#include "cams/LimitesSaisie.h"
 #include "cams/screens/PanneauPesanteur.h"
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
@@ -81,6 +82,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     disposition->addLayout(boutons);
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
+    PoseLimites(*this, LimiteNombre);
     zones_->LaisseAller(retour_);
     RevientPar(*retour_);
     RelieChamps();
@@ -158,6 +160,7 @@ bool SaisieCame::HorsDePortee() {
 }
 
 bool SaisieCame::AcheveZone(Zone& zone) {
+    if (RefuseHorsLimite(*this)) return false;
     LitDonnees();
     const bool tous = description_.champDuree == nullptr;
     const std::span champs =
@@ -170,7 +173,7 @@ bool SaisieCame::AcheveZone(Zone& zone) {
 }
 
 bool SaisieCame::PrendSaisie() {
-    if (!zones_->LitPointsParDegre()) return false;
+    if (!zones_->LitPointsParDegre() || RefuseHorsLimite(*this)) return false;
     LitDonnees();
     return zones_->PrendSaisie();
 }

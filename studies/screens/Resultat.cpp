@@ -1,6 +1,7 @@
 #include "studies/screens/Resultat.h"
 
 #include "cams/CompleteZones.h"
+#include "cams/LimitesSaisie.h"
 #include "cams/ListeZones.h"
 #include "cams/RemarquesZones.h"
 #include "cams/screens/PanneauRotation.h"
@@ -99,6 +100,7 @@ Resultat::Resultat(QWidget* parent) : FenetreEnfant("Resultat", parent) {
     AppliqueLegendes(*this, legendes);
 
     connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
+    PoseLimites(*this, LimiteNombre);
     RevientPar(*quitter_);
     RevientAussiParEchappement();
     connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
@@ -294,7 +296,7 @@ bool Resultat::FauteDeDonnee(const TypeEtude& type) {
 
 void Resultat::Recalcul() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type == nullptr || RefuseSiRotation()) return;
+    if (type == nullptr || RefuseSiRotation() || RefuseHorsLimite(*this)) return;
     // A calculation that fails leaves data and tables as they are shown.
     const Etude gardee = etude;
     try {

@@ -8,6 +8,7 @@
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
+#include "widgets/ReprendSaisie.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -72,12 +73,12 @@ void SeleSauv::Sauvegarde() {
     const std::string nom = Trim(S(nom_->text()));
     if (nom.empty()) {
         LesDialogues().Message(Icone::Information, Texte(518));
-        nom_->setFocus();
+        ReprendSaisie(*nom_);
         return;
     }
     if (nom.find_first_of("/\\") != std::string::npos) {
         LesDialogues().Message(Icone::Avertissement, Texte(208));
-        nom_->setFocus();
+        ReprendSaisie(*nom_);
         return;
     }
     // The exports alone would leave nothing to make them again from.

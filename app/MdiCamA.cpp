@@ -5,6 +5,7 @@
 #include "app/CameType.h"
 #include "app/Propos.h"
 #include "data/Demarrage.h"
+#include "data/TextesSaisie.h"
 #include "laws/ChoixLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
@@ -109,7 +110,10 @@ void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     Annonce(Texte(TextePret));
     VideEtude();
     try {
-        if (!LitFichierEtude(chemin)) return;
+        if (!LitFichierEtude(chemin)) {
+            if (etude.lois.DeFichier) Annonce(Texte(TexteLoisAuDemarrage));
+            return;
+        }
     } catch (const ErreurExecution& erreur) {
         Annonce(Texte(TexteLectureImpossible) + " " + nom + " : " + SensErreur(erreur));
         return;
@@ -273,6 +277,7 @@ void MdiCamA::Relie(FenetreEnfant& fenetre) {
     connect(&fenetre, &FenetreEnfant::EtudeRecalculee, this, [this] { Annonce(Texte(TexteEtudeCalculee)); });
     connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
             [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
+    connect(&fenetre, &FenetreEnfant::Nouvelle, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
 }

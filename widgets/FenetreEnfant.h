@@ -51,6 +51,7 @@ signals:
     void EtudeCalculee();                       ///< the study is calculated and its results are to be shown
     void EtudeRecalculee();                     ///< what this window shows was calculated
     void FichierEnregistre(const QString& nom); ///< name without folder
+    void Nouvelle(const QString& texte);        ///< to be told in the status line
     void ImpressionDemandee();                  ///< this window is to be printed
     void Quitte();                              ///< the window is given up
 

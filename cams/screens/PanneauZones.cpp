@@ -275,6 +275,7 @@ bool PanneauZones::ChercheFichier() {
     zonesEntrees_ = 0; // the zone is filled, and waits to be accepted
     MontreBoutons();
     RemplitGrille();
+    emit LoiLue(QChemin(chemin->filename()));
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "cams/LimitesSaisie.h"
 #include "cams/screens/PanneauPesanteur.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"
@@ -103,6 +104,9 @@ void SaisieCame::RelieChamps() {
         }
     }
     connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
+    connect(zones_, &PanneauZones::LoiLue, this, [this](const QString& fichier) {
+        emit Nouvelle(QTexte(TexteLoiDeFichierLue) + " " + fichier + ". " + QTexte(TexteLoisAuDemarrage));
+    });
     connect(zones_, &PanneauZones::Modifie, this, &SaisieCame::PerimeResultats);
     if (pesanteur_ != nullptr) {
         connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);

@@ -95,17 +95,18 @@ void MdiCamA::Ouvrir() {
 
 void MdiCamA::OuvreParType(const TypeEtude* type) {
     if (RotationEmpeche()) return;
-    FermeEcrans();
     DemandeFichier demande{Texte(TexteTitreOuvrir), CheminAppli / NomDossierEtudes, {}, {}};
     for (const TypeEtude& t : LesTypesEtude())
         if (type ? &t == type : t.Disponible()) demande.filtres.push_back(FiltreEtude(t));
     if (type) demande.titre += " " + Texte(type->titre);
     const auto chemin = LesDialogues().FichierAOuvrir(demande);
+    // Whoever cancels finds his screens and his study as they were.
     if (chemin && !chemin->empty()) OuvreFichier(*chemin);
 }
 
 void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     const Sablier sablier;
+    FermeEcrans();
     const std::string nom = S(QChemin(chemin.filename()));
     Annonce(Texte(TextePret));
     VideEtude();

@@ -152,7 +152,8 @@ void MdiCamA::Sauvegarder() {
         return;
     }
     if (active != nullptr) return active->Enregistrer();
-    SeleSauv sauvegarde(this);
+    if (!bureau_->Obtient(&FenetreEnfant::PrendSaisie)) return;
+    SeleSauv sauvegarde([this] { return bureau_->Obtient(&FenetreEnfant::MetAJour); }, this);
     connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.donnees.NomFichier);
         bureau_->Dit(&FenetreEnfant::MontreNomFichier);
@@ -167,6 +168,7 @@ void MdiCamA::Imprimer() {
         return;
     }
     if (active != nullptr) return ImprimeFenetre(*active);
+    if (!bureau_->Obtient(&FenetreEnfant::MetAJour)) return;
     // The title stands at the head of every report: a study without one is asked for it again.
     while (etude.donnees.NomFichier.empty())
         etude.donnees.NomFichier =

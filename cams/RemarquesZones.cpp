@@ -42,8 +42,7 @@ std::vector<std::string> RemarquesZones(const DescriptionZones& zones, std::int1
                                 Valeur(fin(z - 1), zones.unite) + ".");
     if (entrees == 0 || entrees < etude.donnees.NombreZones) return remarques;
     const double somme = SommeAngles(entrees);
-    if (!ToursEntiers(zones, somme))
-        remarques.push_back(Texte(TextePasUnTour) + Valeur(somme, UniteDegres) + ".");
+    if (!ToursEntiers(zones, somme)) remarques.push_back(Texte(TextePasUnTour) + Valeur(somme, UniteDegres) + ".");
     if (Differe(zones.Depart(1), fin(entrees)))
         remarques.push_back(Texte(TexteCameOuverte) + Valeur(zones.Depart(1), zones.unite) + " " +
                             Texte(TexteMouvementFinit) + Valeur(fin(entrees), zones.unite) + ".");

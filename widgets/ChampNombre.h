@@ -50,5 +50,6 @@ private:
 /// Sets the limit of every number field of a screen.
 void PoseLimites(QWidget& ecran, double limite);
 
-/// Looks for a number beyond its field's limit among the visible fields of a screen; true after the box about the first.
+/// Looks for a number beyond its field's limit among the visible fields of a screen; true after the box about the
+/// first.
 bool RefuseHorsLimite(QWidget& ecran);

@@ -35,6 +35,14 @@ public:
     /// Prints what the active window holds, and ends the document; its title is the window's.
     virtual void Imprime(Imprimante&) const {}
 
+    /// Takes what was typed into the study record.
+    /// @return false when it is refused, after the box that says so.
+    virtual bool PrendSaisie() { return true; }
+
+    /// As `PrendSaisie`, and calculates when the results are those of other data.
+    /// @return false when the study cannot be calculated, after the box that says why.
+    virtual bool MetAJour() { return PrendSaisie(); }
+
     /// The results of the study record are to be shown, those of another calculation.
     virtual void Montre() {}
 

@@ -22,6 +22,8 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGridLayout>
+#include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -37,9 +39,25 @@ constexpr Legende legendes[] = {
     {"Suivante", 0, 14},
 };
 
+/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too.
+class LigneListe : public QLineEdit {
+protected:
+    void focusInEvent(QFocusEvent* evenement) override {
+        QLineEdit::focusInEvent(evenement);
+        vientDeLaSouris_ = evenement->reason() == Qt::MouseFocusReason;
+    }
+    void mouseReleaseEvent(QMouseEvent* evenement) override {
+        QLineEdit::mouseReleaseEvent(evenement);
+        if (std::exchange(vientDeLaSouris_, false) && !hasSelectedText()) selectAll();
+    }
+
+private:
+    bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
+};
+
 QComboBox* FaitListe(const char* nom) {
     auto* liste = Nomme(new QComboBox, nom);
-    liste->setEditable(true);
+    liste->setLineEdit(new LigneListe);
     liste->setInsertPolicy(QComboBox::NoInsert);
     return liste;
 }
@@ -60,13 +78,13 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     disposition->addLayout(tete);
     disposition->addWidget(FaitCadreZone(champs));
     grille_ = Nomme(new Grille, "Grille");
-    grille_->setMinimumSize(630, 200);
+    grille_->setMinimumSize(630, 140);
     disposition->addWidget(FaitEtiquette("TitreGrille", grille_));
+    remarques_ = Nomme(new Remarques, "RemarquesZones");
+    disposition->addWidget(remarques_);
     disposition->addWidget(grille_, 1);
     somme_ = Nomme(new QLabel, "SommeAngles");
     disposition->addWidget(somme_);
-    remarques_ = Nomme(new Remarques, "RemarquesZones");
-    disposition->addWidget(remarques_);
     AppliqueLegendes(*this, legendes);
     RelieChamps();
 
@@ -95,6 +113,7 @@ QWidget* PanneauZones::FaitCadreZone(const ChampsZones& noms) {
     suivante_ = Nomme(new QPushButton, "Suivante");
     suivante_->setAutoDefault(true);
     champs->addWidget(suivante_, 5, 0, 1, 3, Qt::AlignRight);
+    PoseLimites(*cadreZone_, LimiteNombre);
     return cadreZone_;
 }
 
@@ -324,7 +343,8 @@ bool PanneauZones::PrendSaisie() {
 bool PanneauZones::AccepteZone() {
     Zone zone = LitZone();
     auto faute = ChercheFauteZone(zone);
-    if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis()) faute = {ChampZone::NomLoi, Texte(511)};
+    if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis())
+        faute = {ChampZone::NomLoi, AvecLoisRemplacees(Texte(511))};
     if (faute) {
         LesDialogues().Message(Icone::Avertissement, faute->texte);
         QWidget* const champs[] = {symetrie_, loi_, angleCame_};

@@ -48,10 +48,10 @@ public:
     bool ControlePoints();
 
 signals:
-    void Change();  ///< zones were accepted or lost: `Complet` may have changed
-    void Modifie(); ///< the zones of the record are others
+    void Change();                       ///< zones were accepted or lost: `Complet` may have changed
+    void Modifie();                      ///< the zones of the record are others
     void LoiLue(const QString& fichier); ///< a law file, its name, replaced the catalogue
-    void Termine(); ///< the last zone was accepted on the way through them
+    void Termine();                      ///< the last zone was accepted on the way through them
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;

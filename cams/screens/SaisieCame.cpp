@@ -83,7 +83,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     disposition->addLayout(boutons);
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
-    PoseLimites(*this, LimiteNombre);
+    for (auto* panneau : panneaux_) PoseLimites(*panneau, LimiteNombre);
     zones_->LaisseAller(retour_);
     RevientPar(*retour_);
     RelieChamps();
@@ -122,10 +122,9 @@ void SaisieCame::MontreBoutons() {
     calculer_->setDefault(zones_->Complet());
 }
 
-/// Results of other data are neither printed nor saved.
+/// Results of other data are neither printed nor exported; the study itself can be saved as before.
 void SaisieCame::PerimeResultats() {
-    etude.resultats.ResultatsPrets = Faux;
-    etude.resultats.EtudeModifiee = Faux;
+    etude.resultats.Perimes = true;
 }
 
 void SaisieCame::LitPanneau(PanneauChamps& panneau) {
@@ -182,19 +181,29 @@ bool SaisieCame::PrendSaisie() {
     return zones_->PrendSaisie();
 }
 
+bool SaisieCame::MetAJour() {
+    if (!PrendSaisie()) return false;
+    return !etude.resultats.Perimes || Calcule();
+}
+
 void SaisieCame::Calculer() {
-    if (!PrendSaisie() || !zones_->ControlePoints() || FauteDeDonnee(description_.champs)) return;
+    if (PrendSaisie() && Calcule()) emit EtudeCalculee();
+}
+
+/// Calculates what the record holds; false after a box that says why it cannot be.
+bool SaisieCame::Calcule() {
+    if (!zones_->ControlePoints() || FauteDeDonnee(description_.champs)) return false;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);
-    if (HorsDePortee()) return;
+    if (HorsDePortee()) return false;
     const Sablier sablier;
-    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.Perimes = true;
     description_.calcule();
-    if (!SansErreur()) return;
+    if (!SansErreur()) return false;
     etude.resultats.EtudeModifiee = Vrai;
     etude.resultats.ResultatsPrets = Vrai;
-    emit EtudeCalculee();
+    return true;
 }
 
 void SaisieCame::Retour() {

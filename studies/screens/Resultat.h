@@ -25,6 +25,7 @@ class Resultat : public FenetreEnfant {
 public:
     explicit Resultat(QWidget* parent = nullptr);
 
+    bool PrendSaisie() override;
     void Montre() override;
     void MontreNomFichier() override;
     void MontreRotation() override;
@@ -47,7 +48,9 @@ private:
     void RemplitGraphiques();
     void RemplitRecalcul(const TypeEtude& type);
     bool FauteDeDonnee(const TypeEtude& type);
-    void Recalcul();
+    bool RecalculModifie(const TypeEtude& type) const;
+    bool Recalcul();
+    void Exporte(void (*ecrit)());
     void Quitter();
     bool RefuseSiRotation();
 

@@ -17,6 +17,8 @@
 #include <QPushButton>
 #include <QStyle>
 
+#include <utility>
+
 namespace {
 
 constexpr Legende legendes[] = {
@@ -27,7 +29,7 @@ constexpr Legende legendes[] = {
 
 } // namespace
 
-SeleSauv::SeleSauv(QWidget* parent) : QDialog(parent) {
+SeleSauv::SeleSauv(std::function<bool()> metAJour, QWidget* parent) : QDialog(parent), metAJour_(std::move(metAJour)) {
     setObjectName("SeleSauv");
     nom_ = Nomme(new QLineEdit(Q(NomSansExtension(etude.donnees.NomFichier))), "Text1");
     donnees_ = Nomme(new QCheckBox, "Check1");
@@ -87,6 +89,7 @@ void SeleSauv::Sauvegarde() {
         donnees_->setFocus();
         return;
     }
+    if ((points_->isChecked() || scripts_->isChecked()) && !metAJour_()) return;
     etude.donnees.NomFichier = nom;
     if (DonneesDepart()) emit FichierEnregistre();
     if (points_->isChecked()) FichiersPoints();

@@ -100,6 +100,14 @@ void BureauEcrans::Dit(void (FenetreEnfant::*quoi)()) const {
         if (FenetreEnfant* fenetre = Ouverte(ecran.nom)) (fenetre->*quoi)();
 }
 
+bool BureauEcrans::Obtient(bool (FenetreEnfant::*quoi)()) const {
+    for (const EcranEnfant& ecran : LesEcrans()) {
+        FenetreEnfant* fenetre = Ouverte(ecran.nom);
+        if (fenetre != nullptr && fenetre->isVisible() && !(fenetre->*quoi)()) return false;
+    }
+    return true;
+}
+
 bool BureauEcrans::eventFilter(QObject* objet, QEvent* evenement) {
     FenetreEnfant* fenetre = FenetreDe(qobject_cast<QMdiSubWindow*>(objet));
     if (fenetre != nullptr && Ouverte(fenetre->Nom()) == fenetre) {

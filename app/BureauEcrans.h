@@ -41,6 +41,9 @@ public:
     /// Tells every open window.
     void Dit(void (FenetreEnfant::*quoi)()) const;
 
+    /// Asks the windows that are to be seen, until one refuses; false then.
+    bool Obtient(bool (FenetreEnfant::*quoi)()) const;
+
 signals:
     /// A child window was made: whoever listens to it does so from now on.
     void Creee(FenetreEnfant* fenetre);

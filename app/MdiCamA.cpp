@@ -5,6 +5,7 @@
 #include "app/CameType.h"
 #include "app/Propos.h"
 #include "data/Demarrage.h"
+#include "data/TextesSaisie.h"
 #include "laws/ChoixLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
@@ -94,22 +95,26 @@ void MdiCamA::Ouvrir() {
 
 void MdiCamA::OuvreParType(const TypeEtude* type) {
     if (RotationEmpeche()) return;
-    FermeEcrans();
     DemandeFichier demande{Texte(TexteTitreOuvrir), CheminAppli / NomDossierEtudes, {}, {}};
     for (const TypeEtude& t : LesTypesEtude())
         if (type ? &t == type : t.Disponible()) demande.filtres.push_back(FiltreEtude(t));
     if (type) demande.titre += " " + Texte(type->titre);
     const auto chemin = LesDialogues().FichierAOuvrir(demande);
+    // Whoever cancels finds his screens and his study as they were.
     if (chemin && !chemin->empty()) OuvreFichier(*chemin);
 }
 
 void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
     const Sablier sablier;
+    FermeEcrans();
     const std::string nom = S(QChemin(chemin.filename()));
     Annonce(Texte(TextePret));
     VideEtude();
     try {
-        if (!LitFichierEtude(chemin)) return;
+        if (!LitFichierEtude(chemin)) {
+            if (etude.lois.DeFichier) Annonce(Texte(TexteLoisAuDemarrage));
+            return;
+        }
     } catch (const ErreurExecution& erreur) {
         Annonce(Texte(TexteLectureImpossible) + " " + nom + " : " + SensErreur(erreur));
         return;
@@ -147,7 +152,8 @@ void MdiCamA::Sauvegarder() {
         return;
     }
     if (active != nullptr) return active->Enregistrer();
-    SeleSauv sauvegarde(this);
+    if (!bureau_->Obtient(&FenetreEnfant::PrendSaisie)) return;
+    SeleSauv sauvegarde([this] { return bureau_->Obtient(&FenetreEnfant::MetAJour); }, this);
     connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.donnees.NomFichier);
         bureau_->Dit(&FenetreEnfant::MontreNomFichier);
@@ -162,6 +168,7 @@ void MdiCamA::Imprimer() {
         return;
     }
     if (active != nullptr) return ImprimeFenetre(*active);
+    if (!bureau_->Obtient(&FenetreEnfant::MetAJour)) return;
     // The title stands at the head of every report: a study without one is asked for it again.
     while (etude.donnees.NomFichier.empty())
         etude.donnees.NomFichier =
@@ -273,6 +280,7 @@ void MdiCamA::Relie(FenetreEnfant& fenetre) {
     connect(&fenetre, &FenetreEnfant::EtudeRecalculee, this, [this] { Annonce(Texte(TexteEtudeCalculee)); });
     connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
             [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
+    connect(&fenetre, &FenetreEnfant::Nouvelle, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
 }

@@ -48,7 +48,8 @@ public:
     /// Begins the study of the law chosen; what was open is discarded.
     void EtudieLoi(const ChoixLoi& choix);
 
-    /// Reads, calculates and shows a study file. A file that cannot be read is told in the status line.
+    /// Reads, calculates and shows a study file; what was open is discarded. A file that cannot be read is told in the
+    /// status line.
     void OuvreFichier(const std::filesystem::path& chemin);
 
     /// Takes another working language: texts, screens, help.

@@ -13,6 +13,7 @@ struct DescriptionZones {
     bool rayonsBras;                         ///< the values are angles of an arm, which give radii
     bool loiDeFichier;                       ///< a one-zone study may take its law from a file
     bool departsSuivis = false;              ///< a zone begins where the one before ends, whatever stands as its start
+    bool plusieursTours = false;             ///< the track may run round the cam more than once
 
     /// Value that zone `z`, from 1, begins with.
     double Depart(long z) const {

@@ -2,13 +2,15 @@
 
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
+#include "laws/FichierLoi.h"
 
 #include <algorithm>
 
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {
     if (zone.CoefSymetrie < 0.0 || zone.CoefSymetrie > 1.0)
         return FauteZone{ChampZone::Symetrie, Texte(522) + " 0 <= C <=1"};
-    if (!EstLoiSpe(zone.NomLoi) && ChercheLoi(zone.NomLoi) == 0) return FauteZone{ChampZone::NomLoi, Texte(511)};
+    if (!EstLoiSpe(zone.NomLoi) && ChercheLoi(zone.NomLoi) == 0)
+        return FauteZone{ChampZone::NomLoi, AvecLoisRemplacees(Texte(511))};
     if (!(zone.AngleCame > 0.0)) return FauteZone{ChampZone::AngleCame, Texte(204)};
     return {};
 }

@@ -18,6 +18,10 @@ struct FauteZone {
 /// cam angle above 0.
 std::optional<FauteZone> ChercheFauteZone(const Zone& zone);
 
+/// Greatest magnitude of a number that is typed in for a cam: far beyond any machine, and far below where a
+/// calculation with it would overflow. Its refusal says this number.
+inline constexpr double LimiteNombre = 1e9;
+
 /// Name of the catalogue row that needs a percentage.
 inline constexpr const char* NomLoiPourcentage = "MS_Spe";
 

@@ -3,6 +3,8 @@
 #include "core/Etude.h"
 #include "data/Textes.h"
 
+#include <utility>
+
 namespace {
 
 struct ColonneZone {
@@ -65,9 +67,12 @@ TableTexte TableZones(const DescriptionZones& zones, std::int16_t entrees) {
     for (const auto& colonne : colonnes) {
         const int entete = colonne.entete(zones);
         if (entete == 0) continue;
+        // Written now: while a calculation runs, behind a box of it too, the zones of the record are in points.
+        std::vector<std::string> cellules;
+        for (long z = 1; z <= table.lignes; ++z) cellules.push_back(Cellule(colonne, zones, z, entrees));
         table.colonnes.push_back(
             {Texte(entete), "",
-             [&colonne, &zones, entrees](int ligne) { return Cellule(colonne, zones, ligne + 1L, entrees); },
+             [cellules = std::move(cellules)](int ligne) { return cellules[static_cast<std::size_t>(ligne)]; },
              colonne.texte ? Cote::Gauche : Cote::Droite});
     }
     return table;

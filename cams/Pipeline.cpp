@@ -35,6 +35,7 @@ void OublieResultats() {
 
 void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes) {
     ZonesEnPoints zones;
+    etude.resultats.Perimes = true; // until it has come to its end
     try {
         zones.Passe();
         etude.resultats.Points.Redimensionne(etude.resultats.NombrePoints);
@@ -47,6 +48,7 @@ void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes
             etape();
             if (!SansErreur()) return;
         }
+        etude.resultats.Perimes = false;
     } catch (...) {
         OublieResultats();
         throw;

@@ -162,6 +162,7 @@ struct ResultatsEtude {
     Booleen16 Erreur = Faux;          ///< a pipeline stage runs only while it is clear
     Booleen16 EtudeModifiee = Faux;   ///< calculated from a data screen; saving needs it
     Booleen16 ResultatsPrets = Faux;  ///< results exist; printing needs it
+    bool Perimes = false;             ///< the data are others by now: calculated before they are printed or exported
     Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
     double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
 };

@@ -10,9 +10,9 @@
 enum TextesCyl { TexteHauteurMini = 796, TexteHauteurMaxi = 797, TexteHauteurMm = 798, TexteHauteurCourte = 799 };
 
 inline constexpr DescriptionZones ZonesCylindrique{
-    &Zone::RayonDepart, &Zone::RayonFinal, 397, 398, 399, UniteMm, false, true, true};
+    &Zone::RayonDepart, &Zone::RayonFinal, 397, 398, 399, UniteMm, false, true, true, true};
 inline constexpr DescriptionZones ZonesOscillation{
-    &Zone::AngleDepart, &Zone::AngleFinal, 181, 182, 177, UniteDegres, false, false, true};
+    &Zone::AngleDepart, &Zone::AngleFinal, 181, 182, 177, UniteDegres, false, false, true, true};
 
 // Arm and cylinder are told before roller and speed.
 

@@ -105,9 +105,9 @@ std::int16_t ChercheLoi(const std::string& nomLoi) {
 
 std::vector<std::string> NomsLoisZones() {
     std::vector<std::string> noms;
-    for (long i = 1; i <= etude.lois.ListeLois.BorneHaute(); ++i)
-        if (etude.lois.ListeLois[i].NomLoi.find("MSH") == std::string::npos)
-            noms.push_back(etude.lois.ListeLois[i].NomLoi);
+    const Tableau<Loi> lois = LitLois();
+    for (long i = 1; i <= lois.BorneHaute(); ++i)
+        if (lois[i].NomLoi.find("MSH") == std::string::npos) noms.push_back(lois[i].NomLoi);
     return noms;
 }
 

@@ -29,7 +29,8 @@ bool EstLoiSpe(const std::string& nomLoi);
 /// Subscript of the row of `ListeLois` whose name is exactly `nomLoi`, among 1..`NombreLois`; 0 when there is none.
 std::int16_t ChercheLoi(const std::string& nomLoi);
 
-/// Names of the laws that may be given to a zone, in the order of the catalogue: all but the MSH family.
+/// Names of the laws that may be given to a zone, in the order of the table `Lois`: all but the MSH family. A law file
+/// takes the laws from the record, not their names from the lists.
 std::vector<std::string> NomsLoisZones();
 
 /// The coefficients of the modified sine with a share of constant speed.

@@ -3,6 +3,7 @@
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "laws/CalculLois.h"
+#include "laws/FichierLoi.h"
 #include "laws/LoiMSH.h"
 #include "laws/LoisSpeciales.h"
 
@@ -110,7 +111,8 @@ Loi LigneChoisie() {
 std::optional<FauteLoi> ChercheFauteMouv() {
     // A law file that was read leaves no other law in the catalogue.
     if (!LoiChoisieSpe() && ChercheLoi(etude.lois.LoiChoisie) == 0)
-        return FauteLoi{Texte(521) + " " + etude.lois.LoiChoisie + " " + Texte(103), &DonneesEtude::AngleIndexage};
+        return FauteLoi{AvecLoisRemplacees(Texte(521) + " " + etude.lois.LoiChoisie + " " + Texte(103)),
+                        &DonneesEtude::AngleIndexage};
     const double S = etude.donnees.SymetrieLoi;
     if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &DonneesEtude::SymetrieLoi};
     if (etude.donnees.ValeurDepart <= 0.0 && etude.donnees.ValeurFin <= 0.0)

@@ -3,6 +3,8 @@
 #include "core/Etude.h"
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
+#include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "laws/TablePoints.h"
 
 #include <algorithm>
@@ -61,4 +63,8 @@ void LitLoi(std::string_view contenu) {
 
 void LitFichierLoi(const std::filesystem::path& chemin) {
     LitLoi(LitFichierEntier(chemin));
+}
+
+std::string AvecLoisRemplacees(const std::string& message) {
+    return etude.lois.DeFichier ? message + "\n" + Texte(TexteLoisAuDemarrage) : message;
 }

@@ -22,3 +22,7 @@ void LitFichierLoi(const std::filesystem::path& chemin);
 
 /// As `LitFichierLoi`, on the content of a file.
 void LitLoi(std::string_view contenu);
+
+/// A message about a law that is not there, with a line that says when the laws come back where a law file has replaced
+/// them.
+std::string AvecLoisRemplacees(const std::string& message);

@@ -6,6 +6,7 @@
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
+#include "laws/FichierLoi.h"
 
 #include <chrono>
 #include <ctime>
@@ -62,8 +63,8 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
         Zone& zone = etude.donnees.Zones[z];
         LitZone(lignes, type, zone);
         if (!LoiConnue(zone.NomLoi)) {
-            LesDialogues().Message(Icone::Critique,
-                                   Texte(521) + " ' " + zone.NomLoi + " ' " + Texte(103) + "\n" + Texte(509));
+            LesDialogues().Message(Icone::Critique, AvecLoisRemplacees(Texte(521) + " ' " + zone.NomLoi + " ' " +
+                                                                       Texte(103) + "\n" + Texte(509)));
             return false;
         }
         CompleteZone(z, type.zones->rayonsBras);

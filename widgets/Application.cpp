@@ -4,6 +4,9 @@
 #include "platform/Dialogues.h"
 #include "widgets/Icones.h"
 
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QEvent>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 
@@ -23,6 +26,19 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QString::fromLatin1(NomProgramme));
     setStyle(QStringLiteral("Fusion")); // the same on every desktop; its palette is light or dark as the system's
     setWindowIcon(IconeBarre(applicationName()));
+    installEventFilter(this);
+}
+
+bool Application::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() != QEvent::Wheel) return false;
+    const auto* entree = qobject_cast<QWidget*>(objet);
+    // The bars of a page take no focus at all, and one that only turns a drawing takes it from the wheel.
+    const bool change =
+        qobject_cast<const QComboBox*>(entree) != nullptr ||
+        (qobject_cast<const QAbstractSlider*>(entree) != nullptr && entree->focusPolicy() == Qt::StrongFocus);
+    if (!change || entree->hasFocus()) return false;
+    evenement->ignore(); // goes on to the page
+    return true;
 }
 
 bool Application::notify(QObject* receveur, QEvent* evenement) {

@@ -12,6 +12,10 @@ public:
 
     /// Delivers an event. A failure that its handler lets out is told in a critical box, and the program goes on.
     bool notify(QObject* receveur, QEvent* evenement) override;
+
+protected:
+    /// The wheel scrolls the page under a list or a bar for entries that has no focus, and leaves what stands there.
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
 };
 
 /// `base` when all its figures have one width, otherwise the fixed-pitch font of the system in the same size: numbers

@@ -1,8 +1,12 @@
 #include "widgets/ChampNombre.h"
 
 #include "core/Nombres.h"
+#include "data/Textes.h"
+#include "data/TextesSaisie.h"
+#include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/ReprendSaisie.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -13,6 +17,9 @@
 #include <QRegularExpression>
 #include <QStyleOptionFrame>
 #include <QValidator>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -79,8 +86,19 @@ double ChampNombre::Valeur() const {
 }
 
 void ChampNombre::Montre(double valeur) {
-    setText(Q(StrTrim(valeur)));
+    const QString texte = Q(StrTrim(valeur));
+    // Whoever is in the field goes on typing in it as long as its value stays.
+    if (texte == text() || (hasFocus() && Valeur() == valeur)) return;
+    setText(texte);
     setCursorPosition(0);
+    if (hasFocus()) selectAll();
+}
+
+bool ChampNombre::RefuseHorsLimite() {
+    if (std::abs(Valeur()) <= limite_) return false;
+    LesDialogues().Message(Icone::Avertissement, Texte(TexteNombreTropGrand));
+    ReprendSaisie(*this);
+    return true;
 }
 
 void ChampNombre::RefuseSigne(bool refuse) {
@@ -102,7 +120,7 @@ void ChampNombre::PrendLargeur() {
 void ChampNombre::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter) {
         evenement->accept(); // the default button of the screen must not go off
-        emit Suivant();
+        if (!RefuseHorsLimite()) emit Suivant();
         return;
     }
     QLineEdit::keyPressEvent(evenement);
@@ -142,4 +160,14 @@ void ChampNombre::contextMenuEvent(QContextMenuEvent* evenement) {
         action->setShortcut(entree.raccourci);
     }
     menu->popup(evenement->globalPos());
+}
+
+void PoseLimites(QWidget& ecran, double limite) {
+    for (auto* champ : ecran.findChildren<ChampNombre*>()) champ->PoseLimite(limite);
+}
+
+bool RefuseHorsLimite(QWidget& ecran) {
+    const auto champs = ecran.findChildren<ChampNombre*>();
+    return std::any_of(champs.begin(), champs.end(),
+                       [](ChampNombre* champ) { return champ->isVisible() && champ->RefuseHorsLimite(); });
 }

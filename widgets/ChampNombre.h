@@ -4,6 +4,8 @@
 
 #include <QLineEdit>
 
+#include <limits>
+
 class ChampNombre : public QLineEdit {
     Q_OBJECT
 
@@ -14,14 +16,21 @@ public:
     /// @throws ErreurExecution overflow when the number exceeds a double.
     double Valeur() const;
 
-    /// Shows a number with its shortest digits.
+    /// Shows a number with its shortest digits. A field with the focus is left as it is typed when it has that value
+    /// already; otherwise the number stands in it selected.
     void Montre(double valeur);
 
     /// Whether a minus in front of the number is kept from being typed; otherwise it may be.
     void RefuseSigne(bool refuse);
 
+    /// The greatest magnitude that the field takes; none until one is set.
+    void PoseLimite(double limite) { limite_ = limite; }
+
+    /// True after a box that says that the number is beyond the limit; the field then has the focus, selected.
+    bool RefuseHorsLimite();
+
 signals:
-    void Suivant(); ///< Return was pressed
+    void Suivant(); ///< Return was pressed, on a number that the field takes
 
 protected:
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -34,5 +43,13 @@ protected:
 private:
     void PrendLargeur();
 
+    double limite_ = std::numeric_limits<double>::max();
     bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
 };
+
+/// Sets the limit of every number field of a screen.
+void PoseLimites(QWidget& ecran, double limite);
+
+/// Looks for a number beyond its field's limit among the visible fields of a screen; true after the box about the
+/// first.
+bool RefuseHorsLimite(QWidget& ecran);

@@ -18,7 +18,10 @@ bool FenetreEnfant::EnAvant() const {
 
 void FenetreEnfant::RevientPar(QAbstractButton& bouton) {
     retour_ = &bouton;
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QAbstractButton::click);
+}
+
+void FenetreEnfant::RevientAussiParEchappement() {
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &FenetreEnfant::Revient);
 }
 
 void FenetreEnfant::Revient() {

@@ -35,6 +35,14 @@ public:
     /// Prints what the active window holds, and ends the document; its title is the window's.
     virtual void Imprime(Imprimante&) const {}
 
+    /// Takes what was typed into the study record.
+    /// @return false when it is refused, after the box that says so.
+    virtual bool PrendSaisie() { return true; }
+
+    /// As `PrendSaisie`, and calculates when the results are those of other data.
+    /// @return false when the study cannot be calculated, after the box that says why.
+    virtual bool MetAJour() { return PrendSaisie(); }
+
     /// The results of the study record are to be shown, those of another calculation.
     virtual void Montre() {}
 
@@ -51,6 +59,7 @@ signals:
     void EtudeCalculee();                       ///< the study is calculated and its results are to be shown
     void EtudeRecalculee();                     ///< what this window shows was calculated
     void FichierEnregistre(const QString& nom); ///< name without folder
+    void Nouvelle(const QString& texte);        ///< to be told in the status line
     void ImpressionDemandee();                  ///< this window is to be printed
     void Quitte();                              ///< the window is given up
 
@@ -59,8 +68,12 @@ protected:
     /// @param active its flag, set from here on until it is closed; none for a window of a cam study
     explicit FenetreEnfant(const char* nom, QWidget* parent, Booleen16 DonneesEtude::*active = nullptr);
 
-    /// The button of the way back, which Escape and the cross of the window click.
+    /// The button of the way back, which the cross of the window clicks.
     void RevientPar(QAbstractButton& bouton);
+
+    /// Escape goes back too. Only where that gives nothing up: in a screen that is typed into, Escape closes an open
+    /// list or a box, and leaving takes the button.
+    void RevientAussiParEchappement();
 
 private:
     Booleen16 DonneesEtude::*active_;

@@ -87,8 +87,8 @@ void PanneauChamps::Charge() {
     for (std::size_t i = 0; i < lesChamps_.size(); ++i) {
         if (const auto* nombre = std::get_if<double*>(&table_[i].valeur))
             qobject_cast<ChampNombre*>(lesChamps_[i])->Montre(**nombre);
-        else
-            lesChamps_[i]->setText(Q(*std::get<std::string*>(table_[i].valeur)));
+        else if (const QString texte = Q(*std::get<std::string*>(table_[i].valeur)); texte != lesChamps_[i]->text())
+            lesChamps_[i]->setText(texte);
     }
 }
 

@@ -46,7 +46,7 @@ PanneauRotation::PanneauRotation(QWidget* parent) : QWidget(parent), pas_(new QT
     angle_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
     angle_->setRange(0, 360);
     angle_->setPageStep(PasRotation);
-    angle_->setFocusPolicy(Qt::StrongFocus);
+    angle_->setFocusPolicy(Qt::WheelFocus);
     disposition->addWidget(angle_);
     FaitCommandes(*disposition);
     AppliqueLegendes(*this, legendes);

@@ -2,8 +2,10 @@
 
 #include "cams/LimitesSaisie.h"
 #include "cams/ListeZones.h"
+#include "cams/RemarquesZones.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "data/Unites.h"
 #include "laws/CalculLois.h"
 #include "laws/FichierLoi.h"
@@ -14,10 +16,14 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/Remarques.h"
+#include "widgets/ReprendSaisie.h"
 
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGridLayout>
+#include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -33,9 +39,25 @@ constexpr Legende legendes[] = {
     {"Suivante", 0, 14},
 };
 
+/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too.
+class LigneListe : public QLineEdit {
+protected:
+    void focusInEvent(QFocusEvent* evenement) override {
+        QLineEdit::focusInEvent(evenement);
+        vientDeLaSouris_ = evenement->reason() == Qt::MouseFocusReason;
+    }
+    void mouseReleaseEvent(QMouseEvent* evenement) override {
+        QLineEdit::mouseReleaseEvent(evenement);
+        if (std::exchange(vientDeLaSouris_, false) && !hasSelectedText()) selectAll();
+    }
+
+private:
+    bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
+};
+
 QComboBox* FaitListe(const char* nom) {
     auto* liste = Nomme(new QComboBox, nom);
-    liste->setEditable(true);
+    liste->setLineEdit(new LigneListe);
     liste->setInsertPolicy(QComboBox::NoInsert);
     return liste;
 }
@@ -56,8 +78,10 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     disposition->addLayout(tete);
     disposition->addWidget(FaitCadreZone(champs));
     grille_ = Nomme(new Grille, "Grille");
-    grille_->setMinimumSize(630, 200);
+    grille_->setMinimumSize(630, 140);
     disposition->addWidget(FaitEtiquette("TitreGrille", grille_));
+    remarques_ = Nomme(new Remarques, "RemarquesZones");
+    disposition->addWidget(remarques_);
     disposition->addWidget(grille_, 1);
     somme_ = Nomme(new QLabel, "SommeAngles");
     disposition->addWidget(somme_);
@@ -89,13 +113,16 @@ QWidget* PanneauZones::FaitCadreZone(const ChampsZones& noms) {
     suivante_ = Nomme(new QPushButton, "Suivante");
     suivante_->setAutoDefault(true);
     champs->addWidget(suivante_, 5, 0, 1, 3, Qt::AlignRight);
+    PoseLimites(*cadreZone_, LimiteNombre);
     return cadreZone_;
 }
 
 void PanneauZones::RelieChamps() {
     const auto prendFocus = [](QWidget* champ) { return [champ] { champ->setFocus(Qt::TabFocusReason); }; };
-    connect(nombreZones_, &ChampNombre::Suivant, this, prendFocus(valeurDepart_));
-    connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, prendFocus(valeurDepart_));
+    connect(nombreZones_, &ChampNombre::Suivant, this, [this] {
+        if (EntreNombreZones()) PrendFocusZone();
+    });
+    connect(pointsParDegre_->lineEdit(), &QLineEdit::returnPressed, this, &PanneauZones::PrendFocusZone);
     connect(valeurDepart_, &ChampNombre::Suivant, this, prendFocus(valeurFinale_));
     connect(valeurFinale_, &ChampNombre::Suivant, this, prendFocus(angleCame_));
     connect(angleCame_, &ChampNombre::Suivant, this, prendFocus(loi_));
@@ -111,6 +138,11 @@ void PanneauZones::PrendFocus() {
     nombreZones_->setFocus(Qt::TabFocusReason);
 }
 
+/// To the first field of the frame that can be entered.
+void PanneauZones::PrendFocusZone() {
+    (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
+}
+
 bool PanneauZones::eventFilter(QObject* objet, QEvent* evenement) {
     if (evenement->type() == QEvent::FocusOut) {
         // Another window, a menu or the way back may be gone to with any number in the field.
@@ -123,16 +155,16 @@ bool PanneauZones::eventFilter(QObject* objet, QEvent* evenement) {
     return QGroupBox::eventFilter(objet, evenement);
 }
 
-void PanneauZones::EntreNombreZones() {
+bool PanneauZones::EntreNombreZones() {
     const double nombre = Int(nombreZones_->Valeur());
     const int texte = nombre <= 0.0 ? 72 : nombre > 32767.0 ? 206 : 0;
     if (texte != 0) {
         LesDialogues().Message(Icone::Information, Texte(texte));
-        nombreZones_->setFocus();
-        return;
+        ReprendSaisie(*nombreZones_);
+        return false;
     }
     nombreZones_->Montre(nombre);
-    if (Entier16(nombre) == etude.donnees.NombreZones) return;
+    if (Entier16(nombre) == etude.donnees.NombreZones) return true;
     etude.donnees.NombreZones = Entier16(nombre);
     emit Modifie();
     etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
@@ -141,6 +173,7 @@ void PanneauZones::EntreNombreZones() {
     ProposeFichier();
     MontreZone();
     RemplitGrille();
+    return true;
 }
 
 /// A study of one zone may take its law from a file; any other may not.
@@ -167,10 +200,18 @@ void PanneauZones::MontreZone() {
     valeurDepart_->setEnabled(z <= 1 || !description_.departsSuivis);
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
-    if (entree) loi_->setCurrentText(Q(zone.NomLoi));
-    loiChoisie_ = loi_->currentText();
+    MontreLoi(entree ? Q(zone.NomLoi) : loi_->currentText());
     symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
+    zoneMontree_ = LitZone();
     MontreBoutons();
+}
+
+void PanneauZones::MontreLoi(const QString& nom) {
+    // On the row of that name, not on the first with the name written over it: Return takes the row.
+    const int place = loi_->findText(nom, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    loi_->setCurrentIndex(place);
+    if (place < 0) loi_->setEditText(nom);
+    loiChoisie_ = nom;
 }
 
 void PanneauZones::MontreBoutons() {
@@ -181,17 +222,18 @@ void PanneauZones::MontreBoutons() {
 
 void PanneauZones::RemplitGrille() {
     grille_->Remplit(TableZones(description_, zonesEntrees_));
-    double somme = 0;
-    for (std::int16_t z = 1; z <= zonesEntrees_; ++z) somme += etude.donnees.Zones[z].AngleCame;
-    somme_->setText(QTexte(191) + " " + Q(StrTrim(somme)) + " " + QTexte(UniteDegres));
+    somme_->setText(QTexte(191) + " " + Q(StrTrim(SommeAngles(zonesEntrees_))) + " " + QTexte(UniteDegres));
+    remarques_->Montre(RemarquesZones(description_, zonesEntrees_));
 }
 
 void PanneauZones::VaALaZone(int ligne) {
-    // Only zones already entered, or the first that is not, can be gone to.
+    // Only zones already entered, or the first that is not, can be gone to; what was typed is not left behind.
+    if (ligne + 1 == etude.donnees.ZoneCourante) return PrendFocusZone();
+    if (ZoneModifiee() && !AccepteZone()) return;
     if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones)) return;
     etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
-    (valeurDepart_->isEnabled() ? valeurDepart_ : valeurFinale_)->setFocus(Qt::TabFocusReason);
+    PrendFocusZone();
 }
 
 /// One Return may announce itself twice, as a key and as a choice: the law is chosen once.
@@ -203,7 +245,9 @@ void PanneauZones::DemandeChoix(bool continuer) {
         [this] {
             choixDemande_ = false;
             const bool suite = std::exchange(continuer_, false);
-            if (ChoisitLoi() && suite) symetrie_->setFocus(Qt::TabFocusReason);
+            // Return over the law that the zone has already is no choice.
+            const bool passe = suite && loi_->currentText() == loiChoisie_;
+            if ((passe || ChoisitLoi()) && suite) symetrie_->setFocus(Qt::TabFocusReason);
         },
         Qt::QueuedConnection);
 }
@@ -220,13 +264,13 @@ bool PanneauZones::ChoisitLoi() {
     LesDialogues().Message(Icone::Avertissement, Texte(521) + " " + Texte(103));
     loi_->setCurrentIndex(0);
     symetrie_->Montre(0.5);
-    loi_->setFocus();
+    ReprendSaisie(*loi_);
     return false;
 }
 
 bool PanneauZones::ChercheFichier() {
     // A cancelled dialogue or a file that cannot be read leaves the law as it was.
-    loi_->setCurrentText(loiChoisie_);
+    MontreLoi(loiChoisie_);
     const auto chemin = LesDialogues().FichierAOuvrir(
         {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     if (!chemin || chemin->empty()) return false;
@@ -250,6 +294,7 @@ bool PanneauZones::ChercheFichier() {
     zonesEntrees_ = 0; // the zone is filled, and waits to be accepted
     MontreBoutons();
     RemplitGrille();
+    emit LoiLue(QChemin(chemin->filename()));
     return true;
 }
 
@@ -258,59 +303,102 @@ bool PanneauZones::DemandePourcentage(std::string& nomLoi) {
     const auto nom = NomLoiPersonnelle(reponse ? ValVirgule(*reponse) : 0.0);
     if (!nom) {
         LesDialogues().Message(Icone::Avertissement, Texte(416));
-        loi_->setFocus();
+        ReprendSaisie(*loi_);
         return false;
     }
     nomLoi = *nom;
     return true;
 }
 
-void PanneauZones::Suivante() {
-    if (etude.donnees.ZoneCourante > etude.donnees.NombreZones) return;
+/// What the fields of the frame hold.
+Zone PanneauZones::LitZone() const {
     Zone zone;
     zone.*description_.valeurDepart = valeurDepart_->Valeur();
     zone.*description_.valeurFinale = valeurFinale_->Valeur();
     zone.AngleCame = angleCame_->Valeur();
     zone.NomLoi = S(loi_->currentText());
     zone.CoefSymetrie = symetrie_->Valeur();
+    return zone;
+}
+
+bool PanneauZones::ZoneModifiee() const {
+    const Zone zone = LitZone();
+    for (const auto membre :
+         {description_.valeurDepart, description_.valeurFinale, &Zone::AngleCame, &Zone::CoefSymetrie})
+        if (zone.*membre != zoneMontree_.*membre) return true;
+    return zone.NomLoi != zoneMontree_.NomLoi;
+}
+
+bool PanneauZones::PrendSaisie() {
+    if (!EntreNombreZones()) return false;
+    const std::int16_t z = etude.donnees.ZoneCourante;
+    const bool attend = z > zonesEntrees_ && z == etude.donnees.NombreZones;
+    if ((attend || ZoneModifiee()) && !AccepteZone()) return false;
+    if (Complet()) return true;
+    LesDialogues().Message(Icone::Information, Texte(TexteZonesManquantes));
+    PrendFocusZone();
+    return false;
+}
+
+bool PanneauZones::AccepteZone() {
+    Zone zone = LitZone();
     auto faute = ChercheFauteZone(zone);
-    if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis()) faute = {ChampZone::NomLoi, Texte(511)};
+    if (!faute && zone.NomLoi == NomLoiFichier && !FichierPermis())
+        faute = {ChampZone::NomLoi, AvecLoisRemplacees(Texte(511))};
     if (faute) {
         LesDialogues().Message(Icone::Avertissement, faute->texte);
         QWidget* const champs[] = {symetrie_, loi_, angleCame_};
-        champs[static_cast<int>(faute->champ)]->setFocus();
-        return;
+        ReprendSaisie(*champs[static_cast<int>(faute->champ)]);
+        return false;
     }
-    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return;
-    if (acheve_(zone)) TermineZone(zone);
+    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return false;
+    if (!acheve_(zone)) return false;
+    GardeZone(zone);
+    return true;
 }
 
-void PanneauZones::TermineZone(const Zone& zone) {
-    etude.donnees.Zones[etude.donnees.ZoneCourante] = zone;
+void PanneauZones::GardeZone(const Zone& zone) {
+    const std::int16_t z = etude.donnees.ZoneCourante;
+    const Zone avant = std::exchange(etude.donnees.Zones[z], zone);
+    // The end that was edited is where the next zone starts.
+    if (z < zonesEntrees_ && zone.*description_.valeurFinale != avant.*description_.valeurFinale) {
+        Zone& suivante = etude.donnees.Zones[z + 1];
+        suivante.RayonDepart = zone.RayonFinal;
+        suivante.*description_.valeurDepart = zone.*description_.valeurFinale;
+    }
+    zonesEntrees_ = std::max(zonesEntrees_, z);
     emit Modifie();
-    zonesEntrees_ = std::max(zonesEntrees_, etude.donnees.ZoneCourante);
-    const bool derniere = etude.donnees.ZoneCourante == etude.donnees.NombreZones;
-    if (!derniere) ++etude.donnees.ZoneCourante;
     MontreZone();
     RemplitGrille();
-    if (derniere)
+}
+
+void PanneauZones::Suivante() {
+    if (etude.donnees.ZoneCourante > etude.donnees.NombreZones || !AccepteZone()) return;
+    if (etude.donnees.ZoneCourante == etude.donnees.NombreZones) {
         emit Termine();
-    else
-        valeurFinale_->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    ++etude.donnees.ZoneCourante;
+    MontreZone();
+    valeurFinale_->setFocus(Qt::TabFocusReason);
 }
 
 bool PanneauZones::LitPointsParDegre() {
-    const std::string points = S(pointsParDegre_->currentText());
-    std::string faute;
-    if (!EstPointsParDegre(points))
-        faute = Texte(519) + "\n" + Texte(520);
-    else if (const int texte = FautePoints(Entier16(Val(points))))
-        faute = Texte(texte);
-    if (faute.empty()) {
-        etude.donnees.PointsParDegre = Entier16(Val(points));
-        return true;
+    const std::string texte = S(pointsParDegre_->currentText());
+    if (!EstPointsParDegre(texte)) {
+        LesDialogues().Message(Icone::Avertissement, Texte(519) + "\n" + Texte(520));
+        ReprendSaisie(*pointsParDegre_);
+        return false;
     }
-    LesDialogues().Message(Icone::Avertissement, faute);
-    pointsParDegre_->setFocus();
+    const std::int16_t points = Entier16(Val(texte));
+    if (std::exchange(etude.donnees.PointsParDegre, points) != points) emit Modifie();
+    return true;
+}
+
+bool PanneauZones::ControlePoints() {
+    const int texte = FautePoints(etude.donnees.PointsParDegre);
+    if (texte == 0) return true;
+    LesDialogues().Message(Icone::Avertissement, Texte(texte));
+    ReprendSaisie(*pointsParDegre_);
     return false;
 }

@@ -13,6 +13,7 @@ class Grille;
 class QComboBox;
 class QLabel;
 class QPushButton;
+class Remarques;
 
 /// The control names of the fields.
 struct ChampsZones {
@@ -35,14 +36,22 @@ public:
     QPushButton* BoutonSuivante() const { return suivante_; }
     bool Complet() const { return etude.donnees.NombreZones > 0 && zonesEntrees_ == etude.donnees.NombreZones; }
 
-    /// From the list to the record, checked, also for the number of points that the zones make.
+    /// Takes over what was typed and not yet accepted, as `Suivante` would.
+    /// @return false when it is refused or a zone is still missing, after the box that says so, with the focus there.
+    bool PrendSaisie();
+
+    /// From the list to the record, checked.
     /// @return false when it is refused, after the box that says so, with the focus on the list.
     bool LitPointsParDegre();
 
+    /// Whether the zones make a number of points that can be calculated; false after a box, the focus on the list.
+    bool ControlePoints();
+
 signals:
-    void Change();  ///< zones were accepted or lost: `Complet` may have changed
-    void Modifie(); ///< the zones of the record are others
-    void Termine(); ///< the last zone was accepted
+    void Change();                       ///< zones were accepted or lost: `Complet` may have changed
+    void Modifie();                      ///< the zones of the record are others
+    void LoiLue(const QString& fichier); ///< a law file, its name, replaced the catalogue
+    void Termine();                      ///< the last zone was accepted on the way through them
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
@@ -50,7 +59,9 @@ protected:
 private:
     QWidget* FaitCadreZone(const ChampsZones& champs);
     void RelieChamps();
+    void PrendFocusZone();
     void MontreZone();
+    void MontreLoi(const QString& nom);
     void MontreBoutons();
     void RemplitGrille();
     void ProposeFichier();
@@ -58,10 +69,13 @@ private:
     bool ChoisitLoi();
     bool ChercheFichier();
     bool FichierPermis() const;
-    void EntreNombreZones();
+    bool EntreNombreZones();
     bool DemandePourcentage(std::string& nomLoi);
     void Suivante();
-    void TermineZone(const Zone& zone);
+    Zone LitZone() const;
+    bool ZoneModifiee() const;
+    bool AccepteZone();
+    void GardeZone(const Zone& zone);
     void VaALaZone(int ligne);
 
     const DescriptionZones& description_;
@@ -72,7 +86,9 @@ private:
     QGroupBox* cadreZone_;
     Grille* grille_;
     QLabel* somme_;
+    Remarques* remarques_;
     QPushButton* suivante_;
+    Zone zoneMontree_;   ///< what the fields held when the zone was shown
     QString loiChoisie_; ///< the last law that was accepted in the list
     bool choixDemande_ = false, continuer_ = false;
     std::int16_t zonesEntrees_ = 0; ///< zones accepted so far, from the first

@@ -1,8 +1,10 @@
 #include "cams/screens/SaisieCame.h"
 
 #include "cams/CompleteZones.h"
+#include "cams/LimitesSaisie.h"
 #include "cams/screens/PanneauPesanteur.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"
@@ -11,6 +13,7 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/ReprendSaisie.h"
 #include "widgets/ZoneDefilante.h"
 
 #include <QBoxLayout>
@@ -80,6 +83,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     disposition->addLayout(boutons);
     const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
+    for (auto* panneau : panneaux_) PoseLimites(*panneau, LimiteNombre);
     zones_->LaisseAller(retour_);
     RevientPar(*retour_);
     RelieChamps();
@@ -100,6 +104,9 @@ void SaisieCame::RelieChamps() {
         }
     }
     connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
+    connect(zones_, &PanneauZones::LoiLue, this, [this](const QString& fichier) {
+        emit Nouvelle(QTexte(TexteLoiDeFichierLue) + " " + fichier + ". " + QTexte(TexteLoisAuDemarrage));
+    });
     connect(zones_, &PanneauZones::Modifie, this, &SaisieCame::PerimeResultats);
     if (pesanteur_ != nullptr) {
         connect(pesanteur_->Champ(), &ChampNombre::Suivant, zones_, &PanneauZones::PrendFocus);
@@ -115,10 +122,9 @@ void SaisieCame::MontreBoutons() {
     calculer_->setDefault(zones_->Complet());
 }
 
-/// Results of other data are neither printed nor saved.
+/// Results of other data are neither printed nor exported; the study itself can be saved as before.
 void SaisieCame::PerimeResultats() {
-    etude.resultats.ResultatsPrets = Faux;
-    etude.resultats.EtudeModifiee = Faux;
+    etude.resultats.Perimes = true;
 }
 
 void SaisieCame::LitPanneau(PanneauChamps& panneau) {
@@ -134,7 +140,7 @@ bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
     const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
     if (faute == nullptr) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
-    if (auto* champ = ChampDe(faute->nom)) champ->setFocus();
+    if (auto* champ = ChampDe(faute->nom)) ReprendSaisie(*champ);
     return true;
 }
 
@@ -152,11 +158,12 @@ void SaisieCame::ChargeDonnees() {
 bool SaisieCame::HorsDePortee() {
     if (SansErreur()) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(75));
-    if (auto* bras = ChampDe("RayonO1P")) bras->setFocus();
+    if (auto* bras = ChampDe("RayonO1P")) ReprendSaisie(*bras);
     return true;
 }
 
 bool SaisieCame::AcheveZone(Zone& zone) {
+    if (RefuseHorsLimite(*this)) return false;
     LitDonnees();
     const bool tous = description_.champDuree == nullptr;
     const std::span champs =
@@ -168,21 +175,35 @@ bool SaisieCame::AcheveZone(Zone& zone) {
     return !HorsDePortee();
 }
 
-void SaisieCame::Calculer() {
-    if (!zones_->LitPointsParDegre()) return;
+bool SaisieCame::PrendSaisie() {
+    if (!zones_->LitPointsParDegre() || RefuseHorsLimite(*this)) return false;
     LitDonnees();
-    if (FauteDeDonnee(description_.champs)) return;
+    return zones_->PrendSaisie();
+}
+
+bool SaisieCame::MetAJour() {
+    if (!PrendSaisie()) return false;
+    return !etude.resultats.Perimes || Calcule();
+}
+
+void SaisieCame::Calculer() {
+    if (PrendSaisie() && Calcule()) emit EtudeCalculee();
+}
+
+/// Calculates what the record holds; false after a box that says why it cannot be.
+bool SaisieCame::Calcule() {
+    if (!zones_->ControlePoints() || FauteDeDonnee(description_.champs)) return false;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);
-    if (HorsDePortee()) return;
+    if (HorsDePortee()) return false;
     const Sablier sablier;
-    etude.resultats.ResultatsPrets = Faux;
+    etude.resultats.Perimes = true;
     description_.calcule();
-    if (!SansErreur()) return;
+    if (!SansErreur()) return false;
     etude.resultats.EtudeModifiee = Vrai;
     etude.resultats.ResultatsPrets = Vrai;
-    emit EtudeCalculee();
+    return true;
 }
 
 void SaisieCame::Retour() {

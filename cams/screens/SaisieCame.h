@@ -31,6 +31,9 @@ class SaisieCame : public FenetreEnfant {
 public:
     ~SaisieCame() override;
 
+    bool PrendSaisie() override;
+    bool MetAJour() override;
+
 protected:
     /// @param description must outlive the screen (a constant).
     SaisieCame(const DescriptionSaisie& description, QWidget* parent);
@@ -57,6 +60,7 @@ protected:
     void showEvent(QShowEvent* evenement) override;
 
 private:
+    bool Calcule();
     bool AcheveZone(Zone& zone);
     void PerimeResultats();
     void RelieChamps();

@@ -15,6 +15,7 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/ReprendSaisie.h"
 #include "widgets/ZoneDefilante.h"
 #include "widgets/ZoneDessin.h"
 
@@ -241,7 +242,7 @@ void EcranLoi::MontreFaute(const FauteLoi& faute) {
     LesDialogues().Message(Icone::Avertissement, faute.texte);
     const auto ligne =
         std::find_if(champs_.begin(), champs_.end(), [&](const Ligne& l) { return l.champ->membre == faute.membre; });
-    if (ligne != champs_.end()) ligne->zone->setFocus();
+    if (ligne != champs_.end()) ReprendSaisie(*ligne->zone);
 }
 
 void EcranLoi::Calculer() {

@@ -7,6 +7,7 @@
 #include "planecams/SchemasCames.h"
 #include "platform/Dialogues.h"
 #include "widgets/ChampNombre.h"
+#include "widgets/ReprendSaisie.h"
 
 namespace {
 
@@ -26,6 +27,6 @@ DoProfil::DoProfil(QWidget* parent) : SaisieCame(description, parent) {
 bool DoProfil::ControleZone(const Zone& zone) {
     if (zone.RayonDepart > 0.0 && zone.RayonFinal > 0.0) return true;
     LesDialogues().Message(Icone::Avertissement, Texte(393));
-    findChild<ChampNombre*>(zone.RayonDepart > 0.0 ? "Text15" : "Text14")->setFocus();
+    ReprendSaisie(*findChild<ChampNombre*>(zone.RayonDepart > 0.0 ? "Text15" : "Text14"));
     return false;
 }

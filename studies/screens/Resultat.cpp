@@ -1,12 +1,16 @@
 #include "studies/screens/Resultat.h"
 
 #include "cams/CompleteZones.h"
+#include "cams/LimitesSaisie.h"
 #include "cams/ListeZones.h"
+#include "cams/RemarquesZones.h"
 #include "cams/screens/PanneauRotation.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "data/Unites.h"
 #include "platform/Dialogues.h"
+#include "studies/Exports.h"
 #include "studies/Graphique.h"
 #include "studies/Listages.h"
 #include "studies/ValeursRemarquables.h"
@@ -18,6 +22,8 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/PanneauChamps.h"
+#include "widgets/Remarques.h"
+#include "widgets/ReprendSaisie.h"
 #include "widgets/ZoneDefilante.h"
 #include "widgets/ZoneDessin.h"
 
@@ -28,6 +34,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -50,13 +57,33 @@ constexpr struct {
     int rang, colonne;
 } groupes[] = {{GroupeCame, "GroupeCame", 0, 1}, {GroupeGalet, "GroupeGalet", 0, 2}, {GroupeBras, "GroupeBras", 1, 2}};
 
+/// The files that the results can be written to without the study being saved.
+constexpr std::pair<const char*, void (*)()> exports[] = {{"Points", FichiersPoints}, {"Scripts", FichiersScripts}};
+
 constexpr Legende legendes[] = {
-    {"SSTab1", 0, 209},        {"SSTab1", 1, 210},         {"SSTab1", 2, 776},        {"SSTab1", 3, 214},
-    {"SSTab1", 4, 147},        {"Listages", 0, 211},       {"Listages", 1, 212},      {"Listages", 2, 214},
-    {"Listages", 3, 147},      {"Donnees", 0, 215},        {"GroupeCame", 0, 147},    {"GroupeGalet", 0, 289},
-    {"GroupeBras", 0, 217},    {"GroupeRecalcul", 0, 219}, {"TitreGrille", 0, 179},   {"TitrePicture1", 0, 274},
-    {"TitrePicture5", 0, 275}, {"TitrePicture4", 0, 276},  {"TitrePicture2", 0, 277}, {"Recalcul", 0, 11},
+    {"SSTab1", 0, 209},
+    {"SSTab1", 1, 210},
+    {"SSTab1", 2, 776},
+    {"SSTab1", 3, 214},
+    {"SSTab1", 4, 147},
+    {"Listages", 0, 211},
+    {"Listages", 1, 212},
+    {"Listages", 2, 214},
+    {"Listages", 3, 147},
+    {"Donnees", 0, 215},
+    {"GroupeCame", 0, 147},
+    {"GroupeGalet", 0, 289},
+    {"GroupeBras", 0, 217},
+    {"GroupeRecalcul", 0, 219},
+    {"TitreGrille", 0, 179},
+    {"TitrePicture1", 0, 274},
+    {"TitrePicture5", 0, 275},
+    {"TitrePicture4", 0, 276},
+    {"TitrePicture2", 0, 277},
+    {"Recalcul", 0, 11},
     {"Quitter", 0, 12},
+    {"Points", 0, TexteBoutonPoints},
+    {"Scripts", 0, TexteBoutonScripts},
 };
 
 /// Room for the widest of the values.
@@ -90,14 +117,21 @@ Resultat::Resultat(QWidget* parent) : FenetreEnfant("Resultat", parent) {
     auto* boutons = new QHBoxLayout;
     boutons->addWidget(quitter_);
     boutons->addStretch();
+    for (const auto& [nom, ecrit] : exports) {
+        auto* bouton = Nomme(new QPushButton, nom);
+        boutons->addWidget(bouton);
+        connect(bouton, &QPushButton::clicked, this, [this, ecrit] { Exporte(ecrit); });
+    }
     auto* disposition = new QVBoxLayout(this);
     disposition->addWidget(onglets_, 1);
     disposition->addLayout(boutons);
     AppliqueLegendes(*this, legendes);
 
     connect(quitter_, &QPushButton::clicked, this, &Resultat::Quitter);
+    PoseLimites(*this, LimiteNombre);
     RevientPar(*quitter_);
-    connect(recalcul_, &QPushButton::clicked, this, &Resultat::Recalcul);
+    RevientAussiParEchappement();
+    connect(recalcul_, &QPushButton::clicked, this, [this] { Recalcul(); });
     Resultat::Montre();
 }
 
@@ -114,8 +148,10 @@ QWidget* Resultat::FaitValeurs() {
     zones_ = Nomme(new Grille, "Grille");
     zones_->setMinimumHeight(150);
     disposition->addWidget(Nomme(new QLabel, "TitreGrille"), 2, 0, 1, 3);
-    disposition->addWidget(zones_, 3, 0, 1, 3);
-    disposition->setRowStretch(3, 1);
+    remarques_ = Nomme(new Remarques, "RemarquesZones");
+    disposition->addWidget(remarques_, 3, 0, 1, 3);
+    disposition->addWidget(zones_, 4, 0, 1, 3);
+    disposition->setRowStretch(4, 1);
     return feuille;
 }
 
@@ -232,6 +268,7 @@ void Resultat::RemplitValeurs(const TypeEtude& type) {
 
 void Resultat::RemplitGrilles(const TypeEtude& type) {
     zones_->Remplit(TableZones(*type.zones, etude.donnees.NombreZones));
+    remarques_->Montre(RemarquesZones(*type.zones, etude.donnees.NombreZones));
     grilleGalet_->Remplit(TableGalet());
     grilleBras_->Remplit(TableBras(type.zones->rayonsBras));
     grilleEfforts_->Remplit(TableEfforts());
@@ -281,13 +318,36 @@ bool Resultat::FauteDeDonnee(const TypeEtude& type) {
     if (faute == nullptr) return false;
     LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
     for (std::size_t i = 0; i < champs_.size(); ++i)
-        if (faute->nom == std::string_view(champsRecalcul[i].nom)) champs_[i]->setFocus();
+        if (faute->nom == std::string_view(champsRecalcul[i].nom)) ReprendSaisie(*champs_[i]);
     return true;
 }
 
-void Resultat::Recalcul() {
+/// True when the fields to calculate again with hold other numbers than the study.
+bool Resultat::RecalculModifie(const TypeEtude& type) const {
+    for (std::size_t i = 0; i < champs_.size(); ++i)
+        if (const auto* champ = TrouveChamp(type.champs, champsRecalcul[i].nom))
+            if (champ->Nombre(etude.donnees) != champs_[i]->Valeur()) return true;
+    return false;
+}
+
+bool Resultat::PrendSaisie() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type == nullptr || RefuseSiRotation()) return;
+    return type == nullptr || !RecalculModifie(*type) || Recalcul();
+}
+
+void Resultat::Exporte(void (*ecrit)()) {
+    if (RefuseSiRotation() || !PrendSaisie()) return;
+    // The names of the files are made from that of the study.
+    std::string& nom = etude.donnees.NomFichier;
+    if (nom.empty()) nom = Trim(LesDialogues().Saisie(Texte(7), Texte(133), {}).value_or(""));
+    if (nom.empty()) return;
+    MontreNomFichier();
+    ecrit();
+}
+
+bool Resultat::Recalcul() {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr || RefuseSiRotation() || RefuseHorsLimite(*this)) return false;
     // A calculation that fails leaves data and tables as they are shown.
     const Etude gardee = etude;
     try {
@@ -296,7 +356,7 @@ void Resultat::Recalcul() {
                 champ->Nombre(etude.donnees) = champs_[i]->Valeur();
         if (FauteDeDonnee(*type)) {
             etude = gardee;
-            return;
+            return false;
         }
         CompleteZones(false); // the speed gives new durations; no radius changes
         const Sablier sablier;
@@ -310,11 +370,12 @@ void Resultat::Recalcul() {
         LesDialogues().Message(Icone::Critique, Texte(75) + "\n\n" + Texte(509));
         etude = gardee;
         RemplitRecalcul(*type);
-        return;
+        return false;
     }
     etude.resultats.EtudeModifiee = Vrai;
     Montre();
     emit EtudeRecalculee();
+    return true;
 }
 
 void Resultat::Quitter() {

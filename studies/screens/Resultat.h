@@ -14,6 +14,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QTabWidget;
+class Remarques;
 class ZoneDessin;
 struct TypeEtude;
 struct ValeurRemarquable;
@@ -24,6 +25,7 @@ class Resultat : public FenetreEnfant {
 public:
     explicit Resultat(QWidget* parent = nullptr);
 
+    bool PrendSaisie() override;
     void Montre() override;
     void MontreNomFichier() override;
     void MontreRotation() override;
@@ -46,7 +48,9 @@ private:
     void RemplitGraphiques();
     void RemplitRecalcul(const TypeEtude& type);
     bool FauteDeDonnee(const TypeEtude& type);
-    void Recalcul();
+    bool RecalculModifie(const TypeEtude& type) const;
+    bool Recalcul();
+    void Exporte(void (*ecrit)());
     void Quitter();
     bool RefuseSiRotation();
 
@@ -56,6 +60,7 @@ private:
     QGridLayout* dispositionDonnees_;
     Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;
     ZoneDessin *graphiqueGalet_, *graphiqueBras_, *graphiqueForce_, *graphiqueCouple_;
+    Remarques* remarques_;
     PanneauRotation* came_;
     std::vector<ChampNombre*> champs_;
     QPushButton *recalcul_, *quitter_;

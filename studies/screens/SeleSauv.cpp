@@ -8,6 +8,7 @@
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
+#include "widgets/ReprendSaisie.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -15,6 +16,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
+
+#include <utility>
 
 namespace {
 
@@ -26,7 +29,7 @@ constexpr Legende legendes[] = {
 
 } // namespace
 
-SeleSauv::SeleSauv(QWidget* parent) : QDialog(parent) {
+SeleSauv::SeleSauv(std::function<bool()> metAJour, QWidget* parent) : QDialog(parent), metAJour_(std::move(metAJour)) {
     setObjectName("SeleSauv");
     nom_ = Nomme(new QLineEdit(Q(NomSansExtension(etude.donnees.NomFichier))), "Text1");
     donnees_ = Nomme(new QCheckBox, "Check1");
@@ -72,12 +75,12 @@ void SeleSauv::Sauvegarde() {
     const std::string nom = Trim(S(nom_->text()));
     if (nom.empty()) {
         LesDialogues().Message(Icone::Information, Texte(518));
-        nom_->setFocus();
+        ReprendSaisie(*nom_);
         return;
     }
     if (nom.find_first_of("/\\") != std::string::npos) {
         LesDialogues().Message(Icone::Avertissement, Texte(208));
-        nom_->setFocus();
+        ReprendSaisie(*nom_);
         return;
     }
     // The exports alone would leave nothing to make them again from.
@@ -86,6 +89,7 @@ void SeleSauv::Sauvegarde() {
         donnees_->setFocus();
         return;
     }
+    if ((points_->isChecked() || scripts_->isChecked()) && !metAJour_()) return;
     etude.donnees.NomFichier = nom;
     if (DonneesDepart()) emit FichierEnregistre();
     if (points_->isChecked()) FichiersPoints();

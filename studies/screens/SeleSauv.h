@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QCheckBox;
 class QLineEdit;
 
@@ -10,7 +12,9 @@ class SeleSauv : public QDialog {
     Q_OBJECT
 
 public:
-    explicit SeleSauv(QWidget* parent = nullptr);
+    /// @param metAJour calculates where the results are those of other data; false after a box that says why it cannot.
+    ///        Asked before points or scripts are written.
+    explicit SeleSauv(std::function<bool()> metAJour, QWidget* parent = nullptr);
 
 signals:
     void FichierEnregistre(); ///< the study file was written, under the name that the record has now
@@ -18,6 +22,7 @@ signals:
 private:
     void Sauvegarde();
 
+    std::function<bool()> metAJour_;
     QLineEdit* nom_;
     QCheckBox *donnees_, *points_, *scripts_;
 };

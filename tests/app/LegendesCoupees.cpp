@@ -90,7 +90,7 @@ TEST_P(LegendesDeToutEcran, ChildWindowsOnTheWorkedExamples) {
 TEST_P(LegendesDeToutEcran, Boxes) {
     ChercheBoite<CameType>(GetParam());
     ChercheBoite<Propos>(GetParam());
-    ChercheBoite<SeleSauv>(GetParam());
+    ChercheBoite<SeleSauv>(GetParam(), [] { return true; });
     for (const char* chooser : {"QuelLoi", "QuelLoiSpe"}) ChercheBoite<QuelLoi>(GetParam(), chooser);
 }
 

@@ -32,7 +32,7 @@ protected:
 } // namespace
 
 TEST_F(Sauvegarde, ChecksComeBeforeAnyFile) {
-    SeleSauv ecran;
+    SeleSauv ecran{[] { return true; }};
     ecran.show();
     EXPECT_EQ(Controle<QLineEdit>(ecran, "Text1")->text(), "Exemple");
     Controle<QLineEdit>(ecran, "Text1")->clear();
@@ -47,7 +47,7 @@ TEST_F(Sauvegarde, ChecksComeBeforeAnyFile) {
 }
 
 TEST_F(Sauvegarde, AllFilesBearOneName) {
-    SeleSauv ecran;
+    SeleSauv ecran{[] { return true; }};
     ecran.show();
     QSignalSpy enregistre(&ecran, &SeleSauv::FichierEnregistre);
     Controle<QLineEdit>(ecran, "Text1")->setText("came");
@@ -69,7 +69,7 @@ TEST_F(Sauvegarde, AllFilesBearOneName) {
 
 TEST_F(Sauvegarde, AFileThatCannotBeWrittenKeepsTheStudy) {
     dialogues.fichiers = {dossier / "absent" / "came.Ang"};
-    SeleSauv ecran;
+    SeleSauv ecran{[] { return true; }};
     ecran.show();
     CliqueSur(ecran, "Sauvegarde");
     ASSERT_FALSE(dialogues.boites.empty()) << "told at the event loop";

@@ -1,0 +1,50 @@
+#include "cams/RemarquesZones.h"
+
+#include "data/Textes.h"
+#include "data/TextesSaisie.h"
+
+#include <cmath>
+
+namespace {
+
+/// Values closer than this are the same: what is typed has a few decimals, a sum of it has rounding behind them.
+constexpr double Tolerance = 1e-9;
+
+bool Differe(double a, double b) {
+    return std::abs(a - b) > Tolerance;
+}
+
+std::string Valeur(double valeur, int unite) {
+    return " " + StrTrim(valeur) + " " + Texte(unite);
+}
+
+/// A developed track runs round as often as it likes, any other cam once.
+bool ToursEntiers(const DescriptionZones& zones, double somme) {
+    const double tours = zones.plusieursTours ? std::max(1.0, std::round(somme / 360.0)) : 1.0;
+    return !Differe(somme, 360.0 * tours);
+}
+
+} // namespace
+
+double SommeAngles(std::int16_t entrees) {
+    double somme = 0;
+    for (std::int16_t z = 1; z <= entrees; ++z) somme += etude.donnees.Zones[z].AngleCame;
+    return somme;
+}
+
+std::vector<std::string> RemarquesZones(const DescriptionZones& zones, std::int16_t entrees) {
+    std::vector<std::string> remarques;
+    const auto fin = [&](long z) { return etude.donnees.Zones[z].*zones.valeurFinale; };
+    for (std::int16_t z = 2; z <= entrees; ++z)
+        if (Differe(zones.Depart(z), fin(z - 1)))
+            remarques.push_back(Texte(187) + std::to_string(z) + " " + Texte(TexteZoneCommence) +
+                                Valeur(zones.Depart(z), zones.unite) + " " + Texte(TexteZonePrecedenteFinit) +
+                                Valeur(fin(z - 1), zones.unite) + ".");
+    if (entrees == 0 || entrees < etude.donnees.NombreZones) return remarques;
+    const double somme = SommeAngles(entrees);
+    if (!ToursEntiers(zones, somme)) remarques.push_back(Texte(TextePasUnTour) + Valeur(somme, UniteDegres) + ".");
+    if (Differe(zones.Depart(1), fin(entrees)))
+        remarques.push_back(Texte(TexteCameOuverte) + Valeur(zones.Depart(1), zones.unite) + " " +
+                            Texte(TexteMouvementFinit) + Valeur(fin(entrees), zones.unite) + ".");
+    return remarques;
+}

@@ -1,0 +1,285 @@
+#include "cams/screens/PanneauZones.h"
+
+#include "core/Etude.h"
+#include "cylindrical/screens/DoCyl.h"
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "data/TextesSaisie.h"
+#include "data/Unites.h"
+#include "outils/Clavier.h"
+#include "outils/EcranDeSaisie.h"
+#include "planecams/screens/DatoCama.h"
+#include "studies/FichierEtude.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QWheelEvent>
+
+#include <functional>
+
+namespace {
+
+/// A study that was read and calculated, on its data screen.
+template <class Ecran> class SaisieLue : public EcranDeSaisie<Ecran> {
+protected:
+    using EcranDeSaisie<Ecran>::ecran;
+
+    void Lit(const char* fichier) {
+        ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / fichier));
+        CalculeEtude();
+        etude.resultats.ResultatsPrets = Vrai;
+        this->Ouvre();
+    }
+    std::string TexteDe(const char* champ) { return S(Controle<QLineEdit>(*ecran, champ)->text()); }
+    std::string LoiMontree() { return S(Controle<QComboBox>(*ecran, "Combo1")->currentText()); }
+    std::string Remarques() {
+        auto* remarques = Controle<QLabel>(*ecran, "RemarquesZones");
+        return remarques->isVisible() ? S(remarques->text()) : "";
+    }
+    bool Selectionne(const char* champ) {
+        auto* zone = Controle<QLineEdit>(*ecran, champ);
+        return this->AFocus(champ) && zone->selectedText() == zone->text();
+    }
+};
+
+class SaisieExemple : public SaisieLue<DatoCama> {
+protected:
+    SaisieExemple() { Lit("Exemple.Ang"); }
+};
+
+using SaisieDeuxTours = SaisieLue<DoCyl>;
+
+/// Looks at the screen while a box is up.
+class Guette : public DialoguesScript {
+public:
+    std::function<void()> pendant;
+    void Message(Icone icone, const std::string& texte) override {
+        DialoguesScript::Message(icone, texte);
+        pendant();
+    }
+};
+
+bool Pareilles(const Zone& a, const Zone& b) {
+    return a.AngleDepart == b.AngleDepart && a.AngleFinal == b.AngleFinal && a.AngleCame == b.AngleCame &&
+           a.NomLoi == b.NomLoi && a.CoefSymetrie == b.CoefSymetrie;
+}
+
+void Roule(QWidget& widget) {
+    const QPointF place = widget.rect().center();
+    QWheelEvent molette(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &molette);
+    LaisseFaire();
+}
+
+} // namespace
+
+TEST_F(SaisieExemple, ReturnThroughTheZonesChangesNothing) {
+    etude.donnees.Zones[2].NomLoi = "MS_Spe_ 35";
+    etude.donnees.Zones[3].NomLoi = "MSC50";
+    etude.donnees.Zones[3].CoefSymetrie = 0.3;
+    Ouvre();
+    const Etude avant = etude;
+    CliqueCellule(*ecran, "Grille", 0, 1);
+    EXPECT_TRUE(AFocus("Text14"));
+    for (int z = 1; z <= 4; ++z) {
+        while (!AFocus("Suivante")) {
+            Retour(*ecran);
+            EXPECT_EQ(LoiMontree(), avant.donnees.Zones[z].NomLoi) << z;
+        }
+        EXPECT_EQ(Val(TexteDe("Text19")), avant.donnees.Zones[z].CoefSymetrie) << z;
+        Retour(*ecran);
+    }
+    EXPECT_TRUE(AFocus("Calculer"));
+    for (int z = 1; z <= 4; ++z) EXPECT_TRUE(Pareilles(etude.donnees.Zones[z], avant.donnees.Zones[z])) << z;
+    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+}
+
+TEST_F(SaisieExemple, DigitsReplaceWhatStandsInAFieldEntered) {
+    QTest::mouseClick(Controle<QWidget>(*ecran, "Text13"), Qt::LeftButton);
+    const std::pair<const char*, const char*> saisies[] = {
+        {"Text13", "3"}, {"Text14", "5"}, {"Text15", "25"}, {"Text16", "100"}};
+    for (const auto& [champ, texte] : saisies) {
+        EXPECT_TRUE(Selectionne(champ)) << champ;
+        Frappe(*ecran, texte);
+        Retour(*ecran);
+        EXPECT_EQ(TexteDe(champ), texte);
+    }
+    Frappe(*ecran, "MSC50");
+    Retour(*ecran, 2);
+    EXPECT_TRUE(AFocus("Suivante"));
+    auto* points = Controle<QComboBox>(*ecran, "Combo2");
+    QTest::mouseClick(points->lineEdit(), Qt::LeftButton);
+    Frappe(*ecran, "8");
+    EXPECT_EQ(points->currentText(), "8");
+    Controle<QWidget>(*ecran, "Suivante")->setFocus();
+    Retour(*ecran);
+    EXPECT_EQ(etude.donnees.Zones[1].NomLoi, "MSC50");
+    EXPECT_TRUE(Selectionne("Text15")) << "of the next zone";
+    EXPECT_EQ(TexteDe("Text14"), "25");
+}
+
+TEST_F(SaisieExemple, EscapeClosesAnOpenListAndNothingElse) {
+    QSignalSpy quitte(ecran.get(), &DatoCama::Quitte);
+    for (const char* champ : {"Text1", "Text13", "Combo2", "Combo1", "Text19", "Calculer"}) {
+        Controle<QWidget>(*ecran, champ)->setFocus(Qt::TabFocusReason);
+        Touche(*ecran, Qt::Key_Escape);
+    }
+    CliqueCellule(*ecran, "Grille", 0, 1);
+    Retour(*ecran, 3);
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Down, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget()->findChild<QAbstractItemView*>(), Qt::Key_Escape);
+    LaisseFaire();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(AFocus("Combo1"));
+    EXPECT_EQ(LoiMontree(), "MS");
+    EXPECT_EQ(quitte.count(), 0);
+    EXPECT_TRUE(ecran->isVisible());
+}
+
+TEST_F(SaisieExemple, APendingEditOfAZoneIsTakenOverOrRefused) {
+    QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
+    CliqueCellule(*ecran, "Grille", 1, 1);
+    FrappeDans(*ecran, "Text16", "0");
+    Clique("Calculer");
+    EXPECT_EQ(DerniereBoite(), Texte(204));
+    EXPECT_TRUE(Selectionne("Text16"));
+    CliqueCellule(*ecran, "Grille", 3, 1);
+    EXPECT_EQ(etude.donnees.ZoneCourante, 2) << "refused here too";
+    EXPECT_EQ(calculee.count(), 0);
+
+    Frappe(*ecran, "50");
+    CliqueCellule(*ecran, "Grille", 3, 1);
+    EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 50) << "taken along to another zone";
+    FrappeDans(*ecran, "Text16", "80,5");
+    Clique("Calculer");
+    EXPECT_EQ(calculee.count(), 1) << DerniereBoite();
+    EXPECT_EQ(etude.donnees.Zones[4].AngleCame, 80.5);
+    EXPECT_EQ(etude.resultats.NombrePoints, 721);
+
+    FrappeDans(*ecran, "Text13", "2");
+    Clique("Calculer");
+    EXPECT_EQ(calculee.count(), 1) << "the zones of another number are to be entered first";
+}
+
+TEST_F(SaisieExemple, AnEditedEndStartsTheNextZone) {
+    EXPECT_EQ(Remarques(), "");
+    CliqueCellule(*ecran, "Grille", 0, 1);
+    FrappeDans(*ecran, "Text15", "22.5");
+    Clique("Suivante");
+    EXPECT_EQ(TexteDe("Text14"), "22.5") << "though that zone was entered before";
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 1), "22.5");
+    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 4), Controle<Grille>(*ecran, "Grille")->Cellule(0, 5));
+    EXPECT_EQ(Remarques(), "") << "the second zone has become a rise that closes";
+
+    // A start of its own, an angle short of the turn and an end elsewhere are told, without a box.
+    CliqueCellule(*ecran, "Grille", 2, 1);
+    FrappeDans(*ecran, "Text14", "24");
+    CliqueCellule(*ecran, "Grille", 3, 1);
+    EXPECT_EQ(Remarques(), Texte(187) + "3 " + Texte(TexteZoneCommence) + " 24 " + Texte(UniteDegres) + " " +
+                               Texte(TexteZonePrecedenteFinit) + " 25 " + Texte(UniteDegres) + ".");
+    FrappeDans(*ecran, "Text16", "60");
+    FrappeDans(*ecran, "Text15", "6.25");
+    Clique("Calculer");
+    const auto remarques = Remarques();
+    EXPECT_NE(remarques.find(Texte(TextePasUnTour) + " 350 "), std::string::npos) << remarques;
+    EXPECT_NE(remarques.find(Texte(TexteCameOuverte) + " 5 "), std::string::npos) << remarques;
+    EXPECT_NE(remarques.find(Texte(TexteMouvementFinit) + " 6.25 "), std::string::npos) << remarques;
+    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+}
+
+TEST_F(SaisieExemple, ARefusedEntryStandsSelected) {
+    const struct {
+        const char *champ, *texte;
+        int message;
+    } cas[] = {{"Text1", "1e20", TexteNombreTropGrand},
+               {"Text13", "1e20", 206},
+               {"Text13", "0", 72},
+               {"Text15", "-1e20", TexteNombreTropGrand},
+               {"Text18", "1e10", TexteNombreTropGrand}};
+    for (const auto& c : cas) {
+        FrappeDans(*ecran, c.champ, c.texte);
+        Retour(*ecran);
+        EXPECT_EQ(DerniereBoite(), Texte(c.message)) << c.champ;
+        EXPECT_TRUE(Selectionne(c.champ)) << c.champ << " " << c.texte;
+        Touche(*ecran, Qt::Key_Tab); // away without Return: the calculation refuses it as well
+        Clique("Calculer");
+        EXPECT_EQ(DerniereBoite(), Texte(c.message)) << c.champ;
+        EXPECT_TRUE(Selectionne(c.champ)) << c.champ << " " << c.texte;
+        Frappe(*ecran, std::string_view(c.champ) == "Text13" ? "4" : "30");
+        LaisseFaire();
+    }
+    QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
+    FrappeDans(*ecran, "Text19", "1.5");
+    Clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(522) + " 0 <= C <=1");
+    EXPECT_TRUE(Selectionne("Text19"));
+}
+
+TEST_F(SaisieExemple, TheWheelLeavesListsWithoutFocus) {
+    auto* points = Controle<QComboBox>(*ecran, "Combo2");
+    auto* loi = Controle<QComboBox>(*ecran, "Combo1");
+    auto* pesanteur = Controle<QScrollBar>(*ecran, "HScroll1");
+    Controle<QWidget>(*ecran, "Text1")->setFocus();
+    const int angle = pesanteur->value();
+    for (QWidget* widget : {static_cast<QWidget*>(points), static_cast<QWidget*>(loi), static_cast<QWidget*>(pesanteur),
+                            static_cast<QWidget*>(points->lineEdit())})
+        Roule(*widget);
+    EXPECT_EQ(points->currentText(), "2");
+    EXPECT_EQ(LoiMontree(), "MS");
+    EXPECT_EQ(pesanteur->value(), angle);
+    points->setFocus();
+    Roule(*points);
+    EXPECT_EQ(points->currentText(), "4");
+}
+
+TEST_F(SaisieDeuxTours, ZonesBehindABoxAreInDegrees) {
+    Lit("Deux-tours.Cyl");
+    const auto* grille = Controle<Grille>(*ecran, "Grille");
+    const std::string avant = grille->Cellule(0, 1);
+    Guette guette;
+    std::string pendant;
+    guette.pendant = [&] { pendant = grille->Cellule(0, 1); };
+    FrappeDans(*ecran, "Text2", "400"); // the turns overlap
+    Clique("Calculer");
+    ASSERT_FALSE(guette.boites.empty());
+    EXPECT_EQ(pendant, avant);
+    EXPECT_TRUE(Controle<QPushButton>(*ecran, "Calculer")->isVisible());
+}
+
+TEST_F(SaisieDeuxTours, AfterALawFileTheListsKeepTheNames) {
+    Lit("Deux-tours.Cyl");
+    FrappeDans(*ecran, "Text6", "1");
+    Retour(*ecran);
+    QSignalSpy nouvelle(ecran.get(), &FenetreEnfant::Nouvelle);
+    dialogues.fichiers = {CheminAppli / "Profils" / "Aller-retour.Lmi"};
+    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
+    Frappe(*ecran, "Fichier");
+    Retour(*ecran);
+    ASSERT_EQ(nouvelle.count(), 1);
+    EXPECT_EQ(S(nouvelle[0][0].toString()),
+              Texte(TexteLoiDeFichierLue) + " Aller-retour.Lmi. " + Texte(TexteLoisAuDemarrage));
+    // Return over "Fichier" does not ask for a file again.
+    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
+    Retour(*ecran);
+    EXPECT_TRUE(AFocus("CoefSymetrie"));
+
+    Ouvre();
+    auto* lois = Controle<QComboBox>(*ecran, "Combo1");
+    EXPECT_GE(lois->findText("MSC50"), 0);
+    EXPECT_GE(lois->findText("Fichier"), 0);
+    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
+    Frappe(*ecran, "MSC50");
+    Retour(*ecran);
+    Clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(511) + "\n" + Texte(TexteLoisAuDemarrage));
+    EXPECT_TRUE(AFocus("Combo1"));
+    EXPECT_FALSE(LitFichierEtude(CheminAppli / "Profils" / "Exemple.Ang"));
+    EXPECT_NE(DerniereBoite().find("\n" + Texte(TexteLoisAuDemarrage)), std::string::npos);
+}

@@ -147,7 +147,7 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
         DessineRegle(*dessin, Texte(UniteMm), HauteurTexte, traitAxe);
     }
     imprimante.PlaceTete(derniereLigne);
-    ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));
+    ImprimeLigneCames(Texte(488) + " : " + TexteEchelle(echelle));
     imprimante.NouvellePage();
 }
 

@@ -26,8 +26,8 @@ bool ABras() {
 }
 
 PointDessin CentreGalet(long i) {
-    // A translating follower stands on the vertical through the cam centre.
-    if (!ABras()) return {0, etude.resultats.Points[i].Rayon};
+    // A translating follower stands below the cam centre: what pushes it up pushes the roller against the cam.
+    if (!ABras()) return {0, -etude.resultats.Points[i].Rayon};
     return Polaire(Pivot(), etude.donnees.RayonO1P, etude.donnees.AnglePO1A + etude.resultats.Points[i].AngleBras);
 }
 
@@ -35,7 +35,7 @@ PointDessin PointA(long i) {
     return Polaire(Pivot(), etude.donnees.RayonO1A, etude.resultats.Points[i].AngleBras);
 }
 
-/// Length of the stem above the roller of a translating follower, mm.
+/// Length of the stem below the roller of a translating follower, mm.
 double LongueurTige() {
     return etude.resultats.RayonMax / 3;
 }
@@ -45,7 +45,7 @@ Etendue CalculeEtendue() {
     const double came = etude.resultats.RayonMax + etude.donnees.RayonGalet;
     Etendue e{{-came, -came}, {came, came}};
     if (!ABras()) {
-        e.Contient({0, came + LongueurTige()}, 2);
+        e.Contient({0, -came - LongueurTige()}, 2);
         return e;
     }
     e.Contient(Pivot(), 8);
@@ -108,6 +108,6 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     if (ABras())
         DessineBras(dessin, vue, i);
     else
-        dessin.Ligne(vue(P), vue({P.x, P.y + etude.donnees.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
+        dessin.Ligne(vue(P), vue({P.x, P.y - etude.donnees.RayonGalet - LongueurTige()}), {Couleur::Bras, 2.4});
     DessineNoms(dessin);
 }

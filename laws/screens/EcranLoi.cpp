@@ -248,11 +248,8 @@ void EcranLoi::Calculer() {
     LitDonnees();
     etude.resultats.ResultatsPrets = Faux;
     etude.resultats.EtudeModifiee = Faux;
-    if (const auto faute = ChercheFauteLoi(loi_)) {
-        MontreResultats();
-        MontreFaute(*faute);
-        return;
-    }
+    MontreResultats(); // a calculation that fails leaves none on the screen
+    if (const auto faute = ChercheFauteLoi(loi_)) return MontreFaute(*faute);
     resultat_ = CalculeEtudeLoi(loi_);
     etude.resultats.ResultatsPrets = Vrai;
     etude.resultats.EtudeModifiee = Vrai;

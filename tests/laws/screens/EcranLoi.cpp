@@ -4,6 +4,7 @@
 #include "data/Textes.h"
 #include "laws/ChoixLois.h"
 #include "laws/FichierLoi.h"
+#include "laws/TextesLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
@@ -21,6 +22,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -196,6 +198,22 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
             << "one step later " << i;
         EXPECT_GE(etude.resultats.Mouvement[i].Accel, 0) << i;
     }
+
+    // What a reader will make of other numbers of points is told with the name.
+    const auto enregistre = [&](const char* angle, const char* points) {
+        Ouvre("LoiHes", {angle, "30", "60"});
+        Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText(points);
+        Calcule();
+        QSignalSpy nom(ecran_.get(), &FenetreEnfant::FichierEnregistre);
+        dialogues_.saisies = {"2"};
+        dialogues_.fichiers = {lmi};
+        CliqueSur(*ecran_, "Enregistrer");
+        return nom.isEmpty() ? "" : S(nom.front().front().toString());
+    };
+    const std::string relu = "loi.Lmi : " + Texte(TexteRelu) + " ";
+    EXPECT_EQ(enregistre("360", "2"), "loi.Lmi");
+    EXPECT_EQ(enregistre("90", "1"), relu + "45" + Texte(TexteReluPas) + Texte(TexteReluFin));
+    EXPECT_EQ(enregistre("72", "10"), relu + "360" + Texte(TexteReluPas));
 
     // What a law file cannot hold is not written cut.
     Ouvre("LoiHes", {"360", "30", "60"});

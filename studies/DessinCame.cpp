@@ -3,6 +3,7 @@
 // P.
 #include "studies/DessinCame.h"
 
+#include "cams/Courbure.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
 #include "drawing/LegendeDessin.h"
@@ -15,6 +16,8 @@
 #include <vector>
 
 namespace {
+
+constexpr Trait traitFaute{Couleur::Repere, 3.0};
 
 PointDessin Pivot() {
     return {-etude.donnees.CoteA, -etude.donnees.CoteB};
@@ -62,6 +65,7 @@ void DessineNoms(Dessin& dessin) {
                                           {{Couleur::Primitif, 2.0, true}, Texte(293)},
                                           {{Couleur::Galet, 2.0}, Texte(289)}};
     if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    if (!PlagesTropCourbees().empty()) legende.push_back({traitFaute, Texte(TexteCourbureFaible), Couleur::Repere});
     DessineLegende(dessin, {14, 16}, 12, legende);
 }
 
@@ -71,6 +75,8 @@ void DessineProfils(PlanDessin& vue, double radians) {
     vue.Contour(contours.interieur, {Couleur::Came, 1.8}, ferme, radians);
     vue.Contour(contours.exterieur, {Couleur::TexteDiscret, 1.0}, false, radians);
     vue.Contour(contours.primitif, {Couleur::Primitif, 1.0, true}, false, radians);
+    for (const auto& partie : PartiesTropCourbees(contours.interieur, contours.exterieur))
+        vue.Contour(partie, traitFaute, false, radians);
     vue.Ligne({0, 0}, Tourne(contours.interieur.front(), radians), {Couleur::Repere, 1.0});
 }
 

@@ -224,6 +224,38 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
     EXPECT_EQ(dialogues_.boites.back().texte, Texte(800));
 }
 
+TEST_F(EcransLois, AReturnIsToldToBeScaledAsItsRise) {
+    // The largest speed of the motion itself, from the lift and the time between two points.
+    const auto vraie = [] {
+        double vitesse = 0;
+        const double pas = 1.0 / 6 / 60 / etude.donnees.PointsParDegre;
+        for (long i = 1; i <= etude.resultats.NombrePoints; ++i)
+            vitesse = std::max(vitesse,
+                               std::abs(etude.resultats.Mouvement[i].Course - etude.resultats.Mouvement[i - 1].Course) /
+                                   1000 / pas);
+        return vitesse;
+    };
+    const struct {
+        const char *ecran, *loi;
+        std::vector<const char*> valeurs;
+        bool retour;
+    } etudes[] = {{"LoiMouv", "MSH", {"200", "0", "50", "60"}, true},
+                  {"LoiMSHDis", "", {"90", "120", "50", "60"}, true},
+                  {"LoiMouv", "MS", {"0.5", "200", "0", "50", "60"}, false}};
+    for (const auto& e : etudes) {
+        Ouvre(e.ecran, e.valeurs, e.loi);
+        Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
+        EXPECT_FALSE(Controle<QLabel>(*ecran_, "Notes")->isVisibleTo(ecran_.get())) << "nothing is calculated yet";
+        Calcule();
+        const std::string notes = S(Controle<QLabel>(*ecran_, "Notes")->text());
+        EXPECT_EQ(!notes.empty(), e.retour) << e.loi;
+        if (!e.retour) continue;
+        const auto place = notes.find(Texte(TexteEchelleMontee));
+        ASSERT_NE(place, std::string::npos) << notes;
+        EXPECT_NEAR(Val(notes.substr(place + Texte(TexteEchelleMontee).size())), vraie(), 2e-3 * vraie()) << notes;
+    }
+}
+
 TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {
     Ouvre("LoiMouv", {"0.5", "360", "0", "50", "60"}, "MS");
     Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");

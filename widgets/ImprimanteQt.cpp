@@ -80,8 +80,8 @@ int TaillePixels(double points) {
 
 } // namespace
 
-ImprimanteQt::ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix)
-    : support_(support), choix_(std::move(choix)) {
+ImprimanteQt::ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix, SuiviPages suivi)
+    : support_(support), choix_(std::move(choix)), suivi_(std::move(suivi)) {
     police_.setKerning(false);
     police_.setStyleHint(QFont::TypeWriter);
     police_.setFixedPitch(true);
@@ -150,6 +150,7 @@ double ImprimanteQt::LargeurTexte(const std::string& texte) const {
 
 void ImprimanteQt::OuvrePage() {
     if (pageOuverte_) return;
+    if (suivi_) suivi_(page_);
     pageOuverte_ = true;
     if (!choix_.isEmpty() && !choix_.contains(page_)) {
         pageRefusee_ = QPicture();
@@ -222,7 +223,8 @@ QPageLayout PageParDefaut() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 10, 10, 10), QPageLayout::Millimeter};
 }
 
-bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page) {
+bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page,
+                const SuiviPages& suivi) {
     QByteArray contenu;
     QBuffer tampon(&contenu);
     tampon.open(QIODevice::WriteOnly);
@@ -232,7 +234,7 @@ bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const Q
         support.setPageLayout(page);
         support.setTitle(QChemin(chemin.stem()));
         support.setCreator(QStringLiteral("Velorin"));
-        ImprimanteQt imprimante(support);
+        ImprimanteQt imprimante(support, {}, suivi);
         pages(imprimante);
         imprimante.FinDocument();
     }

@@ -19,8 +19,8 @@ double PasGraduationAngle(double etendue, double nombre) {
     return 360.0 * std::max(1.0, PasGraduation(etendue / 360.0, nombre));
 }
 
-double PasGraduation(double etendueDemandee, double nombre) {
-    const double etendue = std::clamp(etendueDemandee, EtendueMin, EtendueMax);
+double PasGraduation(double etendue, double nombre) {
+    etendue = std::clamp(etendue, EtendueMin, EtendueMax);
     const double puissance = std::pow(10.0, std::floor(std::log10(etendue / nombre)));
     for (const double pas : {puissance, 2.0 * puissance, 5.0 * puissance})
         if (etendue / pas <= nombre) return pas;

@@ -162,6 +162,7 @@ TEST_F(Graphes, NoNumberMakesMoreGraduationsThanAnAxisHasRoomFor) {
                                 AxeSymetrique(valeur, std::min(valeur, PasGraduationAngle(valeur, 3)), "0")}) {
             EXPECT_LE(axe.graduations.size(), 100U);
             EXPECT_LE(graphe.horizontal.graduations.size(), 15U);
+            imprimante = ImprimanteNotee();
             graphe.verticaux = {axe};
             graphe.courbes = {{"", Couleur::Courbe1, {courbe.begin(), courbe.end()}, 0, Extremes::Tous}};
             EXPECT_LT(Dessine().etiquettes.size(), 120U);

@@ -84,6 +84,6 @@ TEST_F(EtudesLois, NumbersBeyondAllMeasureEndTheStudyWithTheirName) {
         return {};
     };
     EXPECT_EQ(echec(1e200, 60), "");
-    EXPECT_EQ(echec(1e308, 1e4), Texte(225) + ", " + Texte(439) + " 1");
-    EXPECT_EQ(echec(1e150, 1e100), Texte(226) + ", " + Texte(439) + " 1");
+    EXPECT_EQ(echec(1e308, 1e4), Texte(225) + ", " + Texte(439) + " 0") << "its scale is no number";
+    EXPECT_EQ(echec(1e150, 1e100), Texte(226) + ", " + Texte(439) + " 0") << "its scale is no number";
 }

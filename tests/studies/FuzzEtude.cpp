@@ -26,7 +26,7 @@ const char* const remplacements[] = {
     "1e9",    "-1e9",     "1e16",     "1e150",     "1e307",
     "1e-9",   "1e-150",
 };
-constexpr int UnTirageSur = 16; ///< calculated studies that are printed: one in so many
+constexpr int UnTirageSur = 4; ///< calculated studies that are printed: one in so many
 
 /// Prints every report of the present study. A page has room for so much; more would be a loop that nothing bounds.
 std::optional<std::string> ImprimeEtude() {

@@ -137,7 +137,10 @@ std::vector<std::span<const PointDessin>> PartiesTropCourbees(std::span<const Po
         if (de < a)
             parties.push_back(courbe.subspan(static_cast<std::size_t>(de), static_cast<std::size_t>(a - de) + 1));
     };
-    const auto exterieure = [](const FauteCourbure& f) { return f.texte == FauteExterieur; };
+    // A hollow of the pitch curve of a developed cam narrows its upper flank; a bulge of a plane cam its inner profile.
+    const auto exterieure = [](const FauteCourbure& f) {
+        return f.texte == FauteExterieur || (f.texte == FautePrimitif && etude.resultats.Developpee);
+    };
     for (const PlageAngles& plage : Plages(exterieure)) ajoute(exterieur, plage);
     for (const PlageAngles& plage : Plages([&](const auto& f) { return !exterieure(f); })) ajoute(interieur, plage);
     return parties;

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// Text number of what the legend of a drawing calls such a place.
-inline constexpr int TexteCourbureFaible = 814;
+inline constexpr int TexteCourbureFaible = 839;
 
 /// Radii of curvature of the pitch curve and of both profiles, and the box that lists where they are too small for the
 /// roller. The calculation goes on.

@@ -2,9 +2,9 @@
 #pragma once
 
 enum TextesLois {
-    TexteRelu = 802, ///< what a reader makes of a law file: a motion of so many
-    TexteReluPas = 803,
-    TexteReluFin = 804,
-    TexteParMontee = 805,
-    TexteEchelleMontee = 806,
+    TexteRelu = 827, ///< what a reader makes of a law file: a motion of so many
+    TexteReluPas = 828,
+    TexteReluFin = 829,
+    TexteParMontee = 830,
+    TexteEchelleMontee = 831,
 };

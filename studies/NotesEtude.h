@@ -7,14 +7,14 @@
 
 /// Text numbers of this room.
 enum TextesEtudes {
-    TexteArcDegre = 807,
-    TextePenteVraie = 808,
-    TexteEchelleOsc = 809,
-    TexteMaximumGarde = 810,
-    TexteTropCourbe = 811,
-    TexteCourbureUnPoint = 812,
-    TextePenteMontee = 813,
-    TexteNotes = 817,
+    TexteArcDegre = 832,
+    TextePenteVraie = 833,
+    TexteEchelleOsc = 834,
+    TexteMaximumGarde = 835,
+    TexteTropCourbe = 836,
+    TexteCourbureUnPoint = 837,
+    TextePenteMontee = 838,
+    TexteNotes = 842,
 };
 
 struct NoteValeur {

@@ -34,7 +34,7 @@ constexpr Legende legendes[] = {
     {"PageEntiere", 0, 700},      {"Fermer", 0, 5},     {"Pdf", 0, 791},    {"Imprimer", 0, 56},
 };
 
-constexpr int TexteAnnuler = 4, TextePreparation = 815;
+constexpr int TexteAnnuler = 4, TextePreparation = 840;
 constexpr int DelaiSuivi = 500; ///< ms that a run may take before it is shown to be under way
 
 /// Shows the page under way of a run that takes a while, and stops it.

@@ -245,7 +245,7 @@ TEST(ApercuImpression, ALongRunIsShownToBeUnderWayAndStops) {
     ApercuEtImprime(nullptr, "longues", longues);
     EXPECT_GT(pages, 10) << "a short run is not shown";
     EXPECT_LT(pages, 1000);
-    EXPECT_EQ(libelle.find(Texte(815) + " "), 0U);
+    EXPECT_EQ(libelle.find(Texte(840) + " "), 0U);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no preview of half a document";
 
     // So does the writing of a PDF file, which leaves no file.

@@ -169,7 +169,7 @@ TEST_F(FenetreResultat, NotesStandBesideWhatTheyBelongToAndGoWithIt) {
     Ouvre();
     auto* notes = Controle<QLabel>(*ecran, "Notes");
     EXPECT_TRUE(notes->isVisible());
-    EXPECT_TRUE(notes->text().contains(QTexte(807)));
+    EXPECT_TRUE(notes->text().contains(QTexte(832)));
     EXPECT_TRUE(Controle<QWidget>(*ecran, "PenteVraie")->isVisible());
     etude.donnees.PointsParDegre = 1;
     CalculeEtude();
@@ -183,10 +183,10 @@ TEST_F(FenetreResultat, NotesStandBesideWhatTheyBelongToAndGoWithIt) {
     etude.durables = {};
     CalculeEtude();
     Ouvre();
-    EXPECT_FALSE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(810)));
+    EXPECT_FALSE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(835)));
     Tape("Text6", "33");
     Clique("Recalcul");
-    EXPECT_TRUE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(810)));
+    EXPECT_TRUE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(835)));
     EXPECT_EQ(Valeur("VitesseGaletMax").toStdString(), Format(etude.durables.VitesseGaletMax, "###.##"));
 }
 

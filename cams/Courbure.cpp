@@ -4,6 +4,7 @@
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -52,33 +53,95 @@ bool TropPetit(double rayonCourbure) {
     return std::abs(rayonCourbure) < etude.donnees.RayonGalet;
 }
 
-std::string LigneCourbure(long point, int texte) {
-    return Texte(439) + " : " + std::to_string(point) + " => " + Texte(texte) + "\n";
+/// A point where the roller cannot follow, and the text number of why.
+struct FauteCourbure {
+    long point;
+    int texte;
+};
+constexpr int FautePrimitif = 631, FauteInterieur = 632, FauteExterieur = 633;
+
+/// One point a degree, by the radii that stand in the table.
+std::vector<FauteCourbure> ChercheFautes() {
+    std::vector<FauteCourbure> fautes;
+    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
+        const PointProfil& c = etude.resultats.Profil[i];
+        if (c.RayonCourbure < 0.0) {
+            if (TropPetit(c.RayonCourbureInterieur)) fautes.push_back({i, FauteInterieur});
+            if (etude.resultats.ProfilExterieur && TropPetit(c.RayonCourbureExterieur))
+                fautes.push_back({i, FauteExterieur});
+        } else if (c.RayonCourbure > 0.0 && TropPetit(c.RayonCourbure)) {
+            fautes.push_back({i, FautePrimitif});
+        }
+    }
+    return fautes;
+}
+
+/// The faults of the outer profile do not count.
+long NombreCompte(std::span<const FauteCourbure> fautes) {
+    return std::count_if(fautes.begin(), fautes.end(), [](const auto& f) { return f.texte != FauteExterieur; });
+}
+
+/// One single point is tolerated.
+bool Tolerees(std::span<const FauteCourbure> fautes) {
+    return NombreCompte(fautes) <= 1;
+}
+
+/// A line a fault, those of the outer profile behind the others.
+std::string ListeFautes(std::span<const FauteCourbure> fautes) {
+    std::string listes[2];
+    for (const auto& faute : fautes)
+        listes[faute.texte == FauteExterieur ? 1 : 0] +=
+            Texte(439) + " : " + std::to_string(faute.point) + " => " + Texte(faute.texte) + "\n";
+    return listes[0] + listes[1];
+}
+
+/// The cam angles of the faults that `choisie` takes, neighbours put together.
+template <class Choisie> std::vector<PlageAngles> Plages(Choisie choisie) {
+    std::vector<PlageAngles> plages;
+    if (etude.resultats.Profil.Vide() || etude.donnees.PointsParDegre <= 0) return plages;
+    const std::vector<FauteCourbure> fautes = ChercheFautes();
+    if (Tolerees(fautes)) return plages;
+    for (const auto& faute : fautes) {
+        if (!choisie(faute)) continue;
+        const int angle = static_cast<int>(faute.point / etude.donnees.PointsParDegre);
+        if (!plages.empty() && angle <= plages.back().fin + 1)
+            plages.back().fin = angle;
+        else
+            plages.push_back({angle, angle});
+    }
+    return plages;
 }
 
 } // namespace
 
 void ControleCourbure() {
     CalculeRayonsCourbure();
+    const std::vector<FauteCourbure> fautes = ChercheFautes();
+    if (Tolerees(fautes)) return;
+    LesDialogues().Message(Icone::Critique, "\n" + Texte(126) + " " + std::to_string(NombreCompte(fautes)) + " " +
+                                                Texte(428) + "\n\n" + Texte(429) + ListeFautes(fautes));
+}
 
-    int nombre = 0;
-    std::string pitch, exterieur;
-    for (long i = 0; i <= etude.resultats.NombrePoints; i += etude.donnees.PointsParDegre) {
-        const PointProfil& c = etude.resultats.Profil[i];
-        if (c.RayonCourbure < 0.0) {
-            if (TropPetit(c.RayonCourbureInterieur)) {
-                ++nombre;
-                pitch += LigneCourbure(i, 632);
-            }
-            if (etude.resultats.ProfilExterieur && TropPetit(c.RayonCourbureExterieur))
-                exterieur += LigneCourbure(i, 633);
-        } else if (c.RayonCourbure > 0.0 && TropPetit(c.RayonCourbure)) {
-            ++nombre;
-            pitch += LigneCourbure(i, 631);
-        }
-    }
-    // One single point is tolerated, and the first list alone decides.
-    if (nombre > 1)
-        LesDialogues().Message(Icone::Critique, "\n" + Texte(126) + " " + std::to_string(nombre) + " " + Texte(428) +
-                                                    "\n\n" + Texte(429) + pitch + exterieur);
+std::vector<PlageAngles> PlagesTropCourbees() {
+    return Plages([](const FauteCourbure&) { return true; });
+}
+
+std::vector<std::span<const PointDessin>> PartiesTropCourbees(std::span<const PointDessin> interieur,
+                                                              std::span<const PointDessin> exterieur, long premier) {
+    std::vector<std::span<const PointDessin>> parties;
+    const auto ajoute = [&](std::span<const PointDessin> courbe, const PlageAngles& plage) {
+        // Half a degree more at either end, so that a single angle is seen.
+        const long p = etude.donnees.PointsParDegre, demi = (p + 1) / 2;
+        const long de = std::max(plage.debut * p - demi - premier, 0L);
+        const long a = std::min(plage.fin * p + demi - premier, static_cast<long>(courbe.size()) - 1);
+        if (de < a)
+            parties.push_back(courbe.subspan(static_cast<std::size_t>(de), static_cast<std::size_t>(a - de) + 1));
+    };
+    // A hollow of the pitch curve of a developed cam narrows its upper flank; a bulge of a plane cam its inner profile.
+    const auto exterieure = [](const FauteCourbure& f) {
+        return f.texte == FauteExterieur || (f.texte == FautePrimitif && etude.resultats.Developpee);
+    };
+    for (const PlageAngles& plage : Plages(exterieure)) ajoute(exterieur, plage);
+    for (const PlageAngles& plage : Plages([&](const auto& f) { return !exterieure(f); })) ajoute(interieur, plage);
+    return parties;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "cams/CompleteZones.h"
+#include "cams/ResultatsFinis.h"
 #include "core/Etude.h"
 #include "laws/CalculLois.h"
 
@@ -90,8 +91,7 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
             p.Angle = static_cast<double>(k) / etude.donnees.PointsParDegre;
             const Lieu lieu{k, marche.reperesIndices ? static_cast<double>(k) : p.Angle};
             calcule(lieu, etude.lois.LoiUnite[j], parcours);
-            if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon))
-                throw ErreurExecution(NumeroErreur::ResultatNonFini);
+            if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon)) ExigePointFini(k);
             SuitExtremes(p, lieu.repere);
             atteint = k;
         }

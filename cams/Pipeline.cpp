@@ -1,5 +1,7 @@
 #include "cams/Pipeline.h"
 
+#include "cams/ResultatsFinis.h"
+
 ZonesEnPoints::ZonesEnPoints() {
     for (const Zone& zone : etude.donnees.Zones) degres_.push_back(zone.AngleCame);
 }
@@ -46,9 +48,11 @@ void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes
         etude.resultats.Erreur = Faux;
         for (const Etape etape : etapes) {
             etape();
-            if (!SansErreur()) return;
+            if (!SansErreur()) break;
         }
-        etude.resultats.Perimes = false;
+        // The tables of a study that was refused are written too.
+        ExigeResultatsFinis();
+        if (SansErreur()) etude.resultats.Perimes = false;
     } catch (...) {
         OublieResultats();
         throw;

@@ -34,5 +34,6 @@ struct NatureCame {
 using Etape = void (*)();
 
 /// Sizes the point tables and runs the stages in their order, each only while `Erreur` is clear, and with it cleared.
-/// @throws ErreurExecution whatever stops the arithmetic; the zones are back in degrees and no table is left.
+/// @throws ErreurExecution whatever stops the arithmetic, and a result that is no finite number in the end; the zones
+/// are back in degrees and no table is left.
 void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes);

@@ -12,6 +12,7 @@ enum class NumeroErreur {
     IndiceHorsLimites = 9,   ///< subscript out of range
     DivisionParZero = 11,    ///< division by zero
     TypeIncompatible = 13,   ///< a text stands where a number is needed, or the reverse
+    Interruption = 18,       ///< the user has stopped what was under way
     FichierIntrouvable = 53, ///< no such file
     EntreeSortie = 57,       ///< the device failed while reading or writing
     DisquePlein = 61,        ///< no room left on the device

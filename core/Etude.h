@@ -136,6 +136,13 @@ struct DonneesEtude {
               LoiHesActive = Faux;
 };
 
+/// Maxima that go on growing from one calculation to the next while the program runs.
+struct DurablesEtude {
+    double LoiCourseMax = 0, LoiVitesseMax = 0, LoiAccelMax = 0;
+    std::int16_t LoiVitesseMaxAngle = 0, LoiAccelMaxAngle = 0;
+    double VitesseGaletMax = 0; ///< Tr/min
+};
+
 /// What a calculation makes of them. A copy is a whole set of results.
 struct ResultatsEtude {
     std::int16_t NombrePoints = 0; ///< last subscript of the point tables
@@ -156,6 +163,7 @@ struct ResultatsEtude {
     double RayonCourbureMin = 0;             ///< smallest magnitude, mm
     double InertieBras = 0, InertieCame = 0; ///< kg m²
     double MasseCame = 0;                    ///< kg
+    DurablesEtude MaximaPropres;             ///< of a plane cam: the growing maxima, of this calculation alone
     double CoupleDemarrage = 0;              ///< torque to start in 0.25 s, N m
     double AngleDemarrage = 0;               ///< cam angle run through meanwhile, degrees
 
@@ -175,13 +183,6 @@ struct LoisEtude {
     std::string LoiChoisie;     ///< key of the law picked in a chooser
     Loi LoiEtude;               ///< the row that a law study works on
     Tableau<PointLoi> LoiUnite; ///< unit law of one zone: course 0 to 1 and its two derivatives
-};
-
-/// Maxima that go on growing from one calculation to the next while the program runs.
-struct DurablesEtude {
-    double LoiCourseMax = 0, LoiVitesseMax = 0, LoiAccelMax = 0;
-    std::int16_t LoiVitesseMaxAngle = 0, LoiAccelMaxAngle = 0;
-    double VitesseGaletMax = 0; ///< Tr/min
 };
 
 /// The record, its parts named by their life: the first two go with the study, the others stay until the program ends.

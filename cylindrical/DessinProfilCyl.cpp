@@ -1,5 +1,6 @@
 #include "cylindrical/DessinProfilCyl.h"
 
+#include "cams/Courbure.h"
 #include "core/Etude.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
@@ -17,7 +18,8 @@ namespace {
 constexpr double HauteurTexte = 12, Bandeau = 30, Marge = 44;
 constexpr int PasDegres = 30;
 constexpr double RayonPivot = 8; ///< room around the pivot, mm
-constexpr Trait traitGraduation{Couleur::Graduation, 1.0}, traitRepere{Couleur::Repere, 1.0, true};
+constexpr Trait traitGraduation{Couleur::Graduation, 1.0}, traitRepere{Couleur::Repere, 1.0, true},
+    traitFaute{Couleur::Repere, 3.0};
 
 bool ABras() {
     return !etude.resultats.Mouvement.Vide();
@@ -49,6 +51,8 @@ void DessineTours(PlanDessin& plan, const Developpee& d) {
         plan.Contour(tour.primitif, {Couleur::Primitif, 1.0, true}, false);
         plan.Contour(tour.interieur, {Couleur::Came, 1.8}, false);
         plan.Contour(tour.exterieur, {Couleur::Courbe2, 1.8}, false);
+        for (const auto& partie : PartiesTropCourbees(tour.interieur, tour.exterieur, tour.debut))
+            plan.Contour(partie, traitFaute, false);
     }
 }
 
@@ -77,6 +81,7 @@ void DessineNoms(Dessin& dessin) {
                                           {{Couleur::Primitif, 2.0, true}, Texte(293)},
                                           {{Couleur::Galet, 2.0}, Texte(289)}};
     if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    if (!PlagesTropCourbees().empty()) legende.push_back({traitFaute, Texte(TexteCourbureFaible), Couleur::Repere});
     DessineLegende(dessin, {14, 16}, HauteurTexte, legende);
 }
 

@@ -23,6 +23,7 @@ TourDeveloppe CalculeTour(long tour) {
     TourDeveloppe t;
     const long debut = tour * PointsParTour(),
                fin = std::min<long>(debut + PointsParTour(), etude.resultats.NombrePoints);
+    t.debut = debut;
     const double L = ArcEntrePoints(), decalage = L * static_cast<double>(debut);
     for (auto* courbe : {&t.interieur, &t.exterieur, &t.primitif})
         courbe->reserve(static_cast<std::size_t>(fin - debut) + 1);

@@ -8,6 +8,7 @@
 
 /// One passage of the track over the sheet.
 struct TourDeveloppe {
+    long debut = 0; ///< point of the results that its curves begin with
     std::vector<PointDessin> interieur, exterieur, primitif;
 };
 

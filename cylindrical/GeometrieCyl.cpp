@@ -61,6 +61,15 @@ void GeometrieCyl() {
     CalculeDifferences(L);
 }
 
+double PenteVraieMaxi() {
+    double course = 0;
+    for (long i = 0; i < etude.resultats.NombrePoints; ++i) {
+        const double c = etude.resultats.Points[i + 1].Rayon - etude.resultats.Points[i].Rayon;
+        if (std::abs(c) > std::abs(course)) course = c;
+    }
+    return std::atan(Divise(course, ArcEntrePoints())) * 180.0 / Pi;
+}
+
 void ControleSpires() {
     const long tour = 360L * etude.donnees.PointsParDegre;
     int nombre = 0;

@@ -9,5 +9,8 @@ double ArcEntrePoints();
 /// @throws ErreurExecution division by zero for a cam without diameter.
 void GeometrieCyl();
 
+/// Largest slope of the track from one point to the next, degrees, signed.
+double PenteVraieMaxi();
+
 /// Neighbouring turns of the track must leave a wall between them: sets `Erreur` and says so where they do not.
 void ControleSpires();

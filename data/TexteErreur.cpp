@@ -20,7 +20,7 @@ constexpr Sens sens[] = {
     {NumeroErreur::DossierIntrouvable, 722}, {NumeroErreur::TypeNonCalcule, 795},
     {NumeroErreur::FichierTropGrand, 726},   {NumeroErreur::ResultatNonFini, 738},
     {NumeroErreur::PointsIncomplets, 794},   {NumeroErreur::BaseIllisible, 730},
-    {NumeroErreur::BaseOccupee, 731},
+    {NumeroErreur::BaseOccupee, 731},        {NumeroErreur::Interruption, 841},
 };
 
 } // namespace

@@ -13,6 +13,9 @@ constexpr double GraduationsAngles = 13, GraduationsValeurs = 5; ///< as many as
 /// What is that much smaller than the largest value is a zero that was rounded.
 constexpr double Arrondi0 = 1e-9;
 
+/// Of values that have an axis around them; what lies beyond is drawn where it falls.
+constexpr double EtendueMax = 1e307;
+
 bool PlusBas(PointDessin a, PointDessin b) {
     return a.y < b.y;
 }
@@ -28,8 +31,7 @@ std::string TexteDecimales(double valeur, int decimales) {
 AxeGraphe AxeAngles(double total) {
     AxeGraphe axe{0, total, {}, {}, "°"};
     const double pas = PasGraduationAngle(total, GraduationsAngles);
-    for (double angle = 0; angle <= total + 1e-9; angle += pas)
-        axe.graduations.push_back({angle, Format(angle, "##0")});
+    for (const double angle : ValeursGraduees(0, total, pas)) axe.graduations.push_back({angle, Format(angle, "##0")});
     return axe;
 }
 
@@ -37,7 +39,7 @@ AxeGraphe AxeSymetrique(double maximum, double pas, std::string_view masque) {
     const double bord = maximum == 0.0 ? 1.0 : maximum;
     AxeGraphe axe{-bord, bord, {{0.0, "0"}}, {}, {}};
     if (maximum <= 0) return axe;
-    for (double valeur = pas; valeur <= maximum * (1 + 1e-9); valeur += pas)
+    for (const double valeur : ValeursGraduees(pas, maximum, pas))
         for (const double v : {valeur, -valeur}) axe.graduations.push_back({v, Format(v, masque)});
     return axe;
 }
@@ -57,7 +59,7 @@ AxeGraphe AxeAutour(std::span<const PointDessin> courbe) {
         petit = std::min(petit, 0.0);
         grand = std::max(grand, 0.0);
     }
-    const double etendue = grand > petit ? grand - petit : std::max(1.0, std::abs(grand));
+    const double etendue = std::min(grand > petit ? grand - petit : std::max(1.0, std::abs(grand)), EtendueMax);
     const double marge = 0.1 * etendue, pas = PasGraduation(1.2 * etendue, GraduationsValeurs);
     AxeGraphe axe{petit == 0.0 ? 0.0 : pas * std::floor((petit - marge) / pas),
                   pas * std::ceil((grand + marge) / pas),
@@ -66,7 +68,7 @@ AxeGraphe AxeAutour(std::span<const PointDessin> courbe) {
                   {}};
     // As many decimals as the step has.
     const int decimales = static_cast<int>(-std::floor(std::log10(pas) + 1e-9));
-    for (double valeur = axe.mini; valeur <= axe.maxi + pas / 2; valeur += pas)
+    for (const double valeur : ValeursGraduees(axe.mini, axe.maxi + pas / 2, pas))
         axe.graduations.push_back({valeur, TexteDecimales(std::abs(valeur) < pas / 2 ? 0.0 : valeur, decimales)});
     return axe;
 }

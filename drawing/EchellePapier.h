@@ -5,9 +5,11 @@
 
 #include <string>
 
-/// The largest scale of technical drawings at which the drawing fits, in paper millimetres for one of the mechanism;
-/// the smallest there is for a drawing that fits at none.
+/// The largest scale of technical drawings at which the drawing fits, in paper millimetres for one of the mechanism.
 double ChoisitEchelle(const Etendue& etendue, double largeur, double hauteur);
+
+/// A scale as a page states it; one below 0.01 with all its digits.
+std::string TexteEchelle(double echelle);
 
 /// A bar of 50 mm at the lower right of the surface, to check that the printer has not resized the page.
 /// @param unite name of the millimetre

@@ -8,6 +8,12 @@
 
 namespace {
 
+/// Where a value lies from the start of an axis to its end, 0 to 1. Halves, because the ends may lie further apart than
+/// any number.
+double Part(double valeur, const AxeGraphe& axe) {
+    return (valeur / 2 - axe.mini / 2) / (axe.maxi / 2 - axe.mini / 2);
+}
+
 /// A graph on its surface: the strokes of its parts, in the order in which they lie on each other.
 class TraceurGraphe {
 public:
@@ -25,13 +31,9 @@ public:
     void Titre();
 
 private:
-    double X(double valeur) const {
-        return p_.gauche +
-               (p_.droite - p_.gauche) * (valeur - g_.horizontal.mini) / (g_.horizontal.maxi - g_.horizontal.mini);
-    }
+    double X(double valeur) const { return p_.gauche + (p_.droite - p_.gauche) * Part(valeur, g_.horizontal); }
     double Y(double valeur, std::size_t rang) const {
-        const AxeGraphe& axe = g_.verticaux[rang];
-        return p_.bas - (p_.bas - p_.haut) * (valeur - axe.mini) / (axe.maxi - axe.mini);
+        return p_.bas - (p_.bas - p_.haut) * Part(valeur, g_.verticaux[rang]);
     }
     /// Height of the horizontal axis: at 0, or at the edge that is nearest to it.
     double YAxe() const {

@@ -5,6 +5,7 @@
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "laws/FichierLoi.h"
+#include "laws/TextesLois.h"
 #include "platform/Dialogues.h"
 
 namespace {
@@ -29,6 +30,14 @@ const GenreFichier* DemandeGenre() {
     }
 }
 
+/// A reader takes 720 points for a whole turn, whatever the study: a shorter law is followed by the end of its stroke.
+std::string CeQuiSeraLu() {
+    const int n = etude.resultats.NombrePoints;
+    if (n == PointsLoiFichier && n == 360 * etude.donnees.PointsParDegre) return {};
+    return " : " + Texte(TexteRelu) + " " + StrTrim(n / 2.0) + Texte(TexteReluPas) +
+           (n < PointsLoiFichier ? Texte(TexteReluFin) : "");
+}
+
 } // namespace
 
 std::optional<std::string> EnregistreLoi(const std::string& nom) {
@@ -47,5 +56,5 @@ std::optional<std::string> EnregistreLoi(const std::string& nom) {
     if (!chemin || chemin->empty()) return {};
     EcritFichierEntier(*chemin, genre->compose());
     const std::u8string fichier = chemin->filename().u8string();
-    return std::string(fichier.begin(), fichier.end());
+    return std::string(fichier.begin(), fichier.end()) + (genre->compose == ComposeFichierLoi ? CeQuiSeraLu() : "");
 }

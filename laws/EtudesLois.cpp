@@ -1,5 +1,6 @@
 #include "laws/EtudesLois.h"
 
+#include "core/Finis.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
 #include "laws/CalculLois.h"
@@ -363,6 +364,19 @@ void DerouleMouvement(ResultatLoi& resultat, double fin) {
         resultat.*accel *= parAccel;
 }
 
+/// Numbers beyond all measure end the study, with the first quantity and point that they have reached.
+void ExigeEtudeFinie(const EtudeLoi& loi, const ResultatLoi& resultat) {
+    if (const long i = PremierNonFini(etude.resultats.Mouvement); i >= 0) {
+        const PointLoi& point = etude.resultats.Mouvement[i];
+        const int texte = !std::isfinite(point.Course) ? 250 : !std::isfinite(point.Vitesse) ? 225 : 226;
+        throw ErreurExecution(NumeroErreur::ResultatNonFini,
+                              Texte(texte) + ", " + Texte(439) + " " + std::to_string(i));
+    }
+    for (const ValeurLoi& valeur : loi.valeurs)
+        if (!std::isfinite(resultat.*valeur.membre))
+            throw ErreurExecution(NumeroErreur::ResultatNonFini, Texte(valeur.texte));
+}
+
 } // namespace
 
 bool LoiChoisieSpe() {
@@ -429,5 +443,6 @@ ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi) {
     resultat.Duree = pas / etude.donnees.PointsParDegre / 6.0 / etude.donnees.VitesseEntree;
     loi.remplit(resultat);
     DerouleMouvement(resultat, pas / etude.donnees.PointsParDegre);
+    ExigeEtudeFinie(loi, resultat);
     return resultat;
 }

@@ -87,7 +87,7 @@ inline constexpr std::int16_t PointsParDegreLoi[] = {1, 2, 4, 5, 10};
 std::optional<FauteLoi> ChercheFauteLoi(const EtudeLoi& loi);
 
 /// Calculates a study that `ChercheFauteLoi` lets through.
-/// @throws ErreurExecution overflow; division by zero.
+/// @throws ErreurExecution overflow; division by zero; a result that is no number.
 ResultatLoi CalculeEtudeLoi(const EtudeLoi& loi);
 
 /// True when the law chosen is the one whose percentage the user gives; true when it is of the MSH family.

@@ -2,6 +2,7 @@
 
 #include "data/Textes.h"
 #include "laws/DessinLoi.h"
+#include "laws/NotesLoi.h"
 #include "laws/TablePoints.h"
 #include "reports/TableRapport.h"
 
@@ -10,9 +11,9 @@ namespace {
 constexpr int TexteCourbes = 337, TextePoints = 466, TextePointsParDegre = 174;
 constexpr int ColonneValeur = 46; ///< of the values of data and results, characters
 
-void ImprimeLigne(Tirage& tirage, int libelle, Grandeur grandeur, const std::string& valeur) {
+void ImprimeLigne(Tirage& tirage, const std::string& libelle, Grandeur grandeur, const std::string& valeur) {
     const int unite = UniteLoi(grandeur);
-    const std::string debut = Espaces(5) + Texte(libelle);
+    const std::string debut = Espaces(5) + libelle;
     tirage.Ligne(debut + Espaces(ColonneValeur - NombreCaracteres(debut)) + ": " + valeur +
                  (unite == 0 ? "" : " " + Texte(unite)));
 }
@@ -20,11 +21,14 @@ void ImprimeLigne(Tirage& tirage, int libelle, Grandeur grandeur, const std::str
 void ImprimeDonnees(Tirage& tirage, const RapportLoi& rapport) {
     for (const ChampLoi& champ : rapport.loi->champs)
         if (champ.Employe())
-            ImprimeLigne(tirage, champ.Libelle(), champ.grandeur, StrTrim(champ.Nombre(etude.donnees)));
-    ImprimeLigne(tirage, TextePointsParDegre, Grandeur::Nombre, std::to_string(etude.donnees.PointsParDegre));
+            ImprimeLigne(tirage, Texte(champ.Libelle()), champ.grandeur, StrTrim(champ.Nombre(etude.donnees)));
+    ImprimeLigne(tirage, Texte(TextePointsParDegre), Grandeur::Nombre, std::to_string(etude.donnees.PointsParDegre));
     tirage.Ligne();
+    const Notes notes = NotesEtudeLoi(*rapport.loi, rapport.resultat);
     for (const ValeurLoi& valeur : rapport.loi->valeurs)
-        ImprimeLigne(tirage, valeur.texte, valeur.grandeur, Format(rapport.resultat.*valeur.membre, valeur.masque));
+        ImprimeLigne(tirage, Texte(valeur.texte) + notes.Renvoi(valeur.controle), valeur.grandeur,
+                     Format(rapport.resultat.*valeur.membre, valeur.masque));
+    for (const std::string& ligne : notes.Lignes(FormatPage{}.colonnes - 5)) tirage.Ligne(Espaces(5) + ligne);
 }
 
 /// Data, results, and the graphs on what is left of the page.

@@ -4,6 +4,7 @@
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -77,12 +78,36 @@ void CalculePointLineaire(Point& p, const PointLoi& unite, const Parcours& zone)
     p.AccelRayon = unite.Accel * C / (zone.T * zone.T);
 }
 
+/// The maxima of the law and of the roller speed are not cleared: they go on growing from one calculation to the next
+/// while the program runs. For the life of this object they are those of its calculation, which are kept beside.
+class MaximaDurables {
+public:
+    MaximaDurables() { etude.durables = {}; }
+    ~MaximaDurables() {
+        DurablesEtude& maxima = etude.durables;
+        etude.resultats.MaximaPropres = maxima;
+        maxima.LoiCourseMax = std::max(maxima.LoiCourseMax, anciens_.LoiCourseMax);
+        maxima.VitesseGaletMax = std::max(maxima.VitesseGaletMax, anciens_.VitesseGaletMax);
+        if (!(maxima.LoiVitesseMax > anciens_.LoiVitesseMax)) {
+            maxima.LoiVitesseMax = anciens_.LoiVitesseMax;
+            maxima.LoiVitesseMaxAngle = anciens_.LoiVitesseMaxAngle;
+        }
+        if (!(maxima.LoiAccelMax > anciens_.LoiAccelMax)) {
+            maxima.LoiAccelMax = anciens_.LoiAccelMax;
+            maxima.LoiAccelMaxAngle = anciens_.LoiAccelMaxAngle;
+        }
+    }
+    MaximaDurables(const MaximaDurables&) = delete;
+    MaximaDurables& operator=(const MaximaDurables&) = delete;
+
+private:
+    const DurablesEtude anciens_ = etude.durables;
+};
+
 } // namespace
 
-// The maxima of the law and of the roller speed are not cleared: they go on growing from one calculation to the next
-// while the program runs.
-
 void CalculeMouvementBras() {
+    const MaximaDurables maxima;
     PointsTropPetits tropPetits;
     DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
@@ -95,6 +120,7 @@ void CalculeMouvementBras() {
 }
 
 void CalculeMouvementLineaire() {
+    const MaximaDurables maxima;
     PointsTropPetits tropPetits;
     DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, false, false, false},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {

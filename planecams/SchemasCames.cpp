@@ -65,21 +65,23 @@ void DessineSchemaBras(Dessin& dessin, const std::string& accent) {
 
 void DessineSchemaTranslation(Dessin& dessin, const std::string& accent) {
     constexpr double galet = 13;
-    const PointDessin O{0, 0}, P{0, 66};
+    // Below the cam: what pushes the follower up, its outer force and gravity at 90 degrees, pushes the roller against
+    // it.
+    const PointDessin O{0, 0}, P{0, -66};
     const Trait cote{Couleur::TexteDiscret, 1.0}, axe{Couleur::Graduation, 1.0, true};
-    PlanDessin plan(dessin, {{-90, -84}, {98, 140}}, 10);
+    PlanDessin plan(dessin, {{-90, -140}, {98, 84}}, 10);
     plan.Contour(ContourCame(P, galet), {Couleur::Came, 1.6}, true);
     plan.Ligne({-86, 0}, {86, 0}, axe);
-    plan.Ligne({0, -80}, {0, 136}, axe);
-    plan.Ligne(P, {0, 118}, {Couleur::Bras, 2.2});
-    for (const double x : {-9.0, 9.0}) plan.Ligne({x, 96}, {x, 128}, {Couleur::Axe, 1.4});
+    plan.Ligne({0, -136}, {0, 80}, axe);
+    plan.Ligne(P, {0, -118}, {Couleur::Bras, 2.2});
+    for (const double x : {-9.0, 9.0}) plan.Ligne({x, -96}, {x, -128}, {Couleur::Axe, 1.4});
     plan.Disque(P, galet, {accent == "galet" ? Couleur::Repere : Couleur::Galet, 1.6});
     for (const auto& centre : {O, P}) plan.Disque(centre, 2.6, {Couleur::Axe, 1.4});
     plan.Ligne(P, {84, P.y}, cote);
     plan.Cote({78, 0}, {78, P.y}, cote);
     plan.Nom({83, P.y / 2}, "R", Ancrage::Gauche, false);
-    plan.Nom({7, -9}, "O", Ancrage::Gauche, false);
-    plan.Nom({-17, P.y + 4}, "P", Ancrage::Droite, false);
-    plan.Fleche({-26, 100}, {-26, 126}, {Couleur::Repere, 1.6});
-    plan.Nom({-32, 113}, "y", Ancrage::Droite, true);
+    plan.Nom({7, 9}, "O", Ancrage::Gauche, false);
+    plan.Nom({-17, P.y - 4}, "P", Ancrage::Droite, false);
+    plan.Fleche({-26, -126}, {-26, -100}, {Couleur::Repere, 1.6});
+    plan.Nom({-32, -113}, "y", Ancrage::Droite, true);
 }

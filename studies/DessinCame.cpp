@@ -3,6 +3,7 @@
 // P.
 #include "studies/DessinCame.h"
 
+#include "cams/Courbure.h"
 #include "core/Etude.h"
 #include "data/Textes.h"
 #include "drawing/LegendeDessin.h"
@@ -16,6 +17,8 @@
 
 namespace {
 
+constexpr Trait traitFaute{Couleur::Repere, 3.0};
+
 PointDessin Pivot() {
     return {-etude.donnees.CoteA, -etude.donnees.CoteB};
 }
@@ -26,8 +29,8 @@ bool ABras() {
 }
 
 PointDessin CentreGalet(long i) {
-    // A translating follower stands on the vertical through the cam centre.
-    if (!ABras()) return {0, etude.resultats.Points[i].Rayon};
+    // A translating follower stands below the cam centre: what pushes it up pushes the roller against the cam.
+    if (!ABras()) return {0, -etude.resultats.Points[i].Rayon};
     return Polaire(Pivot(), etude.donnees.RayonO1P, etude.donnees.AnglePO1A + etude.resultats.Points[i].AngleBras);
 }
 
@@ -35,7 +38,7 @@ PointDessin PointA(long i) {
     return Polaire(Pivot(), etude.donnees.RayonO1A, etude.resultats.Points[i].AngleBras);
 }
 
-/// Length of the stem above the roller of a translating follower, mm.
+/// Length of the stem below the roller of a translating follower, mm.
 double LongueurTige() {
     return etude.resultats.RayonMax / 3;
 }
@@ -45,7 +48,7 @@ Etendue CalculeEtendue() {
     const double came = etude.resultats.RayonMax + etude.donnees.RayonGalet;
     Etendue e{{-came, -came}, {came, came}};
     if (!ABras()) {
-        e.Contient({0, came + LongueurTige()}, 2);
+        e.Contient({0, -came - LongueurTige()}, 2);
         return e;
     }
     e.Contient(Pivot(), 8);
@@ -62,6 +65,7 @@ void DessineNoms(Dessin& dessin) {
                                           {{Couleur::Primitif, 2.0, true}, Texte(293)},
                                           {{Couleur::Galet, 2.0}, Texte(289)}};
     if (ABras()) legende.push_back({{Couleur::Bras, 2.0}, Texte(217)});
+    if (!PlagesTropCourbees().empty()) legende.push_back({traitFaute, Texte(TexteCourbureFaible), Couleur::Repere});
     DessineLegende(dessin, {14, 16}, 12, legende);
 }
 
@@ -71,6 +75,8 @@ void DessineProfils(PlanDessin& vue, double radians) {
     vue.Contour(contours.interieur, {Couleur::Came, 1.8}, ferme, radians);
     vue.Contour(contours.exterieur, {Couleur::TexteDiscret, 1.0}, false, radians);
     vue.Contour(contours.primitif, {Couleur::Primitif, 1.0, true}, false, radians);
+    for (const auto& partie : PartiesTropCourbees(contours.interieur, contours.exterieur))
+        vue.Contour(partie, traitFaute, false, radians);
     vue.Ligne({0, 0}, Tourne(contours.interieur.front(), radians), {Couleur::Repere, 1.0});
 }
 
@@ -108,6 +114,6 @@ void DessineCamePlate(Dessin& dessin, double angle) {
     if (ABras())
         DessineBras(dessin, vue, i);
     else
-        dessin.Ligne(vue(P), vue({P.x, P.y + etude.donnees.RayonGalet + LongueurTige()}), {Couleur::Bras, 2.4});
+        dessin.Ligne(vue(P), vue({P.x, P.y - etude.donnees.RayonGalet - LongueurTige()}), {Couleur::Bras, 2.4});
     DessineNoms(dessin);
 }

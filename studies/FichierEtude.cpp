@@ -32,6 +32,12 @@ void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
     zone.CoefSymetrie = LitNombre(lignes);
 }
 
+/// Whether the zones can be completed by what was read. A speed or an arm of 0 is told by the calculation, and put
+/// right on the data screen.
+bool ZonesCompletables(const TypeEtude& type) {
+    return etude.donnees.VitesseCame != 0.0 && (!type.zones->rayonsBras || etude.donnees.RayonO1P != 0.0);
+}
+
 /// Today's date as "dd mm yyyy".
 std::string DateDuJour() {
     const std::time_t maintenant = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
@@ -67,7 +73,7 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
                                                                        Texte(103) + "\n" + Texte(509)));
             return false;
         }
-        CompleteZone(z, type.zones->rayonsBras);
+        if (ZonesCompletables(type)) CompleteZone(z, type.zones->rayonsBras);
     }
     if (type.conjuguees) etude.donnees.ZonesConjuguees = etude.donnees.Zones;
     etude.donnees.PointsParDegre = Entier16(LitNombre(lignes));

@@ -1,6 +1,7 @@
 // The profile drawn to scale: both profiles, the pitch curve, the roller at the start of the cam; of a cylindrical cam
 // the developed surface. Cam millimetres have their origin in the cam centre, or at the start of the development, and y
 // up; paper millimetres run down.
+#include "cams/Courbure.h"
 #include "core/Etude.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
@@ -10,6 +11,7 @@
 #include "drawing/PlanDessin.h"
 #include "reports/CadrePages.h"
 #include "studies/ContoursCame.h"
+#include "studies/NotesEtude.h"
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
@@ -21,13 +23,14 @@ namespace {
 constexpr double HauteurTexte = 2.8; // mm
 constexpr double Marge = 3;          // around the drawing, mm
 constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primitif, 0.18, true},
-    traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18};
+    traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18}, traitFaute{Couleur::Repere, 0.7};
 
 /// What each stroke is, in one row that takes the width of the page at most.
 void DessineNoms(Dessin& dessin) {
     // Both profiles are drawn alike: one entry names them.
-    const EntreeLegende entrees[] = {
+    std::vector<EntreeLegende> entrees = {
         {traitProfil, Texte(291) + ", " + Texte(290)}, {traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}};
+    if (!PlagesTropCourbees().empty()) entrees.push_back({traitFaute, Texte(TexteCourbureFaible), Couleur::Repere});
     DessineLegende(dessin, {0, HauteurTexte}, HauteurTexte, entrees,
                    {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
 }
@@ -51,6 +54,8 @@ double DessineProfil(Dessin& dessin) {
     plan.Cercle(galet, etude.donnees.RayonGalet, traitGalet);
     plan.Contour(contours.interieur, traitProfil, false);
     plan.Contour(contours.exterieur, traitProfil, false);
+    for (const auto& partie : PartiesTropCourbees(contours.interieur, contours.exterieur))
+        plan.Contour(partie, traitFaute, false);
     return echelle;
 }
 
@@ -73,9 +78,10 @@ public:
         if (debout_) return {x0_ + echelle * p.y, y0_ + echelle * p.x};
         return {x0_ + echelle * p.x, y0_ - echelle * p.y};
     }
-    std::vector<PointDessin> operator()(std::vector<PointDessin> courbe) const {
-        std::transform(courbe.begin(), courbe.end(), courbe.begin(), *this);
-        return courbe;
+    std::vector<PointDessin> operator()(std::span<const PointDessin> courbe) const {
+        std::vector<PointDessin> places(courbe.size());
+        std::transform(courbe.begin(), courbe.end(), places.begin(), *this);
+        return places;
     }
     bool Debout() const { return debout_; }
 
@@ -123,12 +129,15 @@ double DessineDeveloppee(Dessin& dessin) {
     constexpr double bande = 2.5 * HauteurTexte;
     const Developpee d = CalculeDeveloppee();
     const PapierDeveloppee papier(dessin, d, bande);
-    dessin.Polyligne(papier({{0, d.bas}, {d.largeur, d.bas}, {d.largeur, d.haut}, {0, d.haut}, {0, d.bas}}), traitAxe);
+    const PointDessin bords[] = {{0, d.bas}, {d.largeur, d.bas}, {d.largeur, d.haut}, {0, d.haut}, {0, d.bas}};
+    dessin.Polyligne(papier(bords), traitAxe);
     DessineGraduationsDeveloppee(dessin, papier, d);
     for (const TourDeveloppe& tour : d.tours) {
         dessin.Polyligne(papier(tour.primitif), traitPrimitif);
         dessin.Polyligne(papier(tour.interieur), traitProfil);
         dessin.Polyligne(papier(tour.exterieur), traitProfil);
+        for (const auto& partie : PartiesTropCourbees(tour.interieur, tour.exterieur, tour.debut))
+            dessin.Polyligne(papier(partie), traitFaute);
     }
     dessin.Cercle(papier(CentreGaletDeveloppe(0)), papier.echelle * etude.donnees.RayonGalet, traitGalet);
     return papier.echelle;
@@ -147,7 +156,7 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
         DessineRegle(*dessin, Texte(UniteMm), HauteurTexte, traitAxe);
     }
     imprimante.PlaceTete(derniereLigne);
-    ImprimeLigneCames(Texte(488) + " : " + Format(echelle, "0.##"));
+    ImprimeLigneCames(Texte(488) + " : " + TexteEchelle(echelle));
     imprimante.NouvellePage();
 }
 

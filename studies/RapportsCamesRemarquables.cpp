@@ -1,5 +1,6 @@
 // The report of the remarkable values: extremes of the calculation with the cam angles at which they occur.
 #include "reports/CadrePages.h"
+#include "studies/NotesEtude.h"
 #include "studies/RapportsCames.h"
 #include "studies/RapportsCamesLignes.h"
 #include "studies/ValeursRemarquables.h"
@@ -9,7 +10,7 @@
 
 namespace {
 
-std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
+std::string ComposeLigne(const ValeurRemarquable& ligne, int texte, const Notes& notes) {
     std::string valeur = EcritValeur(ligne, ligne.masqueRapport) + ligne.suiteRapport;
     if (ligne.repere != nullptr) {
         // Whole degrees; the last digit always shows, so that a maximum at the start of the cam has its 0.
@@ -18,14 +19,24 @@ std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
                   Format(AngleExtreme(ligne.repere()), "##0") + "°";
     }
     const int libelle = ligne.texteRapport != 0 ? ligne.texteRapport : texte;
-    return LigneValeur(Texte(libelle), ligne.uniteRapport != nullptr ? ligne.uniteRapport : UniteTexte(ligne.unite),
-                       valeur);
+    return LigneValeur(Texte(libelle) + notes.Renvoi(ligne.nom),
+                       ligne.uniteRapport != nullptr ? ligne.uniteRapport : UniteTexte(ligne.unite), valeur);
+}
+
+/// The notes that values refer to, below them.
+void AjouteNotes(std::vector<LigneRapport>& lignes, const Notes& notes) {
+    const int colonnes = FormatPage().colonnes - RetraitLigne;
+    if (notes.Vide()) return;
+    lignes.push_back({});
+    lignes.push_back({Texte(TexteNotes), true});
+    for (const std::string& ligne : notes.Lignes(colonnes)) lignes.push_back({Espaces(RetraitLigne) + ligne});
 }
 
 } // namespace
 
 void ImprimePointsRemarquables() {
     const TypeEtude& type = LeTypeEtude();
+    const Notes notes = NotesEnVigueur(type);
     std::vector<LigneRapport> lignes;
     int groupe = 0;
     for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {
@@ -36,7 +47,8 @@ void ImprimePointsRemarquables() {
             lignes.push_back({Texte(ligne.groupe), true});
             groupe = ligne.groupe;
         }
-        lignes.push_back({ComposeLigne(ligne, texte)});
+        lignes.push_back({ComposeLigne(ligne, texte, notes)});
     }
+    AjouteNotes(lignes, notes);
     ImprimeRapportLignes(Texte(TitreRemarquables), lignes);
 }

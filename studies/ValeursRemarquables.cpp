@@ -2,7 +2,9 @@
 
 #include "cams/Pente.h"
 #include "cylindrical/DonneesCyl.h"
+#include "cylindrical/GeometrieCyl.h"
 #include "data/Unites.h"
+#include "studies/NotesEtude.h"
 
 namespace {
 
@@ -19,6 +21,10 @@ template <int texte> int Toutes(const TypeEtude&) {
 }
 template <int texte> int SiDeveloppee(const TypeEtude& type) {
     return type.developpee ? texte : 0;
+}
+/// The slope of the table follows the arc of a whole degree, which is not that of a point everywhere.
+int LibellePenteVraie(const TypeEtude& type) {
+    return type.developpee && etude.donnees.PointsParDegre > 1 ? TextePenteVraie : 0;
 }
 template <int texte> int SiBras(const TypeEtude& type) {
     return type.Bras() ? texte : 0;
@@ -47,6 +53,7 @@ const ValeurRemarquable valeurs[] = {
     {GroupeCame, "RayonCourbureMin", Toutes<222>, De<&ResultatsEtude::RayonCourbureMin>, M2Court, UniteMm, M2Court,
      "(mm) : "},
     {GroupeCame, "AngleTangentMax", Toutes<223>, PenteMaxi, M2Court, UniteDegres, M2Court, nullptr},
+    {GroupeCame, "PenteVraie", LibellePenteVraie, PenteVraieMaxi, M2Court, UniteDegres, M2Court, nullptr},
     {GroupeCame, "CoupleMax", Toutes<232>, De<&ResultatsEtude::CoupleMax>, M2, UniteNm, M2,
      "(Nm) : ", Repere<&ResultatsEtude::CoupleMaxAngle>},
     {GroupeCame, "CoupleDemarrage", SiDeveloppee<241>, De<&ResultatsEtude::CoupleDemarrage>, M2, UniteNm, M2,

@@ -9,18 +9,23 @@
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
+#include <limits>
 
 namespace {
 
@@ -28,6 +33,44 @@ constexpr Legende legendes[] = {
     {"ApercuImpression", 0, 697}, {"Precedent", 0, 16}, {"Suivant", 0, 17}, {"Reduire", 0, 699}, {"Agrandir", 0, 698},
     {"PageEntiere", 0, 700},      {"Fermer", 0, 5},     {"Pdf", 0, 791},    {"Imprimer", 0, 56},
 };
+
+constexpr int TexteAnnuler = 4, TextePreparation = 840;
+constexpr int DelaiSuivi = 500; ///< ms that a run may take before it is shown to be under way
+
+/// Shows the page under way of a run that takes a while, and stops it.
+class SuiviImpression {
+public:
+    explicit SuiviImpression(QWidget* parent) : dialogue_(QString(), QTexte(TexteAnnuler), 0, 0, parent) {
+        dialogue_.setObjectName(QStringLiteral("SuiviImpression"));
+        dialogue_.setWindowModality(Qt::ApplicationModal);
+        dialogue_.setMinimumDuration(std::numeric_limits<int>::max()); // shown by the count of the pages only
+        duree_.start();
+    }
+
+    /// @throws ErreurExecution the run was stopped.
+    void operator()(int page) {
+        if (duree_.elapsed() < DelaiSuivi) return;
+        dialogue_.setLabelText(QTexte(TextePreparation) + " " + QString::number(page));
+        if (!dialogue_.wasCanceled()) dialogue_.show();
+        QCoreApplication::processEvents();
+        if (dialogue_.wasCanceled()) throw ErreurExecution(NumeroErreur::Interruption);
+    }
+
+private:
+    QProgressDialog dialogue_;
+    QElapsedTimer duree_;
+};
+
+/// Does what the user may stop; false when he did.
+template <class Etape> bool Acheve(Etape etape) {
+    try {
+        etape();
+        return true;
+    } catch (const ErreurExecution& erreur) {
+        if (erreur.numero != NumeroErreur::Interruption) throw;
+        return false;
+    }
+}
 
 /// Room that suits an upright page, inside the display.
 QSize TailleInitiale(const QWidget& fenetre) {
@@ -54,7 +97,8 @@ ApercuImpression::ApercuImpression(Pages pages, QString nom, QWidget* parent)
 }
 
 void ApercuImpression::DessinePages(QPrinter* imprimante) {
-    ImprimanteQt surEcran(*imprimante);
+    SuiviImpression suivi(parentWidget());
+    ImprimanteQt surEcran(*imprimante, {}, std::ref(suivi));
     // An exception must not go through the toolkit: the first is kept until the toolkit is done. The document is ended
     // all the same, because the toolkit looks at its pages.
     const auto garde = [this](auto&& etape) {
@@ -139,13 +183,14 @@ void ApercuImpression::Imprime() {
     QPageRanges choix;
     if (imprimante.printRange() == QPrinter::CurrentPage) choix.addPage(apercu_->currentPage());
     if (imprimante.printRange() == QPrinter::PageRange) choix = imprimante.pageRanges();
-    {
+    const bool acheve = Acheve([&] {
         const Sablier sablier;
-        ImprimanteQt surPapier(imprimante, choix);
+        SuiviImpression suivi(this);
+        ImprimanteQt surPapier(imprimante, choix, std::ref(suivi));
         pages_(surPapier);
         surPapier.FinDocument();
-    }
-    accept();
+    });
+    if (acheve) accept();
 }
 
 void ApercuImpression::EcritPdf() {
@@ -153,15 +198,17 @@ void ApercuImpression::EcritPdf() {
         {Texte(703), CheminAppli / NomDossierEtudes, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
     if (!chemin || chemin->empty()) return;
     const Sablier sablier;
-    ImprimePdf(*chemin, pages_, ImprimanteDuPoste().pageLayout());
+    SuiviImpression suivi(this);
+    Acheve([&] { ImprimePdf(*chemin, pages_, ImprimanteDuPoste().pageLayout(), std::ref(suivi)); });
 }
 
 void ApercuEtImprime(QWidget* parent, const QString& nom, const Pages& pages) {
     std::unique_ptr<ApercuImpression> apercu;
-    {
+    const bool acheve = Acheve([&] {
         const Sablier sablier;
         apercu = std::make_unique<ApercuImpression>(pages, nom, parent);
-    }
+    });
+    if (!acheve) return;
     if (apercu->NombrePages() == 0) {
         LesDialogues().Message(Icone::Information, Texte(675));
         return;

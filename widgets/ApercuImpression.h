@@ -40,7 +40,8 @@ private:
     QPushButton *precedent_, *suivant_;
 };
 
-/// Shows the pages; from there the user prints them. A document without a page is told of.
+/// Shows the pages; from there the user prints them. A document without a page is told of. What takes a while is shown
+/// to be under way, and can be stopped.
 /// @param nom name proposed for a PDF file, without folder and extension
 /// @throws ErreurExecution whatever `pages` throws.
 void ApercuEtImprime(QWidget* parent, const QString& nom, const Pages& pages);

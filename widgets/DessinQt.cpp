@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numbers>
 
 namespace {
 
@@ -45,8 +46,26 @@ bool FeuilleSombre(const QPalette& palette) {
     return palette.color(QPalette::Base).lightness() < 128;
 }
 
+/// What lies further out is drawn there, in the unit of the surface: far from any sheet, and near enough for the
+/// arithmetic of the toolkit.
+constexpr double LimiteTrace = 1e6;
+
+double Borne(double x) {
+    return std::isnan(x) ? 0.0 : std::clamp(x, -LimiteTrace, LimiteTrace);
+}
+
 QPointF EnQPoint(PointDessin p) {
-    return {p.x, p.y};
+    return {Borne(p.x), Borne(p.y)};
+}
+
+/// A stroke longer than this, in its own widths, is drawn solid: the toolkit makes each dash of it, seen or not.
+constexpr double TiretsMax = 1e5;
+
+double Longueur(const std::vector<QPointF>& points) {
+    double longueur = 0;
+    for (std::size_t i = 1; i < points.size(); ++i)
+        longueur += std::hypot(points[i].x() - points[i - 1].x(), points[i].y() - points[i - 1].y());
+    return longueur;
 }
 
 } // namespace
@@ -71,9 +90,9 @@ DessinQt::~DessinQt() {
     peintre_.restore();
 }
 
-void DessinQt::PrendTrait(const Trait& trait) {
+void DessinQt::PrendTrait(const Trait& trait, double longueur) {
     QPen plume(CouleurTrait(trait.couleur, palette_), trait.epaisseur, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (trait.pointille) {
+    if (trait.pointille && longueur <= TiretsMax * trait.epaisseur) {
         plume.setCapStyle(Qt::FlatCap);
         plume.setDashPattern({5, 4});
     }
@@ -92,13 +111,13 @@ void DessinQt::PrendTeinte(Couleur couleur) {
 const std::vector<QPointF>& DessinQt::Allege(std::span<const PointDessin> points) {
     points_.clear();
     const double carre = ecartMin_ * ecartMin_;
-    for (const PointDessin& p : points) {
+    for (const PointDessin& point : points) {
+        const QPointF p = EnQPoint(point);
         if (!points_.empty()) {
-            const double dx = p.x - points_.back().x();
-            const double dy = p.y - points_.back().y();
-            if (dx * dx + dy * dy < carre) continue;
+            const QPointF ecart = p - points_.back();
+            if (QPointF::dotProduct(ecart, ecart) < carre) continue;
         }
-        points_.push_back(EnQPoint(p));
+        points_.push_back(p);
     }
     // A stroke ends where it ends; one whose points all fall together is still a dot.
     if (!points.empty() && (points_.size() == 1 || points_.back() != EnQPoint(points.back())))
@@ -107,34 +126,35 @@ const std::vector<QPointF>& DessinQt::Allege(std::span<const PointDessin> points
 }
 
 void DessinQt::Ligne(PointDessin de, PointDessin a, const Trait& trait) {
-    PrendTrait(trait);
-    peintre_.drawLine(EnQPoint(de), EnQPoint(a));
+    const QPointF debut = EnQPoint(de), fin = EnQPoint(a);
+    PrendTrait(trait, std::hypot(fin.x() - debut.x(), fin.y() - debut.y()));
+    peintre_.drawLine(debut, fin);
 }
 
 void DessinQt::Polyligne(std::span<const PointDessin> points, const Trait& trait) {
     if (points.empty()) return;
-    PrendTrait(trait);
     const std::vector<QPointF>& gardes = Allege(points);
+    PrendTrait(trait, Longueur(gardes));
     peintre_.drawPolyline(gardes.data(), static_cast<int>(gardes.size()));
 }
 
 void DessinQt::Surface(std::span<const PointDessin> points, const Trait& trait) {
     if (points.empty()) return;
-    PrendTrait(trait);
-    PrendTeinte(trait.couleur);
     const std::vector<QPointF>& gardes = Allege(points);
+    PrendTrait(trait, Longueur(gardes));
+    PrendTeinte(trait.couleur);
     peintre_.drawPolygon(gardes.data(), static_cast<int>(gardes.size()));
 }
 
 void DessinQt::Cercle(PointDessin centre, double rayon, const Trait& trait) {
-    PrendTrait(trait);
-    peintre_.drawEllipse(EnQPoint(centre), rayon, rayon);
+    PrendTrait(trait, 2 * std::numbers::pi * rayon);
+    peintre_.drawEllipse(EnQPoint(centre), Borne(rayon), Borne(rayon));
 }
 
 void DessinQt::Disque(PointDessin centre, double rayon, const Trait& trait) {
-    PrendTrait(trait);
+    PrendTrait(trait, 2 * std::numbers::pi * rayon);
     PrendTeinte(trait.couleur);
-    peintre_.drawEllipse(EnQPoint(centre), rayon, rayon);
+    peintre_.drawEllipse(EnQPoint(centre), Borne(rayon), Borne(rayon));
 }
 
 QFont DessinQt::Police(double hauteur) const {
@@ -153,7 +173,8 @@ void DessinQt::Texte(PointDessin p, const std::string& texte, Ancrage ancrage, d
     peintre_.setFont(police);
     peintre_.setPen(CouleurTrait(couleur, palette_));
     // The vertical middle of a line of figures and capitals lies half their height above the baseline.
-    peintre_.drawText(QPointF(p.x - recul, p.y + mesures.capHeight() / 2), ligne);
+    const QPointF place = EnQPoint(p);
+    peintre_.drawText(QPointF(place.x() - recul, place.y() + mesures.capHeight() / 2), ligne);
     peintre_.restore();
 }
 

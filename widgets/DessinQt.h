@@ -36,7 +36,8 @@ public:
     double LargeurTexte(const std::string& texte, double hauteur) const override;
 
 private:
-    void PrendTrait(const Trait& trait);
+    /// @param longueur of the stroke that follows
+    void PrendTrait(const Trait& trait, double longueur);
     void PrendTeinte(Couleur couleur);
     const std::vector<QPointF>& Allege(std::span<const PointDessin> points);
     QFont Police(double hauteur) const;

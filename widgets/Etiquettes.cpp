@@ -1,6 +1,7 @@
 #include "widgets/Etiquettes.h"
 
 #include "widgets/Application.h"
+#include "widgets/Chaines.h"
 #include "widgets/Nomme.h"
 
 QLabel* FaitValeur(const char* nom, const char* gabarit) {
@@ -16,4 +17,19 @@ QLabel* FaitUnite(const QString& texte) {
     auto* unite = new QLabel(texte);
     unite->setForegroundRole(QPalette::PlaceholderText);
     return unite;
+}
+
+QLabel* FaitNotes() {
+    auto* notes = Nomme(new QLabel, "Notes");
+    notes->setWordWrap(true);
+    notes->setTextFormat(Qt::PlainText);
+    notes->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return notes;
+}
+
+void MontreNotes(QLabel& etiquette, const Notes& notes) {
+    QStringList lignes;
+    for (const std::string& ligne : notes.Lignes()) lignes << Q(ligne);
+    etiquette.setText(lignes.join('\n'));
+    etiquette.setVisible(!notes.Vide());
 }

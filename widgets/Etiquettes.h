@@ -1,6 +1,8 @@
 // Labels that stand behind a caption: a number that cannot be typed into, and a unit.
 #pragma once
 
+#include "core/Notes.h"
+
 #include <QLabel>
 
 /// A read-only number, right-aligned in figures of one width, which can be copied.
@@ -9,3 +11,7 @@ QLabel* FaitValeur(const char* nom, const char* gabarit);
 
 /// A unit, or what else is said in passing, in the discreet colour.
 QLabel* FaitUnite(const QString& texte = {});
+
+/// Room for notes below the values that they belong to; none is taken while there are none.
+QLabel* FaitNotes();
+void MontreNotes(QLabel& etiquette, const Notes& notes);

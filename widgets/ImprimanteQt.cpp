@@ -80,8 +80,8 @@ int TaillePixels(double points) {
 
 } // namespace
 
-ImprimanteQt::ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix)
-    : support_(support), choix_(std::move(choix)) {
+ImprimanteQt::ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix, SuiviPages suivi)
+    : support_(support), choix_(std::move(choix)), suivi_(std::move(suivi)) {
     police_.setKerning(false);
     police_.setStyleHint(QFont::TypeWriter);
     police_.setFixedPitch(true);
@@ -150,6 +150,7 @@ double ImprimanteQt::LargeurTexte(const std::string& texte) const {
 
 void ImprimanteQt::OuvrePage() {
     if (pageOuverte_) return;
+    if (suivi_) suivi_(page_);
     pageOuverte_ = true;
     if (!choix_.isEmpty() && !choix_.contains(page_)) {
         pageRefusee_ = QPicture();
@@ -222,7 +223,7 @@ QPageLayout PageParDefaut() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(15, 10, 10, 10), QPageLayout::Millimeter};
 }
 
-std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page) {
+std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page, const SuiviPages& suivi) {
     QByteArray contenu;
     QBuffer tampon(&contenu);
     tampon.open(QIODevice::WriteOnly);
@@ -232,15 +233,16 @@ std::string ComposePdf(const std::string& titre, const Pages& pages, const QPage
         support.setPageLayout(page);
         support.setTitle(Q(titre));
         support.setCreator(QStringLiteral("Velorin"));
-        ImprimanteQt imprimante(support);
+        ImprimanteQt imprimante(support, {}, suivi);
         pages(imprimante);
         imprimante.FinDocument();
     }
     return contenu.toStdString();
 }
 
-bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page) {
-    const std::string contenu = ComposePdf(chemin.stem().string(), pages, page);
+bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page,
+                const SuiviPages& suivi) {
+    const std::string contenu = ComposePdf(chemin.stem().string(), pages, page, suivi);
     if (contenu.empty()) return false;
     EcritFichierEntier(chemin, contenu);
     return true;

@@ -17,11 +17,14 @@ class QPagedPaintDevice;
 /// A procedure that prints a document and ends it.
 using Pages = std::function<void(Imprimante&)>;
 
+/// Is told the number of every page that begins, and stops the run by a failure that it throws.
+using SuiviPages = std::function<void(int page)>;
+
 class ImprimanteQt : public Imprimante {
 public:
     /// @param support device, with its page layout; it outlives this object
     /// @param choix pages that are put out; all of them when empty
-    explicit ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix = {});
+    explicit ImprimanteQt(QPagedPaintDevice& support, QPageRanges choix = {}, SuiviPages suivi = {});
     /// A document that was not ended is abandoned.
     ~ImprimanteQt() override;
     ImprimanteQt(const ImprimanteQt&) = delete;
@@ -61,6 +64,7 @@ private:
 
     QPagedPaintDevice& support_;
     QPageRanges choix_;
+    SuiviPages suivi_;
     QPainter peintre_;
     QPicture pageRefusee_; ///< takes what is printed on a page that was not asked for
     QPainter rebut_;
@@ -81,9 +85,11 @@ QPageLayout PageParDefaut();
 
 /// The bytes of a PDF document; empty when it has no page.
 /// @throws ErreurExecution whatever `pages` throws
-std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page = PageParDefaut());
+std::string ComposePdf(const std::string& titre, const Pages& pages, const QPageLayout& page = PageParDefaut(),
+                       const SuiviPages& suivi = {});
 
 /// Prints a document into a PDF file, which is written whole or not at all.
 /// @return false, and no file is written, when the document has no page.
 /// @throws ErreurExecution disk full; access refused; input/output; whatever `pages` throws.
-bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page = PageParDefaut());
+bool ImprimePdf(const std::filesystem::path& chemin, const Pages& pages, const QPageLayout& page = PageParDefaut(),
+                const SuiviPages& suivi = {});

@@ -5,6 +5,7 @@
 #include "laws/ChoixLois.h"
 #include "laws/DessinLoi.h"
 #include "laws/EnregistreLoi.h"
+#include "laws/NotesLoi.h"
 #include "laws/TablePoints.h"
 #include "platform/Dialogues.h"
 #include "widgets/CesseEcoute.h"
@@ -146,10 +147,13 @@ QWidget* EcranLoi::FaitResultats() {
         unite->setObjectName("Unite" + valeur->objectName());
         valeurs_.push_back(valeur);
         const int rang = grille->rowCount();
-        grille->addWidget(new QLabel(QTexte(ligne.texte)), rang, 0);
+        libelles_.push_back(new QLabel(QTexte(ligne.texte)));
+        grille->addWidget(libelles_.back(), rang, 0);
         grille->addWidget(valeur, rang, 1);
         grille->addWidget(unite, rang, 2);
     }
+    notes_ = FaitNotes();
+    grille->addWidget(notes_, grille->rowCount(), 0, 1, 3);
     grille->setColumnStretch(0, 1);
     return cadre;
 }
@@ -249,11 +253,8 @@ void EcranLoi::Calculer() {
     LitDonnees();
     etude.resultats.ResultatsPrets = Faux;
     etude.resultats.EtudeModifiee = Faux;
-    if (const auto faute = ChercheFauteLoi(loi_)) {
-        MontreResultats();
-        MontreFaute(*faute);
-        return;
-    }
+    MontreResultats(); // a calculation that fails leaves none on the screen
+    if (const auto faute = ChercheFauteLoi(loi_)) return MontreFaute(*faute);
     resultat_ = CalculeEtudeLoi(loi_);
     etude.resultats.ResultatsPrets = Vrai;
     etude.resultats.EtudeModifiee = Vrai;
@@ -263,8 +264,11 @@ void EcranLoi::Calculer() {
 
 void EcranLoi::MontreResultats() {
     const bool calculee = Calculee();
+    const Notes notes = calculee ? NotesEtudeLoi(loi_, resultat_) : Notes();
+    MontreNotes(*notes_, notes);
     for (std::size_t i = 0; i < valeurs_.size(); ++i) {
         const double valeur = resultat_.*loi_.valeurs[i].membre;
+        libelles_[i]->setText(QTexte(loi_.valeurs[i].texte) + Q(notes.Renvoi(loi_.valeurs[i].controle)));
         valeurs_[i]->setText(calculee ? Q(Format(valeur, loi_.valeurs[i].masque)) : QString());
         valeurs_[i]->setToolTip(calculee ? QTexte(777) + " " + Q(StrTrim(valeur)) : QString());
     }

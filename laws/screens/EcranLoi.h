@@ -62,7 +62,8 @@ private:
         ChampNombre* zone;
     };
     std::vector<Ligne> champs_; ///< the fields that the law asks for
-    std::vector<QLabel*> valeurs_;
+    std::vector<QLabel*> libelles_, valeurs_;
+    QLabel* notes_ = nullptr;
     QComboBox* pointsParDegre_ = nullptr;
     QRadioButton *option1_ = nullptr, *option2_ = nullptr;
     Grille* grille_ = nullptr;

@@ -13,6 +13,7 @@
 #include "studies/Exports.h"
 #include "studies/Graphique.h"
 #include "studies/Listages.h"
+#include "studies/NotesEtude.h"
 #include "studies/ValeursRemarquables.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
@@ -150,6 +151,8 @@ QWidget* Resultat::FaitValeurs() {
     disposition->addWidget(Nomme(new QLabel, "TitreGrille"), 2, 0, 1, 3);
     remarques_ = Nomme(new Remarques, "RemarquesZones");
     disposition->addWidget(remarques_, 3, 0, 1, 3);
+    notes_ = FaitNotes();
+    disposition->addWidget(notes_, 5, 0, 1, 3);
     disposition->addWidget(zones_, 4, 0, 1, 3);
     disposition->setRowStretch(4, 1);
     return feuille;
@@ -236,12 +239,15 @@ void Resultat::MontreRotation() {
 }
 
 void Resultat::RemplitValeurs(const TypeEtude& type) {
+    const Notes notes = NotesEnVigueur(type);
+    MontreNotes(*notes_, notes);
     for (const auto& ligne : valeurs_) {
         const ValeurRemarquable& valeur = *ligne.description;
         const int texte = valeur.texte(type);
         MontreRang(*ligne.valeur, texte != 0);
         if (texte == 0) continue;
-        ligne.libelle->setText(QTexte(texte));
+        ligne.libelle->setText(QTexte(texte) + Q(notes.Renvoi(valeur.nom)));
+        ligne.libelle->setToolTip(Q(notes.Textes(valeur.nom)));
         ligne.valeur->setText(Q(EcritValeur(valeur, valeur.masque)));
         // The mask may cut a number: all its digits stand in the tip.
         ligne.valeur->setToolTip(QTexte(777) + " " + Q(StrTrim(valeur.valeur())));

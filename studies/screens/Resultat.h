@@ -56,6 +56,7 @@ private:
 
     QTabWidget *onglets_, *listages_;
     std::vector<LigneValeur> valeurs_;
+    QLabel* notes_;
     QGroupBox* donnees_;
     QGridLayout* dispositionDonnees_;
     Grille *zones_, *grilleGalet_, *grilleBras_, *grilleEfforts_, *grilleCame_;

@@ -176,11 +176,11 @@ TEST_F(Fenetre, UnFichierIllisibleEstDitDansLaLigneDEtat) {
 }
 
 TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
-    // A diameter of 0, and turns that overlap once the track comes back down.
+    // A diameter of 0, turns that overlap once the track comes back down, and a cam at rest.
     const std::string bon = LitFichierEntier(Exemple().parent_path() / "Deux-tours.Cyl");
-    const std::pair<const char*, const char*> changements[] = {{"110.\r\n", ".\r\n"},
-                                                               {"90.\r\n90.\r\n", "90.\r\n.\r\n"}};
-    const int attendus[] = {419, 126};
+    const std::pair<const char*, const char*> changements[] = {
+        {"110.\r\n", ".\r\n"}, {"90.\r\n90.\r\n", "90.\r\n.\r\n"}, {"\r\n90.\r\n", "\r\n.\r\n"}};
+    const int attendus[] = {419, 126, 200}, vitesses[] = {90, 90, 0};
     const QTemporaryDir dossier;
     for (std::size_t i = 0; i < std::size(changements); ++i) {
         std::string contenu = bon;
@@ -194,7 +194,7 @@ TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
         EXPECT_EQ(dialogues_.boites.back().texte.find(Texte(attendus[i])), 0U) << dialogues_.boites.back().texte;
         EXPECT_TRUE(Visible("DoCyl"));
         EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
-        EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DoCyl"), "Text1")->Valeur(), 90);
+        EXPECT_EQ(Controle<ChampNombre>(*mdi_.EcranOuvert("DoCyl"), "Text1")->Valeur(), vitesses[i]);
     }
 }
 

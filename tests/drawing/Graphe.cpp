@@ -1,11 +1,14 @@
 #include "drawing/Graphe.h"
 
 #include "core/Nombres.h"
+#include "drawing/EchellePapier.h"
+#include "drawing/Graduations.h"
 #include "outils/ImprimanteNotee.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -145,4 +148,41 @@ TEST_F(Graphes, ALongValueStaysOnTheSurface) {
     graphe.horizontal = AxeAngles(90);
     graphe.verticaux = {{0, 1, {{1, "123456789012345678901234567890"}}, {}, {}}};
     EXPECT_GE(Dessine().etiquettes.back().place.x, -1e-9);
+}
+
+TEST_F(Graphes, NoNumberMakesMoreGraduationsThanAnAxisHasRoomFor) {
+    const double plusGrand = std::numeric_limits<double>::max(), plusPetit = std::numeric_limits<double>::denorm_min();
+    for (const double valeur : {1e16, 1e300, plusGrand, plusPetit, 1e-310, 1e9, 32767.0}) {
+        SCOPED_TRACE(valeur);
+        const double voisine = std::nextafter(valeur, 0.0);
+        const PointDessin points[] = {{0, voisine}, {valeur, valeur}, {valeur / 2, -valeur}};
+        const std::span<const PointDessin> courbe = points;
+        graphe.horizontal = AxeAngles(valeur);
+        for (const auto& axe : {AxeAutour(courbe.first(2)), AxeAutour(courbe), AxeSymetrique(valeur, valeur / 2, "0.0"),
+                                AxeSymetrique(valeur, std::min(valeur, PasGraduationAngle(valeur, 3)), "0")}) {
+            EXPECT_LE(axe.graduations.size(), 100U);
+            EXPECT_LE(graphe.horizontal.graduations.size(), 15U);
+            imprimante = ImprimanteNotee();
+            graphe.verticaux = {axe};
+            graphe.courbes = {{"", Couleur::Courbe1, {courbe.begin(), courbe.end()}, 0, Extremes::Tous}};
+            EXPECT_LT(Dessine().etiquettes.size(), 120U);
+        }
+    }
+    // Beside 1e16 the step of a stroke of 2 can hardly be seen.
+    const PointDessin loi[] = {{0, 1e16}, {1, 1e16 + 2}};
+    const AxeGraphe axe = AxeAutour(loi);
+    EXPECT_LE(axe.mini, 1e16);
+    EXPECT_GE(axe.maxi, 1e16 + 2);
+    EXPECT_GE(axe.graduations.size(), 2U);
+}
+
+TEST(EchellePapier, AScaleIsFoundForEverySizeAndStatedAsItIs) {
+    for (const double taille : {3.0, 100.0, 1e4, 1e5, 1e9, 1e200, std::numeric_limits<double>::max()}) {
+        const double echelle = ChoisitEchelle({{0, 0}, {taille, taille / 3}}, 180, 240);
+        EXPECT_LE(echelle * taille, 180) << taille;
+        EXPECT_EQ(Val(TexteEchelle(echelle)), echelle) << taille;
+        EXPECT_GT(echelle * taille, taille > 10 ? 180 / 2.6 : 0) << taille;
+    }
+    EXPECT_EQ(TexteEchelle(1), "1.");
+    EXPECT_EQ(TexteEchelle(0.5), "0.5");
 }

@@ -72,3 +72,18 @@ TEST_F(EtudesLois, TheSlowApproachShowsItsOwnAcceleration) {
     EXPECT_NEAR(std::abs(r.AccelLente), fin, 1e-3 * fin);
     EXPECT_NEAR(r.AccelFreinage, freinage, 1e-3 * freinage);
 }
+
+TEST_F(EtudesLois, NumbersBeyondAllMeasureEndTheStudyWithTheirName) {
+    const auto echec = [&](double course, double vitesse) -> std::string {
+        try {
+            Calcule("hesser", {30, course, vitesse}, 1);
+        } catch (const ErreurExecution& erreur) {
+            EXPECT_EQ(erreur.numero, NumeroErreur::ResultatNonFini);
+            return erreur.detail;
+        }
+        return {};
+    };
+    EXPECT_EQ(echec(1e200, 60), "");
+    EXPECT_EQ(echec(1e308, 1e4), Texte(225) + ", " + Texte(439) + " 0") << "its scale is no number";
+    EXPECT_EQ(echec(1e150, 1e100), Texte(226) + ", " + Texte(439) + " 0") << "its scale is no number";
+}

@@ -145,6 +145,31 @@ TEST_F(CameAngulaire, ChecksTellWhatIsWrong) {
     EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 180) << "degrees again";
 }
 
+TEST_F(CameAngulaire, AResultThatIsNoNumberIsNamedWithItsPoint) {
+    const struct {
+        double DonneesEtude::*membre;
+        double valeur;
+        std::string detail;
+    } cas[] = {{&DonneesEtude::RayonO1A, 1e307, Texte(235)}, // metres square, then times a mass
+               {&DonneesEtude::EpaisseurCame, 1e308, Texte(234)},
+               {&DonneesEtude::ForceY, 1e308, ""},
+               {&DonneesEtude::MasseA, 1e308, Texte(251) + ", " + Texte(439) + " 0"}};
+    etude.donnees.MasseBrasO1A = 1;
+    for (const auto& c : cas) {
+        const double garde = etude.donnees.*c.membre;
+        etude.donnees.*c.membre = c.valeur;
+        std::string detail;
+        try {
+            CalculeCameAngulaire();
+        } catch (const ErreurExecution& e) {
+            EXPECT_EQ(e.numero, NumeroErreur::ResultatNonFini);
+            detail = e.detail;
+        }
+        EXPECT_EQ(detail, c.detail);
+        etude.donnees.*c.membre = garde;
+    }
+}
+
 TEST_F(CameAngulaire, RunTimeFailuresLeaveTheStudyInDegreesAndNoResults) {
     const struct {
         const char* quoi;

@@ -166,8 +166,20 @@ TEST_F(FichierEtude, DamagedContentIsARunTimeFailure) {
     EXPECT_EQ(numero(exemple.substr(0, exemple.size() / 2)), NumeroErreur::FinDeFichier);
     EXPECT_EQ(numero(Remplace(exemple, "\r\n2.\r\nZone", "\r\n99999.\r\nZone")), NumeroErreur::Depassement);
     EXPECT_EQ(numero(Remplace(exemple, "\r\n2.\r\nZone", "\r\n-3.\r\nZone")), NumeroErreur::IndiceHorsLimites);
-    EXPECT_EQ(numero(Remplace(exemple, "\r\n300.\r\n", "\r\n0\r\n")), NumeroErreur::DivisionParZero);
-    EXPECT_EQ(numero(Remplace(exemple, "\r\n70.\r\n", "\r\nabc\r\n")), NumeroErreur::DivisionParZero);
+}
+
+TEST_F(FichierEtude, ACamAtRestIsReadWholeAndCannotBeCalculated) {
+    for (const auto& [ligne, autre] : {std::pair{"\r\n300.\r\n", "\r\n0\r\n"}, {"\r\n70.\r\n", "\r\nabc\r\n"}}) {
+        ASSERT_TRUE(LitEtude(Remplace(exemple, ligne, autre), angulaire));
+        EXPECT_EQ(etude.donnees.Zones[etude.donnees.NombreZones].NomLoi, "MS_Spe_ 40");
+        EXPECT_GT(etude.donnees.PointsParDegre, 0) << "to the last line";
+        try {
+            CalculeEtude();
+            ADD_FAILURE() << autre;
+        } catch (const ErreurExecution& e) {
+            EXPECT_EQ(e.numero, NumeroErreur::DivisionParZero);
+        }
+    }
 }
 
 TEST_F(FichierEtude, SavingAsksForANameAndKeepsTheOldFileOnFailure) {

@@ -17,10 +17,14 @@
 #include <QLabel>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -181,6 +185,82 @@ TEST(ApercuImpression, WritesAPdfFileFromTheScreen) {
     QTest::mouseClick(bouton, Qt::LeftButton);
     EXPECT_EQ(PagesPdf(LitBrut(dossier / "trois.pdf")), 3);
     EXPECT_TRUE(apercu.isVisible()) << "the pages can still be printed";
+}
+
+TEST(ImprimePdf, NumbersOfAnySizeTakeNeitherTimeNorMemory) {
+    const DossierTemporaire dossier;
+    const auto memoire = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss / 1024; // MB
+    };
+    const struct {
+        const char* exemple;
+        double Zone::*membre;
+        double valeur;
+    } cas[] = {{"Exemple.Ang", &Zone::AngleFinal, 1e9},       {"Exemple.Ang", &Zone::AngleFinal, 1e16},
+               {"Translation.Lin", &Zone::RayonFinal, 1e9},   {"Translation.Lin", &Zone::RayonFinal, -1e9},
+               {"Translation.Lin", &Zone::RayonFinal, 1e100}, {"Barillet.Cyl", &Zone::RayonFinal, 1e9},
+               {"Barillet.Cyl", &Zone::RayonFinal, 1e150},    {"Balancier.Osc", &Zone::AngleFinal, 1e9}};
+    for (const auto& c : cas) {
+        SCOPED_TRACE(std::string(c.exemple) + " " + std::to_string(c.valeur));
+        DialoguesScript dialogues;
+        etude = Etude{};
+        ChargeLois();
+        ASSERT_TRUE(LitFichierEtude(std::string(VELORIN_DOSSIER) + "/Profils/" + c.exemple));
+        etude.donnees.Zones[1].*c.membre = c.valeur;
+        QElapsedTimer duree;
+        duree.start();
+        const auto avant = memoire();
+        try {
+            CalculeEtude();
+            if (SansErreur()) ImprimePdf(dossier / "grand.pdf", ImprimeTout);
+        } catch (const ErreurExecution& erreur) {
+            EXPECT_EQ(erreur.numero, NumeroErreur::ResultatNonFini);
+        }
+        EXPECT_LT(memoire() - avant, 300);
+        EXPECT_LT(duree.elapsed(), 20000) << "a slow machine under sanitizers; aimed at is a second";
+    }
+}
+
+TEST(ApercuImpression, ALongRunIsShownToBeUnderWayAndStops) {
+    int pages = 0;
+    const Pages longues = [&pages](Imprimante& imprimante) {
+        for (pages = 0; pages < 2000; ++pages) {
+            QThread::msleep(10);
+            imprimante.Ecrit("une page");
+            imprimante.NouvellePage();
+        }
+    };
+    QTimer veille;
+    std::string libelle;
+    QObject::connect(&veille, &QTimer::timeout, [&] {
+        auto* suivi = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        if (suivi == nullptr) return;
+        EXPECT_TRUE(LegendesCoupees(*suivi).empty());
+        libelle = S(suivi->labelText());
+        QTest::mouseClick(suivi->findChild<QPushButton*>(), Qt::LeftButton);
+    });
+    veille.start(20);
+    ApercuEtImprime(nullptr, "longues", longues);
+    EXPECT_GT(pages, 10) << "a short run is not shown";
+    EXPECT_LT(pages, 1000);
+    EXPECT_EQ(libelle.find(Texte(840) + " "), 0U);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no preview of half a document";
+
+    // So does the writing of a PDF file, which leaves no file.
+    const DossierTemporaire dossier;
+    DialoguesScript dialogues;
+    dialogues.fichiers = {dossier / "longues.pdf"};
+    bool longue = false;
+    ApercuImpression apercu([&](Imprimante& i) { longue ? longues(i) : TroisPages(i); }, "longues");
+    apercu.show();
+    longue = true;
+    QTest::mouseClick(Controle<QPushButton>(apercu, "Pdf"), Qt::LeftButton);
+    EXPECT_LT(pages, 1000);
+    EXPECT_EQ(dossier.NombreFichiers(), 0);
+    EXPECT_TRUE(apercu.isVisible());
+    EXPECT_TRUE(dialogues.boites.empty());
 }
 
 TEST(ApercuImpression, AFailureAndAnEmptyDocumentOpenNothing) {

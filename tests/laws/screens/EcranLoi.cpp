@@ -4,6 +4,7 @@
 #include "data/Textes.h"
 #include "laws/ChoixLois.h"
 #include "laws/FichierLoi.h"
+#include "laws/TextesLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
@@ -21,6 +22,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -197,6 +199,22 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
         EXPECT_GE(etude.resultats.Mouvement[i].Accel, 0) << i;
     }
 
+    // What a reader will make of other numbers of points is told with the name.
+    const auto enregistre = [&](const char* angle, const char* points) {
+        Ouvre("LoiHes", {angle, "30", "60"});
+        Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText(points);
+        Calcule();
+        QSignalSpy nom(ecran_.get(), &FenetreEnfant::FichierEnregistre);
+        dialogues_.saisies = {"2"};
+        dialogues_.fichiers = {lmi};
+        CliqueSur(*ecran_, "Enregistrer");
+        return nom.isEmpty() ? "" : S(nom.front().front().toString());
+    };
+    const std::string relu = "loi.Lmi : " + Texte(TexteRelu) + " ";
+    EXPECT_EQ(enregistre("360", "2"), "loi.Lmi");
+    EXPECT_EQ(enregistre("90", "1"), relu + "45" + Texte(TexteReluPas) + Texte(TexteReluFin));
+    EXPECT_EQ(enregistre("72", "10"), relu + "360" + Texte(TexteReluPas));
+
     // What a law file cannot hold is not written cut.
     Ouvre("LoiHes", {"360", "30", "60"});
     Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
@@ -204,6 +222,38 @@ TEST_F(EcransLois, SavedLawDrivesACamOfOneZone) {
     dialogues_.saisies = {"2"};
     CliqueSur(*ecran_, "Enregistrer");
     EXPECT_EQ(dialogues_.boites.back().texte, Texte(800));
+}
+
+TEST_F(EcransLois, AReturnIsToldToBeScaledAsItsRise) {
+    // The largest speed of the motion itself, from the lift and the time between two points.
+    const auto vraie = [] {
+        double vitesse = 0;
+        const double pas = 1.0 / 6 / 60 / etude.donnees.PointsParDegre;
+        for (long i = 1; i <= etude.resultats.NombrePoints; ++i)
+            vitesse = std::max(vitesse,
+                               std::abs(etude.resultats.Mouvement[i].Course - etude.resultats.Mouvement[i - 1].Course) /
+                                   1000 / pas);
+        return vitesse;
+    };
+    const struct {
+        const char *ecran, *loi;
+        std::vector<const char*> valeurs;
+        bool retour;
+    } etudes[] = {{"LoiMouv", "MSH", {"200", "0", "50", "60"}, true},
+                  {"LoiMSHDis", "", {"90", "120", "50", "60"}, true},
+                  {"LoiMouv", "MS", {"0.5", "200", "0", "50", "60"}, false}};
+    for (const auto& e : etudes) {
+        Ouvre(e.ecran, e.valeurs, e.loi);
+        Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
+        EXPECT_FALSE(Controle<QLabel>(*ecran_, "Notes")->isVisibleTo(ecran_.get())) << "nothing is calculated yet";
+        Calcule();
+        const std::string notes = S(Controle<QLabel>(*ecran_, "Notes")->text());
+        EXPECT_EQ(!notes.empty(), e.retour) << e.loi;
+        if (!e.retour) continue;
+        const auto place = notes.find(Texte(TexteEchelleMontee));
+        ASSERT_NE(place, std::string::npos) << notes;
+        EXPECT_NEAR(Val(notes.substr(place + Texte(TexteEchelleMontee).size())), vraie(), 2e-3 * vraie()) << notes;
+    }
 }
 
 TEST_F(EcransLois, LongStudyRecalculatesAndRedrawsAtOnce) {

@@ -6,6 +6,7 @@
 #include "outils/DialoguesScript.h"
 #include "outils/Ecrans.h"
 #include "studies/FichierEtude.h"
+#include "widgets/Chaines.h"
 #include "widgets/Grille.h"
 
 #include <QElapsedTimer>
@@ -160,6 +161,33 @@ TEST_F(FenetreResultat, ADevelopedCamIsWalkedAlongToItsLastTurn) {
     ASSERT_EQ(etude.donnees.PointsParDegre, 2);
     EXPECT_TRUE(
         Valeur("ForceGaletMaxAngle").contains(QString::number(Arrondi(etude.resultats.ForceGaletMaxAngle / 2.0))));
+}
+
+TEST_F(FenetreResultat, NotesStandBesideWhatTheyBelongToAndGoWithIt) {
+    ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / "Deux-tours.Cyl"));
+    CalculeEtude();
+    Ouvre();
+    auto* notes = Controle<QLabel>(*ecran, "Notes");
+    EXPECT_TRUE(notes->isVisible());
+    EXPECT_TRUE(notes->text().contains(QTexte(832)));
+    EXPECT_TRUE(Controle<QWidget>(*ecran, "PenteVraie")->isVisible());
+    etude.donnees.PointsParDegre = 1;
+    CalculeEtude();
+    ecran->Montre();
+    EXPECT_FALSE(notes->isVisible());
+    EXPECT_FALSE(Controle<QWidget>(*ecran, "PenteVraie")->isVisible());
+
+    // A plane cam slowed down keeps the speeds of the calculation before.
+    ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / "Exemple.Ang"));
+    etude.donnees.PointsParDegre = 1;
+    etude.durables = {};
+    CalculeEtude();
+    Ouvre();
+    EXPECT_FALSE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(835)));
+    Tape("Text6", "33");
+    Clique("Recalcul");
+    EXPECT_TRUE(Controle<QLabel>(*ecran, "Notes")->text().contains(QTexte(835)));
+    EXPECT_EQ(Valeur("VitesseGaletMax").toStdString(), Format(etude.durables.VitesseGaletMax, "###.##"));
 }
 
 TEST_F(FenetreResultat, TheOscillatingStudyIsCalculatedAgainWithItsOwnEntries) {

@@ -1,0 +1,58 @@
+#include "core/Notes.h"
+
+#include <algorithm>
+
+namespace {
+
+std::string Numero(std::size_t rang) {
+    return "(" + std::to_string(rang + 1) + ") ";
+}
+
+long Caracteres(std::string_view texte) {
+    return std::count_if(texte.begin(), texte.end(), [](char c) { return (c & 0xC0) != 0x80; }); // UTF-8
+}
+
+/// Appends a note cut into lines between its words.
+void AjouteCoupe(std::vector<std::string>& lignes, const std::string& numero, const std::string& texte, int largeur) {
+    lignes.push_back(numero);
+    bool vide = true;
+    for (std::size_t debut = 0; debut < texte.size();) {
+        const std::size_t fin = std::min(texte.find(' ', debut), texte.size());
+        const std::string mot = texte.substr(debut, fin - debut);
+        if (!vide && largeur > 0 && Caracteres(lignes.back()) + 1 + Caracteres(mot) > largeur) {
+            lignes.emplace_back(numero.size(), ' ');
+            vide = true;
+        }
+        lignes.back() += (vide ? "" : " ") + mot;
+        vide = false;
+        debut = fin + 1;
+    }
+}
+
+} // namespace
+
+void Notes::Ajoute(std::string_view valeur, const std::string& texte) {
+    const auto place = std::find(textes_.begin(), textes_.end(), texte);
+    renvois_.emplace_back(valeur, static_cast<std::size_t>(place - textes_.begin()));
+    if (place == textes_.end()) textes_.push_back(texte);
+}
+
+std::string Notes::Renvoi(std::string_view valeur) const {
+    std::string renvoi;
+    for (const auto& [nom, rang] : renvois_)
+        if (nom == valeur) renvoi += (renvoi.empty() ? " (" : ",") + std::to_string(rang + 1);
+    return renvoi.empty() ? renvoi : renvoi + ")";
+}
+
+std::string Notes::Textes(std::string_view valeur) const {
+    std::string textes;
+    for (const auto& [nom, rang] : renvois_)
+        if (nom == valeur) textes += (textes.empty() ? "" : "\n") + Numero(rang) + textes_[rang];
+    return textes;
+}
+
+std::vector<std::string> Notes::Lignes(int largeur) const {
+    std::vector<std::string> lignes;
+    for (std::size_t rang = 0; rang < textes_.size(); ++rang) AjouteCoupe(lignes, Numero(rang), textes_[rang], largeur);
+    return lignes;
+}

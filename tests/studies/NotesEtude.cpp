@@ -1,0 +1,205 @@
+#include "studies/NotesEtude.h"
+
+#include "cams/Courbure.h"
+#include "cylindrical/DeveloppeeCyl.h"
+#include "cylindrical/GeometrieCyl.h"
+#include "data/Textes.h"
+#include "outils/Catalogue.h"
+#include "outils/DialoguesScript.h"
+#include "outils/ImprimanteNotee.h"
+#include "planecams/SchemasCames.h"
+#include "studies/DessinCame.h"
+#include "studies/RapportsCames.h"
+#include "studies/ValeursRemarquables.h"
+
+#include <set>
+
+namespace {
+
+class NotesEtudes : public AvecCatalogue {
+protected:
+    DialoguesScript dialogues;
+
+    void Pose(const char* type, std::int16_t pointsParDegre) {
+        etude.donnees.TypeCame = type;
+        etude.donnees.NomFichier = "Essai";
+        etude.donnees.CoteA = 100;
+        etude.donnees.CoteB = 65;
+        etude.donnees.RayonO1A = etude.donnees.RayonO1P = 100;
+        etude.donnees.AnglePO1A = 50;
+        etude.donnees.DiametreCame = 120;
+        etude.donnees.RayonGalet = 8;
+        etude.donnees.VitesseCame = 90;
+        etude.donnees.AnglePesanteur = 90;
+        etude.donnees.MasseA = 2;
+        etude.donnees.PointsParDegre = pointsParDegre;
+    }
+    Notes Calcule() {
+        CalculeEtude();
+        EXPECT_TRUE(SansErreur());
+        return NotesEnVigueur(LeTypeEtude());
+    }
+    static bool A(const Notes& notes, const char* valeur, int texte) {
+        return notes.Textes(valeur).find(Texte(texte)) != std::string::npos;
+    }
+    static ImprimanteNotee Imprime(MarqueImpression marque) {
+        MarquesImpression marques{};
+        marques.at(static_cast<std::size_t>(marque)) = true;
+        ImprimanteNotee imprimante;
+        ImprimeRapportsCames(imprimante, marques);
+        return imprimante;
+    }
+    static std::size_t EnRouge(const ImprimanteNotee& imprimante) {
+        std::size_t points = 0;
+        for (const auto& page : imprimante.pages)
+            for (const auto& trace : page.traces)
+                if (trace.couleur == Couleur::Repere && trace.points.size() > 2) points += trace.points.size();
+        return points;
+    }
+};
+
+} // namespace
+
+TEST_F(NotesEtudes, EveryNoteStandsBesideAValue) {
+    for (const NoteValeur& note : LesNotes())
+        EXPECT_NE(TrouveChamp(LesValeursRemarquables(), note.valeur), nullptr) << note.valeur;
+}
+
+TEST_F(NotesEtudes, ADevelopedSlopeIsTrueAtOnePointADegree) {
+    // A cycloid climbs at most twice as steep as on the average.
+    const double vraie = std::atan(2 * 30 / (Pi / 2 * 60)) * RadDeg;
+    for (const std::int16_t points : {1, 4, 10}) {
+        Pose("Cylindrique", points);
+        PoseZones({{0, 30, 90, "CYC"}, {30, 30, 50, "CYC"}, {30, 0, 220, "CYC"}});
+        const Notes notes = Calcule();
+        EXPECT_NEAR(PenteVraieMaxi(), vraie, 0.02) << points;
+        for (const char* valeur : {"AngleTangentMax", "ForceGaletMax", "CoupleMax"})
+            EXPECT_EQ(A(notes, valeur, TexteArcDegre), points > 1) << valeur << points;
+        EXPECT_EQ(notes.Vide(), points == 1);
+        const auto* pente = TrouveChamp(LesValeursRemarquables(), "PenteVraie");
+        EXPECT_EQ(pente->texte(LeTypeEtude()) != 0, points > 1);
+        std::string page;
+        for (const std::string& ligne : Imprime(MarqueImpression::PointsRemarquables).pages.front().Textes()) {
+            EXPECT_LE(NombreCaracteres(ligne), 78) << ligne;
+            page += ligne + "\n";
+        }
+        EXPECT_EQ(page.find(Texte(223) + " (1)") != std::string::npos, points > 1) << page;
+        EXPECT_EQ(page.find("(1) " + Texte(TexteArcDegre).substr(0, 20)) != std::string::npos, points > 1);
+    }
+    // At rest nothing is misleading.
+    PoseZones({{5, 5, 360, "CYC"}});
+    EXPECT_TRUE(Calcule().Vide());
+}
+
+TEST_F(NotesEtudes, TheArmOfACylinderMovesInDegreesOverAThousand) {
+    Pose("Oscillation", 1);
+    PoseZones({{-5, 5, 180, "CYC"}, {5, -5, 180, "CYC"}});
+    const Notes notes = Calcule();
+    for (const char* valeur : {"LoiVitesseMax", "AccelRayonMax", "ForceGaletMax", "VitesseGaletMax"})
+        EXPECT_TRUE(A(notes, valeur, TexteEchelleOsc)) << valeur;
+    EXPECT_FALSE(A(notes, "AngleTangentMax", TexteEchelleOsc)) << "the heights are true";
+    // 10 degrees in a third of a second: the peak is twice the mean.
+    EXPECT_NEAR(etude.durables.LoiVitesseMax * 17.4533, 2 * 10 / RadDeg / (1 / 3.0), 1e-4);
+}
+
+TEST_F(NotesEtudes, AMaximumOfAnEarlierCalculationIsMarkedWithItsOwn) {
+    Pose("Angulaire", 1);
+    // Harmonic motion: what its zones end with is overwritten in the table, and was calculated all the same.
+    const auto calcule = [this](double vitesse) {
+        etude.donnees.VitesseCame = vitesse;
+        PoseZones({{25, 40, 100, "SHM"}, {40, 40, 30, "SHM"}, {40, 25, 230, "SHM"}});
+        return Calcule();
+    };
+    EXPECT_EQ(calcule(90).Renvoi("LoiAccelMax"), "");
+    const double vite = etude.durables.VitesseGaletMax;
+    const Notes notes = calcule(45);
+    EXPECT_EQ(etude.durables.VitesseGaletMax, vite);
+    for (const char* valeur : {"LoiVitesseMax", "LoiAccelMax", "VitesseGaletMax"})
+        EXPECT_TRUE(A(notes, valeur, TexteMaximumGarde)) << valeur;
+    EXPECT_FALSE(A(notes, "LoiCourseMax", TexteMaximumGarde)) << "the same stroke";
+    EXPECT_NE(notes.Textes("VitesseGaletMax").find(" " + Format(etude.resultats.MaximaPropres.VitesseGaletMax, "##0")),
+              std::string::npos);
+    EXPECT_NEAR(etude.resultats.MaximaPropres.VitesseGaletMax, vite / 2, 1);
+    EXPECT_FALSE(A(calcule(90), "VitesseGaletMax", TexteMaximumGarde)) << "reached again";
+}
+
+TEST_F(NotesEtudes, ASteeperRiseIsToldBesideTheSlopeOfTheFall) {
+    Pose("Lineaire", 1);
+    PoseZones({{50, 80, 60, "MS"}, {80, 50, 300, "MS"}});
+    EXPECT_TRUE(A(Calcule(), "AngleTangentMax", TextePenteMontee));
+    PoseZones({{50, 80, 300, "MS"}, {80, 50, 60, "MS"}});
+    EXPECT_FALSE(A(Calcule(), "AngleTangentMax", TextePenteMontee));
+    etude.donnees.PointsParDegre = 2;
+    EXPECT_TRUE(A(Calcule(), "RayonCourbureMin", TexteCourbureUnPoint));
+}
+
+TEST_F(NotesEtudes, UndercutIsToldByCamAnglesAndDrawnInRed) {
+    Pose("Cylindrique", 2);
+    etude.donnees.RayonGalet = 2;
+    PoseZones({{0, 30, 40, "MS"}, {30, 30, 140, "MS"}, {30, 0, 180, "MS"}});
+    EXPECT_FALSE(A(Calcule(), "RayonCourbureMin", TexteTropCourbe));
+    EXPECT_EQ(EnRouge(Imprime(MarqueImpression::Profil)), 0U);
+
+    etude.donnees.RayonGalet = 25;
+    const Notes notes = Calcule();
+    ASSERT_FALSE(dialogues.boites.empty());
+    // The box lists points, two a degree.
+    std::set<int> annonces, angles;
+    const std::string& boite = dialogues.boites.back().texte;
+    const std::string debut = Texte(439) + " : ";
+    for (auto p = boite.find(debut); p != std::string::npos; p = boite.find(debut, p + 1))
+        annonces.insert(static_cast<int>(Val(boite.substr(p + debut.size())) / 2));
+    for (const PlageAngles& plage : PlagesTropCourbees()) {
+        EXPECT_FALSE(angles.count(plage.debut - 1)) << "neighbours are put together";
+        for (int a = plage.debut; a <= plage.fin; ++a) angles.insert(a);
+    }
+    EXPECT_EQ(angles, annonces);
+    EXPECT_TRUE(A(notes, "RayonCourbureMin", TexteTropCourbe));
+    EXPECT_NE(notes.Textes("RayonCourbureMin").find("°-"), std::string::npos);
+    EXPECT_GT(EnRouge(Imprime(MarqueImpression::Profil)), 2 * angles.size());
+
+    // Wherever a flank of the groove turns back on itself it is red.
+    etude.donnees.PointsParDegre = 1;
+    Calcule();
+    const Developpee d = CalculeDeveloppee();
+    const auto& [debut, interieur, exterieur, primitif] = d.tours.front();
+    const auto parties = PartiesTropCourbees(interieur, exterieur);
+    for (const auto* flanc : {&interieur, &exterieur}) {
+        int boucles = 0;
+        for (std::size_t i = 0; i + 1 < flanc->size(); ++i) {
+            if ((*flanc)[i + 1].x >= (*flanc)[i].x) continue;
+            ++boucles;
+            EXPECT_TRUE(std::any_of(parties.begin(), parties.end(), [&](const auto& partie) {
+                return partie.data() <= &(*flanc)[i + 1] && &(*flanc)[i] < partie.data() + partie.size();
+            })) << i;
+        }
+        EXPECT_GT(boucles, 0) << "the roller is far too large";
+    }
+}
+
+TEST_F(NotesEtudes, WhatPushesATranslatingFollowerUpPushesItAgainstTheCam) {
+    Pose("Lineaire", 1);
+    PoseZones({{50, 80, 180, "MS"}, {80, 50, 180, "MS"}});
+    Calcule();
+    const double debout = etude.resultats.Points[90].ForceGalet;
+    etude.donnees.MasseA = 0;
+    Calcule();
+    EXPECT_GT(debout, etude.resultats.Points[90].ForceGalet) << "gravity at 90 degrees points up";
+    const auto milieu = [](const ImprimanteNotee& imprimante, Couleur couleur, bool premier) {
+        const std::vector<PointDessin>* points = nullptr;
+        for (const auto& trace : imprimante.pages.front().traces)
+            if (trace.couleur == couleur && (!premier || points == nullptr)) points = &trace.points;
+        return points == nullptr ? PointDessin{} : *points->begin();
+    };
+    ImprimanteNotee dessin, schema;
+    DessineCamePlate(*dessin.Feuille({0, 0}, 200, 200), 0);
+    EXPECT_GT(milieu(dessin, Couleur::Galet, true).y, milieu(dessin, Couleur::Axe, true).y) << "the roller lies below";
+    DessineSchemaTranslation(*schema.Feuille({0, 0}, 200, 200), "");
+    const auto& traces = schema.pages.front().traces;
+    const auto fleche =
+        std::find_if(traces.begin(), traces.end(), [](const auto& t) { return t.couleur == Couleur::Repere; });
+    ASSERT_NE(fleche, traces.end());
+    EXPECT_LT(fleche->points.back().y, fleche->points.front().y) << "y positive is up";
+    const double O = milieu(schema, Couleur::Graduation, true).y;
+    EXPECT_GT(milieu(schema, Couleur::Galet, true).y, O);
+}

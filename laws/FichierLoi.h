@@ -2,6 +2,8 @@
 // of points nor its stroke: a reader takes it as 720 points over a whole turn.
 #pragma once
 
+#include "core/Etude.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -22,3 +24,7 @@ void LitFichierLoi(const std::filesystem::path& chemin);
 
 /// As `LitFichierLoi`, on the content of a file.
 void LitLoi(std::string_view contenu);
+
+/// The three numbers of a line, cut at its first two ";", speed and acceleration without their signs. A line without ";"
+/// reads as zeros.
+PointLoi LitPointLoi(std::string_view ligne);

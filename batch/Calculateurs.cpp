@@ -1,11 +1,10 @@
 #include "batch/Calculateurs.h"
 
+#include "batch/Passage.h"
 #include "core/FichierEntier.h"
 #include "data/Textes.h"
-#include "laws/CalculLois.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace {
 
@@ -22,27 +21,6 @@ Json LitObjet(const Calculateur& calculateur, const std::string& fichier) {
         else if (!valeur.is_null() && !valeur.is_number() && !valeur.is_string())
             throw UsageIncorrect(nom + " is neither a number nor a text");
     return donnees;
-}
-
-Json CalculeObjet(const Calculateur& calculateur, const Json& donnees, const std::string& fichier, bool oui,
-                  int& statut) {
-    DialoguesCollecte dialogues(oui);
-    IssueCalculateur issue;
-    etude.Erreur = Vrai;
-    try {
-        calculateur.calcule(donnees, fichier, issue);
-    } catch (const ErreurExecution& erreur) {
-        issue.echec = SensErreur(erreur);
-    }
-    if (issue.echec.empty()) etude.Erreur = Faux;
-    if (!issue.echec.empty()) statut = std::max(statut, 1);
-
-    Json objet = Json::object();
-    objet["Erreur"] = etude.Erreur;
-    objet["messages"] = JsonMessages(dialogues);
-    if (!issue.echec.empty()) objet["echec"] = issue.echec;
-    objet.update(issue.resultats);
-    return objet;
 }
 
 } // namespace
@@ -91,20 +69,18 @@ Json SansValeurs(Json resultats) {
 int DerouleCalculateur(const Calculateur& calculateur, const LigneCommande& ligne, std::ostream& sortie,
                        std::ostream& erreurs) {
     if (ligne.arguments.empty()) throw UsageIncorrect(std::string(calculateur.commande) + ": which data file?");
-    int statut = 0;
-    for (const std::string& fichier : ligne.arguments) {
-        etude = Etude{};
-        ChargeLois();
-        Json donnees;
-        try {
-            donnees = LitObjet(calculateur, fichier);
-        } catch (const std::exception& erreur) {
-            erreurs << "velorin-batch: " << fichier << ": " << erreur.what() << "\n";
-            statut = 2;
-            continue;
-        }
-        EcritJson(sortie, CalculeObjet(calculateur, donnees, fichier, ligne.oui, statut));
-        sortie << "\n";
-    }
-    return statut;
+    return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
+        const Json donnees = LitObjet(calculateur, fichier);
+        IssueCalculateur issue;
+        Calcul calcul;
+        calcul.execute = [&](const DialoguesCollecte&) {
+            // The flag is clear only when there is a result.
+            etude.resultats.Erreur = Vrai;
+            calculateur.calcule(donnees, fichier, issue);
+            if (issue.echec.empty()) etude.resultats.Erreur = Faux;
+            return issue.echec;
+        };
+        calcul.resultats = [&](bool) { return issue.resultats; };
+        return LanceCalcul(calcul, ligne, sortie);
+    });
 }

@@ -31,7 +31,7 @@ void Calcule(const Json& donnees, const std::filesystem::path& fichier, IssueCal
     if (saisie.Sens != -1.0) saisie.Sens = 1.0;
     saisie.FichierLoi = TrouveFichierLoi(saisie.FichierLoi, fichier);
     if (const auto faute = ChercheFauteIndexeurCylindrique(saisie)) return RefuseSaisie(*faute, issue);
-    issue.resultats = JsonResultat(CalculeIndexeurCylindrique(saisie, etude.ListeLois));
+    issue.resultats = JsonResultat(CalculeIndexeurCylindrique(saisie, etude.lois.ListeLois));
 }
 
 } // namespace

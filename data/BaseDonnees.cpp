@@ -130,8 +130,10 @@ BaseDonnees BaseDonnees::Ouvre(const std::filesystem::path& chemin, const std::s
         throw ErreurExecution(NumeroErreur::FichierIntrouvable, chemin.string());
     BaseDonnees base;
     const bool exclusif = usage == Usage::Exclusif;
-    base.base_ = OuvreFichier(chemin, motDePasse, exclusif ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+    // A reader, too, must be able to take back what a program that was killed had half written.
+    base.base_ = OuvreFichier(chemin, motDePasse, SQLITE_OPEN_READWRITE);
     base.Execute(Chiffrement);
+    if (!exclusif) base.Execute("PRAGMA query_only = ON");
     if (exclusif) {
         if (sqlite3_db_readonly(base.base_, "main") == 1)
             throw ErreurExecution(NumeroErreur::AccesFichier, chemin.string());

@@ -34,7 +34,7 @@ protected:
         donnees.CapaciteB10 = 1e4;
         donnees.CapaciteLimite = 1.5e4;
     }
-    ResultatIndexeurCylindrique Calcule() const { return CalculeIndexeurCylindrique(donnees, etude.ListeLois); }
+    ResultatIndexeurCylindrique Calcule() const { return CalculeIndexeurCylindrique(donnees, etude.lois.ListeLois); }
     PointDessin Centre(const ResultatIndexeurCylindrique& r, long degre, std::size_t galet) const {
         return LitPosition(r.Grille[degre + 1][galet]).value_or(PointDessin{std::nan(""), std::nan("")});
     }
@@ -174,7 +174,7 @@ TEST_F(Drum, LimitsAreAccepted) {
 TEST_F(Drum, ALawFileBringsItsAngle) {
     DossierTemporaire dossier;
     std::string contenu;
-    const auto loi = CoursesDeSource(donnees, etude.ListeLois, 144);
+    const auto loi = CoursesDeSource(donnees, etude.lois.ListeLois, 144);
     for (const double course : loi) contenu += StrTrim(course) + ";0;0\r\n";
     donnees.FichierLoi = dossier.Ecrit("loi.Lmi", contenu + "1;0;0\r\n");
     donnees.AngleIndexage = 72;

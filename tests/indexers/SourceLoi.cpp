@@ -32,11 +32,11 @@ std::string FichierDe(long lignes, bool finie) {
 } // namespace
 
 TEST_F(LawSource, TypedSharesOfACatalogueLawGiveThatLaw) {
-    const Loi mt = LoiDeSource(Speciale(0.25, 0.5, 0.25), etude.ListeLois);
+    const Loi mt = LoiDeSource(Speciale(0.25, 0.5, 0.25), etude.lois.ListeLois);
     EXPECT_NEAR(mt.Ca, 4.888123762813258, 1e-12);
     EXPECT_NEAR(mt.Cv, 2.0, 1e-12);
-    const auto typee = CoursesDeSource(Speciale(0.1875, 0, 0.5625), etude.ListeLois, 91.5);
-    const auto rangee = CoursesDeSource(DuCatalogue("MSC25"), etude.ListeLois, 91.5);
+    const auto typee = CoursesDeSource(Speciale(0.1875, 0, 0.5625), etude.lois.ListeLois, 91.5);
+    const auto rangee = CoursesDeSource(DuCatalogue("MSC25"), etude.lois.ListeLois, 91.5);
     ASSERT_EQ(typee.BorneHaute(), 92); // half to even
     for (long i = 0; i <= 92; ++i) ASSERT_NEAR(typee[i], rangee[i], 1e-12);
     EXPECT_EQ(typee[92], 0.0) << "no i reaches it";
@@ -46,7 +46,7 @@ TEST_F(LawSource, TenthsThatAddUpLeaveNothing) {
     EXPECT_EQ(CoefD(Speciale(0.3, 0.3, 0.4)), 0.0);
     EXPECT_EQ(CoefD(Speciale(0, 0, 0)), 1.0);
     EXPECT_FALSE(ChercheFauteCoefs(Speciale(0.3, 0.3, 0.4)));
-    EXPECT_NEAR(CoursesDeSource(Speciale(0.3, 0.3, 0.4), etude.ListeLois, 30)[15], 0.5, 1e-12);
+    EXPECT_NEAR(CoursesDeSource(Speciale(0.3, 0.3, 0.4), etude.lois.ListeLois, 30)[15], 0.5, 1e-12);
     for (const auto& refusee : {Speciale(0.5, 0.5, 0.001), Speciale(-0.5, -0.5, 0.5)}) {
         const auto faute = ChercheFauteCoefs(refusee);
         ASSERT_TRUE(faute);
@@ -60,7 +60,7 @@ TEST_F(LawSource, TenthsThatAddUpLeaveNothing) {
 TEST_F(LawSource, WhatNoLawCanBeMadeOfFails) {
     const auto numero = [&](const SourceLoi& source) {
         try {
-            LoiDeSource(source, etude.ListeLois);
+            LoiDeSource(source, etude.lois.ListeLois);
         } catch (const ErreurExecution& erreur) {
             return erreur.numero;
         }

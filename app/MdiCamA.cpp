@@ -156,7 +156,7 @@ void MdiCamA::Sauvegarder() {
 }
 
 void MdiCamA::Imprimer() {
-    const FenetreEnfant* active = bureau_->Active();
+    FenetreEnfant* active = bureau_->Active();
     if (active != nullptr ? !active->PretAImprimer() : !etude.resultats.ResultatsPrets) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
         return;
@@ -171,7 +171,8 @@ void MdiCamA::Imprimer() {
                     [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
 }
 
-void MdiCamA::ImprimeFenetre(const FenetreEnfant& fenetre) {
+void MdiCamA::ImprimeFenetre(FenetreEnfant& fenetre) {
+    if (!fenetre.PrepareImpression()) return;
     ApercuEtImprime(this, fenetre.windowTitle(), [&fenetre](Imprimante& imprimante) { fenetre.Imprime(imprimante); });
 }
 
@@ -274,6 +275,7 @@ void MdiCamA::Relie(FenetreEnfant& fenetre) {
     connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
             [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
+    connect(&fenetre, &FenetreEnfant::Annonce, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
 }
 

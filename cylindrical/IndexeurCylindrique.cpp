@@ -68,7 +68,7 @@ std::optional<FauteSaisie> ChercheFauteGalet(const Fiche& d) {
 std::optional<FauteSaisie> ChercheFauteMecanisme(const Fiche& d) {
     const double galets = Entier16(d.NombreGalets);
     if (d.Modele.empty()) return Faute("Modele", 546);
-    if (const auto* champ = ChercheInterdit<Fiche>(champs, d)) return Faute(champ->nom, champ->texteFaute);
+    if (const auto* champ = ChercheInterdit(champs, d)) return Faute(champ->nom, champ->texteFaute);
     if (galets < GaletsMini) return Faute("NombreGalets", 539);
     if (d.AngleIndexage <= 0.0 || d.AngleIndexage > 360.0) return Faute("AngleIndexage", 623);
     if (d.CoefSymetrie < SymetrieMini || d.CoefSymetrie > SymetrieMaxi)

@@ -1,7 +1,6 @@
 #include "indexers/screens/EcranCalculateur.h"
 
 #include "core/Etude.h"
-#include "indexers/TextesIndexeurs.h"
 #include "indexers/screens/ListeCles.h"
 #include "indexers/screens/PanneauLoi.h"
 #include "indexers/screens/PanneauSaisie.h"
@@ -16,7 +15,6 @@
 
 #include <QBoxLayout>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
 
@@ -30,8 +28,8 @@ constexpr Legende legendes[] = {{"Quitter", 0, 340}, {"Calculer", 0, 11}, {"Impr
 
 } // namespace
 
-EcranCalculateur::EcranCalculateur(const char* nom, int titre, QWidget* parent) : QWidget(parent) {
-    setObjectName(QString::fromLatin1(nom));
+EcranCalculateur::EcranCalculateur(const char* nom, int titre, Booleen16 DonneesEtude::*active, QWidget* parent)
+    : FenetreEnfant(nom, parent, active) {
     setWindowTitle(QTexte(titre));
 }
 
@@ -70,7 +68,7 @@ QWidget* EcranCalculateur::FaitSaisie(const Composition& composition) {
 }
 
 QLayout* EcranCalculateur::FaitBoutons(const Composition& composition) {
-    retour_ = Nomme(new QPushButton, "Quitter");
+    auto* retour = Nomme(new QPushButton, "Quitter");
     calculer_ = Nomme(new QPushButton, "Calculer");
     auto* imprimer = Nomme(new QPushButton, "Imprimer");
     auto* sauver = Nomme(new QPushButton, "Sauvegarde");
@@ -82,15 +80,15 @@ QLayout* EcranCalculateur::FaitBoutons(const Composition& composition) {
     calculer_->setDefault(true);
     calculer_->setAutoDefault(true);
     auto* boutons = new QHBoxLayout;
-    boutons->addWidget(retour_);
+    boutons->addWidget(retour);
     boutons->addStretch();
     boutons->addWidget(sorties_);
     boutons->addWidget(calculer_);
-    connect(retour_, &QPushButton::clicked, this, &EcranCalculateur::Retour);
+    connect(retour, &QPushButton::clicked, this, &EcranCalculateur::Quitte);
     connect(imprimer, &QPushButton::clicked, this, &EcranCalculateur::ImpressionDemandee);
-    connect(sauver, &QPushButton::clicked, this, &EcranCalculateur::Sauvegarder);
+    connect(sauver, &QPushButton::clicked, this, &EcranCalculateur::Enregistrer);
     connect(calculer_, &QPushButton::clicked, this, &EcranCalculateur::Calculer);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, retour_, &QPushButton::click);
+    RevientPar(*retour);
     return boutons;
 }
 
@@ -120,7 +118,7 @@ void EcranCalculateur::RelieOrdre(const std::vector<QWidget*>& ordre) {
         const auto avance = [suivant] { suivant->setFocus(Qt::TabFocusReason); };
         if (auto* champ = qobject_cast<ChampNombre*>(ordre[i])) connect(champ, &ChampNombre::Suivant, suivant, avance);
         if (auto* liste = qobject_cast<ListeCles*>(ordre[i])) connect(liste, &ListeCles::Suivant, suivant, avance);
-        if (i > 0) setTabOrder(ordre[i - 1], ordre[i]);
+        if (i > 0) QWidget::setTabOrder(ordre[i - 1], ordre[i]);
     }
 }
 
@@ -192,16 +190,10 @@ void EcranCalculateur::Calculer() {
     calcule_ = true;
     MontreEtat();
     onglets_->setCurrentIndex(1);
-    emit EtudeCalculee();
+    emit EtudeRecalculee();
 }
 
-void EcranCalculateur::Sauvegarder() {
+void EcranCalculateur::Enregistrer() {
     if (calcule_) return SauveResultats();
     LesDialogues().Message(Icone::Information, Texte(TexteRienASauver));
-}
-
-void EcranCalculateur::Retour() {
-    calcule_ = false;
-    MontreEtat();
-    emit Quitte();
 }

@@ -4,8 +4,7 @@
 #pragma once
 
 #include "indexers/FauteSaisie.h"
-
-#include <QWidget>
+#include "widgets/FenetreEnfant.h"
 
 #include <optional>
 #include <string>
@@ -16,7 +15,7 @@ class PanneauSaisie;
 class QPushButton;
 class QTabWidget;
 
-class EcranCalculateur : public QWidget {
+class EcranCalculateur : public FenetreEnfant {
     Q_OBJECT
 
 public:
@@ -26,18 +25,12 @@ public:
     bool Calcule() const { return calcule_; }
 
     /// Saves what the calculator saves; tells that there is nothing without results.
-    void Sauvegarder();
-
-signals:
-    void EtudeCalculee();
-    void ImpressionDemandee();
-    void FichierEnregistre(const QString& nom); ///< name without folder
-    void Annonce(const QString& texte);         ///< for the status line
-    void Quitte();
+    void Enregistrer() override;
 
 protected:
     /// @param titre text number of the caption
-    EcranCalculateur(const char* nom, int titre, QWidget* parent);
+    /// @param active the flag of the screen, by which saving and printing go to it
+    EcranCalculateur(const char* nom, int titre, Booleen16 DonneesEtude::*active, QWidget* parent);
 
     struct Feuille {
         QWidget* contenu;
@@ -84,12 +77,11 @@ private:
     void LitSaisie();
     void Calculer();
     void MontreEtat();
-    void Retour();
 
     bool calcule_ = false;
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;
     QTabWidget* onglets_ = nullptr;
     QWidget* sorties_ = nullptr;
-    QPushButton *calculer_ = nullptr, *retour_ = nullptr;
+    QPushButton* calculer_ = nullptr;
 };

@@ -41,8 +41,8 @@ const Catalogue galets{"Table Galets", "ReferenceGalet", "ReferenceGalet", champ
 
 class EcranEssai : public EcranCalculateur {
 public:
-    EcranEssai() : EcranCalculateur("Essai", 148, nullptr) {
-        const auto lies = LieChamps<Essai>(champs, essai);
+    EcranEssai() : EcranCalculateur("Essai", 148, &DonneesEtude::CylindriqueIndexeurActif, nullptr) {
+        const auto lies = LieChamps(champs, essai);
         auto* galet = new PanneauSaisie("Frame4", 289, {lies.begin(), lies.begin() + 4}, galets, {"GardeGalets", 415});
         auto* loi = new PanneauLoi("Frame5", 105, {lies[4], lies[5], lies[6], lies[7], lies[8]}, NomsLoisCalculateur());
         resultats = new PanneauResultats;
@@ -56,7 +56,7 @@ public:
 
 protected:
     std::optional<FauteSaisie> ChercheFaute() override {
-        if (const auto* champ = ChercheInterdit<Essai>(champs, essai))
+        if (const auto* champ = ChercheInterdit(champs, essai))
             return FauteSaisie{champ->nom, Texte(champ->texteFaute)};
         return {};
     }
@@ -126,7 +126,7 @@ TEST_F(CalculatorScreen, AKeyFillsTheFieldsAndEditsStay) {
 }
 
 TEST_F(CalculatorScreen, ANewRowIsCheckedStoredAndOffered) {
-    QSignalSpy annonce(ecran.get(), &EcranCalculateur::Annonce);
+    QSignalSpy annonce(ecran.get(), &FenetreEnfant::Annonce);
     Clique("GardeGalets");
     EXPECT_EQ(DerniereBoite(), Texte(541));
     EXPECT_TRUE(AFocus("DerouleGalets"));
@@ -153,8 +153,8 @@ TEST_F(CalculatorScreen, ANewRowIsCheckedStoredAndOffered) {
 }
 
 TEST_F(CalculatorScreen, ResultsAreThoseOfTheInputs) {
-    QSignalSpy calculee(ecran.get(), &EcranCalculateur::EtudeCalculee);
-    ecran->Sauvegarder();
+    QSignalSpy calculee(ecran.get(), &FenetreEnfant::EtudeRecalculee);
+    ecran->Enregistrer();
     EXPECT_EQ(DerniereBoite(), Texte(23));
     Clique("Calculer");
     EXPECT_EQ(DerniereBoite(), Texte(542));
@@ -225,7 +225,7 @@ TEST_F(CalculatorScreen, CoefficientsOfTheSpecialLaw) {
 
 TEST_F(CalculatorScreen, KeysWalkTheFieldsAndLeave) {
     SuitReturn({"DerouleGalets", "Text8", "Text9", "DerouleLois", "Text13", "Calculer"});
-    QSignalSpy quitte(ecran.get(), &EcranCalculateur::Quitte);
+    QSignalSpy quitte(ecran.get(), &FenetreEnfant::Quitte);
     QTest::keyClick(ecran.get(), Qt::Key_Escape);
     EXPECT_EQ(quitte.count(), 1);
     EXPECT_EQ(ecran->calculs, 0);

@@ -1,6 +1,8 @@
 #include "batch/Commandes.h"
 
 #include "batch/CommandeEtude.h"
+
+#include "batch/CommandeIndexeurConjugue.h"
 #include "batch/CommandeIndexeurCylindrique.h"
 #include "batch/CommandeLoi.h"
 #include "batch/CommandeLoiSpeciale.h"
@@ -30,6 +32,8 @@ constexpr CommandeBatch commandes[] = {
      "the study of a special law: hesser, avance-rapide, liquides or msh-dissymetrique", CommandeLoiSpeciale},
     {"indexeur-cylindrique", "indexeur-cylindrique DATA.json...", "the drum cam of an indexer",
      CommandeIndexeurCylindrique},
+    {"indexeur-conjugue", "indexeur-conjugue DATA.json...", "report and capacities of a pair of conjugate cams",
+     CommandeIndexeurConjugue},
 };
 
 void EcritAide(std::ostream& sortie) {

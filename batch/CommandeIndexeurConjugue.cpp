@@ -1,47 +1,12 @@
 #include "batch/CommandeIndexeurConjugue.h"
 
-#include "batch/Passage.h"
+#include "batch/Calculateurs.h"
 #include "conjugate/IndexeurConjugue.h"
-#include "core/FichierEntier.h"
 
-#include <algorithm>
 #include <functional>
 #include <optional>
 
 namespace {
-
-/// A member as the screen's field would hold it: nothing for null.
-std::string TexteMembre(const Json& valeur, const char* nom) {
-    if (valeur.is_null()) return {};
-    if (valeur.is_string()) return valeur.get<std::string>();
-    throw UsageIncorrect(std::string(nom) + " is neither a number nor a text");
-}
-
-void LitMembre(const Json& valeur, const ChampLie& champ) {
-    if (auto* const* nombre = std::get_if<double*>(&champ.valeur)) {
-        **nombre = valeur.is_number() ? valeur.get<double>() : ValVirgule(TexteMembre(valeur, champ.nom));
-    } else {
-        *std::get<std::string*>(champ.valeur) = TexteMembre(valeur, champ.nom);
-    }
-}
-
-Json LitObjet(const std::string& fichier) {
-    Json donnees = Json::parse(LitFichierEntier(fichier));
-    if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
-    const auto champs = ChampsConjugue();
-    for (const auto& [nom, valeur] : donnees.items())
-        if (std::none_of(champs.begin(), champs.end(), [&nom = nom](const auto& champ) { return nom == champ.nom; }))
-            throw UsageIncorrect("unknown member " + nom);
-    return donnees;
-}
-
-/// What is left out is an empty field.
-SaisieConjugue LitSaisie(const Json& donnees) {
-    SaisieConjugue saisie;
-    for (const ChampLie& champ : LieChamps(ChampsConjugue(), saisie))
-        LitMembre(donnees.contains(champ.nom) ? donnees[champ.nom] : Json(), champ);
-    return saisie;
-}
 
 /// A result of the calculation; null where it did not come so far.
 template <class Etape, class Membre> Json Valeur(const std::optional<Etape>& etape, Membre membre) {
@@ -97,22 +62,27 @@ Json JsonConjugue(const ResultatConjugue& r) {
     return objet;
 }
 
+void Calcule(const Json& donnees, const std::filesystem::path&, IssueCalculateur& issue) {
+    SaisieConjugue saisie;
+    ResultatConjugue resultat;
+    issue.resultats = JsonConjugue(resultat);
+    LitDonneesCalculateur(donnees, LieChamps(ChampsConjugue(), saisie));
+    try {
+        CalculeIndexeurConjugue(saisie, resultat);
+    } catch (const ErreurExecution&) {
+        // The lines written so far stand.
+        issue.resultats = JsonConjugue(resultat);
+        throw;
+    }
+    issue.resultats = JsonConjugue(resultat);
+    if (resultat.arret) RefuseSaisie(*resultat.arret, issue);
+    issue.echec = resultat.motif;
+}
+
 } // namespace
 
 int CommandeIndexeurConjugue(const LigneCommande& ligne, std::ostream& sortie, std::ostream& erreurs) {
-    if (ligne.arguments.empty()) throw UsageIncorrect("indexeur-conjugue: which data file?");
-    return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
-        const Json donnees = LitObjet(fichier);
-        ResultatConjugue resultat;
-        Calcul calcul;
-        calcul.execute = [&](const DialoguesCollecte&) {
-            etude.resultats.Erreur = Vrai;
-            CalculeIndexeurConjugue(LitSaisie(donnees), resultat);
-            if (resultat.arret) LesDialogues().Message(resultat.arret->icone, resultat.arret->texte);
-            etude.resultats.Erreur = resultat.Erreur;
-            return resultat.motif;
-        };
-        calcul.resultats = [&](bool) { return JsonConjugue(resultat); };
-        return LanceCalcul(calcul, ligne, sortie);
-    });
+    Calculateur calculateur{"indexeur-conjugue", {}, Calcule};
+    for (const auto& champ : ChampsConjugue()) calculateur.membres.emplace_back(champ.nom);
+    return DerouleCalculateur(calculateur, ligne, sortie, erreurs);
 }

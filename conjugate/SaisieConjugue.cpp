@@ -30,7 +30,7 @@ const Entree champs[] = {
     {"M", "Text5", TexteNombreGalets, 0, &SaisieConjugue::M, nullptr, ArrondiNul, TexteDonneeNulle},
     {"N", "Text3", TexteNombreStops, 0, &SaisieConjugue::N, nullptr, Nul, TexteDonneeNulle},
     {"A", "Text4", TexteAngleIndexage, UniteDegres, &SaisieConjugue::A, nullptr, Nul, TexteDonneeNulle},
-    {"W", "Text11", TextePartConstante, 0, &SaisieConjugue::W, nullptr, Un, TexteSansFlanc},
+    {"W", "Text11", TextePartConstante, TexteBornesPart, &SaisieConjugue::W, nullptr, Un, TexteSansFlanc},
     {"Loi", "Combo2", TexteLoiMouvement, 0, &SaisieConjugue::Loi},
     {"Ipm", "Text12", TexteIndexagesMinute, 0, &SaisieConjugue::Ipm, nullptr, Nul, TexteDonneeNulle},
     {"ReferenceGalet", "Combo1", TexteSelectionGalet, 0, &SaisieConjugue::ReferenceGalet},

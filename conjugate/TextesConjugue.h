@@ -7,6 +7,7 @@ enum TexteConjugue {
     TexteNombreGalets = 425,
     TexteNombreStops = 426,
     TextePartConstante = 436,
+    TexteBornesPart = 438,
     TexteLoiMouvement = 440,
     TexteIndexagesMinute = 441,
     TexteSelectionGalet = 442,

@@ -77,6 +77,7 @@ QLayout* EcranCalculateur::FaitBoutons(const Composition& composition) {
     rangee->setContentsMargins({});
     for (QWidget* sortie : composition.sorties) rangee->addWidget(sortie);
     for (QPushButton* bouton : {imprimer, sauver}) rangee->addWidget(bouton);
+    sauver->setVisible(composition.sauvegarde);
     calculer_->setDefault(true);
     calculer_->setAutoDefault(true);
     auto* boutons = new QHBoxLayout;
@@ -162,15 +163,21 @@ void EcranCalculateur::MontreSansPerimer(const std::string& membre, double valeu
 // ---- results
 
 void EcranCalculateur::Perime() {
-    if (!calcule_) return;
-    calcule_ = false;
+    if (!calcule_ && !ouvertes_) return;
+    calcule_ = ouvertes_ = false;
     MontreEtat();
+}
+
+void EcranCalculateur::OuvreFeuilles(int feuille) {
+    ouvertes_ = true;
+    MontreEtat();
+    onglets_->setCurrentIndex(feuille);
 }
 
 void EcranCalculateur::MontreEtat() {
     etude.resultats.ResultatsPrets = calcule_ ? Vrai : Faux;
     etude.resultats.EtudeModifiee = calcule_ ? Vrai : Faux;
-    for (int i = 1; i < onglets_->count(); ++i) onglets_->setTabEnabled(i, calcule_);
+    for (int i = 1; i < onglets_->count(); ++i) onglets_->setTabEnabled(i, calcule_ || ouvertes_);
     sorties_->setEnabled(calcule_);
 }
 
@@ -180,7 +187,7 @@ void EcranCalculateur::Calculer() {
     LitSaisie();
     if (!Demande()) return;
     if (const auto faute = ChercheFaute()) {
-        MontreFaute(*faute);
+        MontreArret(*faute);
         return;
     }
     const Sablier sablier;

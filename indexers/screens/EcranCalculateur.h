@@ -46,6 +46,7 @@ protected:
         std::vector<QWidget*> bloques; ///< what the panel of coefficients closes, with the calculation
         std::vector<Feuille> resultats;
         std::vector<QWidget*> sorties; ///< beside the print and save buttons
+        bool sauvegarde = true;        ///< there is something to save
     };
     void Compose(const Composition& composition);
 
@@ -66,6 +67,10 @@ protected:
     /// The text of an input as it stands in its field.
     std::string Saisi(const std::string& membre) const;
     void MontreFaute(const FauteSaisie& faute);
+    /// What keeps it from calculating, told when it was asked to.
+    virtual void MontreArret(const FauteSaisie& faute) { MontreFaute(faute); }
+    /// Opens the sheets on what a calculation that stopped has left. It can be looked at, and nothing is made of it.
+    void OuvreFeuilles(int feuille);
     /// Shows a text in a field without making the results those of other inputs.
     void MontreSansPerimer(const std::string& membre, double valeur);
 
@@ -79,6 +84,7 @@ private:
     void MontreEtat();
 
     bool calcule_ = false;
+    bool ouvertes_ = false; ///< the sheets, without a result
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;
     QTabWidget* onglets_ = nullptr;

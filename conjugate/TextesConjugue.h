@@ -21,7 +21,7 @@ enum TexteConjugue {
     TexteVitesseLimite = 458,
     TexteSurusinage = 459,
 
-    TexteDonneeNulle = 805,
+    TexteDonneeNulle = 846,
     TexteSansFlanc,
     TextePisteSansLettre,
     TexteNoteMS,

@@ -2,6 +2,6 @@
 #pragma once
 
 enum TextesIndexeurCyl {
-    TexteEpaisseurArret = 803,  ///< in the dwell the rib counts rollers that have left the cam
-    TexteEpaisseurGauche = 804, ///< on a cam to the left the rib is no mirror of that to the right
+    TexteEpaisseurArret = 844,  ///< in the dwell the rib counts rollers that have left the cam
+    TexteEpaisseurGauche = 845, ///< on a cam to the left the rib is no mirror of that to the right
 };

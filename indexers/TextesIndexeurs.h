@@ -2,5 +2,5 @@
 #pragma once
 
 enum TextesIndexeurs {
-    TexteLoiSansFin = 802, ///< a law file that no lift of 1 ends
+    TexteLoiSansFin = 843, ///< a law file that no lift of 1 ends
 };

@@ -18,10 +18,11 @@
 
 namespace {
 
-constexpr std::array<ChoixEtude, 8> LesChoix{{
+constexpr std::array<ChoixEtude, 9> LesChoix{{
     {"Image1", 0, DessineCamePlateBras, "Angulaire"},
     {"Image2", 0, DessineCamePlateTranslation, "Lineaire"},
     {"Image11", 0, DessineCamesConjuguees, "ConjuguesOscillation"},
+    {"Image10", 0, DessineIndexeurConjugue, nullptr, 422, "CamesConjugueesIndexeur"},
     {"Image3", 1, DessineCameCylindriqueTranslation, "Cylindrique"},
     {"Image7", 1, DessineCameCylindriqueBras, "Oscillation"},
     {"Image9", 1, DessineIndexeurCylindrique, nullptr, 148, "CylindriqueIndexeur"},

@@ -162,7 +162,7 @@ void MdiCamA::Sauvegarder() {
 }
 
 void MdiCamA::Imprimer() {
-    const FenetreEnfant* active = bureau_->Active();
+    FenetreEnfant* active = bureau_->Active();
     if (active != nullptr ? !active->PretAImprimer() : !etude.resultats.ResultatsPrets) {
         LesDialogues().Message(Icone::Information, Texte(TexteRienAImprimer));
         return;
@@ -178,7 +178,8 @@ void MdiCamA::Imprimer() {
                     [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
 }
 
-void MdiCamA::ImprimeFenetre(const FenetreEnfant& fenetre) {
+void MdiCamA::ImprimeFenetre(FenetreEnfant& fenetre) {
+    if (!fenetre.PrepareImpression()) return;
     ApercuEtImprime(this, fenetre.windowTitle(), [&fenetre](Imprimante& imprimante) { fenetre.Imprime(imprimante); });
 }
 
@@ -282,6 +283,7 @@ void MdiCamA::Relie(FenetreEnfant& fenetre) {
             [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
     connect(&fenetre, &FenetreEnfant::Nouvelle, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
+    connect(&fenetre, &FenetreEnfant::Annonce, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
 }
 

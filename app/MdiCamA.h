@@ -86,7 +86,7 @@ private:
     void OuvreParType(const TypeEtude* type);
     void Sauvegarder();
     void Imprimer();
-    void ImprimeFenetre(const FenetreEnfant& fenetre);
+    void ImprimeFenetre(FenetreEnfant& fenetre);
     std::array<bool, NombreImpressions> MarquesCochees() const;
     void ConfigureImpression();
     void MontrePropos();

@@ -1,6 +1,9 @@
 #include "batch/Commandes.h"
 
 #include "batch/CommandeEtude.h"
+
+#include "batch/CommandeIndexeurConjugue.h"
+#include "batch/CommandeIndexeurCylindrique.h"
 #include "batch/CommandeLoi.h"
 #include "batch/CommandeLoiSpeciale.h"
 #include "core/FichierEntier.h"
@@ -28,11 +31,15 @@ constexpr CommandeBatch commandes[] = {
     {"loi", "loi NAME --points N", "the unit table of a law, as a JSON object", CommandeLoi},
     {"loi-speciale", "loi-speciale KIND DATA.json...",
      "the study of a special law: hesser, avance-rapide, liquides or msh-dissymetrique", CommandeLoiSpeciale},
+    {"indexeur-cylindrique", "indexeur-cylindrique DATA.json...", "the drum cam of an indexer",
+     CommandeIndexeurCylindrique},
+    {"indexeur-conjugue", "indexeur-conjugue DATA.json...", "report and capacities of a pair of conjugate cams",
+     CommandeIndexeurConjugue},
 };
 
 void EcritAide(std::ostream& sortie) {
     const auto ligne = [&](const std::string& usage, const char* sens) {
-        sortie << "  " << std::left << std::setw(32) << usage << sens << "\n";
+        sortie << "  " << std::left << std::setw(36) << usage << sens << "\n";
     };
     sortie << "velorin-batch: the calculations of Velorin without its screens\n\nCommands\n";
     for (const auto& commande : commandes) ligne(commande.usage, commande.sens);

@@ -131,7 +131,8 @@ struct DonneesEtude {
     Booleen16 SortieEnDegres = Faux;        ///< the output is an angle
     std::string TypeLoi; ///< law screen in use: "LoiMouv", "LoiHesser", "LoiLiquide", "LoiSpecial", "LoiMSHDis"
 
-    // Which law screen is open: the print command goes to it.
+    // Which calculator or law screen is open: the print command goes to it.
+    Booleen16 GlobiqueIndexeurActif = Faux, GlobiqueOscillateurActif = Faux, CylindriqueIndexeurActif = Faux;
     Booleen16 LoiMouvActive = Faux, LoisLiqActive = Faux, LoiSpeActive = Faux, LoiMSHDisActive = Faux,
               LoiHesActive = Faux;
 };

@@ -37,15 +37,20 @@ Decimales DecomposeDecimales(double magnitude) {
     return d;
 }
 
-/// Rounds half away from zero to `decimales` digits behind the point.
-void ArronditDecimales(Decimales& d, int decimales) {
+/// Where a value goes that lies half way between two.
+enum class Moitie { LoinDeZero, VersPair };
+
+/// Rounds to `decimales` digits behind the point.
+void ArronditDecimales(Decimales& d, int decimales, Moitie moitie = Moitie::LoinDeZero) {
     const int gardes = d.exposant + decimales;
     if (gardes >= d.nombre) return;
     if (gardes < 0) {
         d = {};
         return;
     }
-    const bool monte = d.chiffres[gardes] >= '5';
+    const bool milieu = d.chiffres[gardes] == '5' && gardes + 1 == d.nombre;
+    const bool pair = (d[gardes - 1] - '0') % 2 == 0;
+    const bool monte = d.chiffres[gardes] >= '5' && !(milieu && pair && moitie == Moitie::VersPair);
     d.nombre = gardes;
     if (monte) {
         int i = gardes - 1;
@@ -149,6 +154,24 @@ std::string StrTrim(double valeur) {
     return texte;
 }
 
+std::string TexteCourt(double valeur) {
+    std::string texte = StrTrim(valeur);
+    const auto point = texte.find('.');
+    if (point == 0 || (point == 1 && texte.front() == '-')) texte.insert(point, 1, '0');
+    return texte;
+}
+
+std::string TexteArrondi(double valeur, int decimales) {
+    if (!std::isfinite(valeur) || std::abs(valeur) >= 1e15) return TexteCourt(valeur);
+    Decimales d = DecomposeDecimales(std::abs(valeur));
+    ArronditDecimales(d, decimales, Moitie::VersPair);
+    std::string texte = valeur < 0 && d.nombre > 0 ? "-" : "";
+    for (int i = std::max(1, d.exposant); i > 0; --i) texte += d[d.exposant - i];
+    if (d.nombre > d.exposant) texte += '.';
+    for (int i = d.exposant; i < d.nombre; ++i) texte += d[i];
+    return texte;
+}
+
 std::string Str(double valeur) {
     const std::string texte = StrTrim(valeur);
     return texte.front() == '-' ? texte : " " + texte;
@@ -180,6 +203,17 @@ std::string Format(double valeur, std::string_view masque) {
     std::string texte;
     AjouteFormat(texte, valeur, masque);
     return texte;
+}
+
+double Puissance(double base, double exposant) {
+    if (base == 0.0 && exposant < 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+    if (base < 0.0 && exposant != Int(exposant)) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+    return std::pow(base, exposant);
+}
+
+double Racine(double valeur) {
+    if (valeur < 0.0) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+    return std::sqrt(valeur);
 }
 
 std::string Trim(std::string_view texte) {

@@ -32,6 +32,13 @@ std::string Str(double valeur);
 /// `Str` without its leading blank.
 std::string StrTrim(double valeur);
 
+/// As `StrTrim`, with the zero before the point: "0.5".
+std::string TexteCourt(double valeur);
+
+/// `valeur` rounded half to even, on its shortest decimal digits, to so many digits behind the point; written as
+/// `TexteCourt`, so without zeros at its end: 8000, 7.5, 52.3.
+std::string TexteArrondi(double valeur, int decimales);
+
 /// Appends `StrTrim` of a value, or `Format` of it, for texts of many numbers.
 void AjouteStr(std::string& sortie, double valeur);
 void AjouteFormat(std::string& sortie, double valeur, std::string_view masque);
@@ -64,6 +71,14 @@ inline double Divise(double numerateur, double diviseur) {
     if (diviseur == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
     return numerateur / diviseur;
 }
+
+/// `base` to the power `exposant`.
+/// @throws ErreurExecution 0 to a negative power is a division by zero; a power without a real value is an incorrect
+/// argument.
+double Puissance(double base, double exposant);
+
+/// Square root. @throws ErreurExecution incorrect argument below 0.
+double Racine(double valeur);
 
 /// `texte` without the blanks at both ends.
 std::string Trim(std::string_view texte);

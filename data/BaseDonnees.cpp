@@ -154,11 +154,13 @@ BaseDonnees BaseDonnees::OuvreFichierBase(const std::filesystem::path& chemin, c
                                           Usage usage, const std::string& nom) {
     BaseDonnees base;
     const bool exclusif = usage == Usage::Exclusif;
-    base.base_ = OuvreFichier(chemin, motDePasse, exclusif ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+    // A reader, too, must be able to take back what a program that was killed had half written.
+    base.base_ = OuvreFichier(chemin, motDePasse, SQLITE_OPEN_READWRITE);
     const auto execute = [&](const char* sql) {
         if (sqlite3_exec(base.base_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) SignaleErreur(base.base_, nom);
     };
     execute(Chiffrement);
+    if (!exclusif) execute("PRAGMA query_only = ON");
     if (exclusif) {
         if (sqlite3_db_readonly(base.base_, "main") == 1) throw ErreurExecution(NumeroErreur::AccesFichier, nom);
         execute("PRAGMA locking_mode = EXCLUSIVE");

@@ -95,10 +95,13 @@ public:
     const Valeur& Champ(const std::string& nom) const;
     const Valeur& Champ(long position) const;
 
-    /// Starts a new record; `Ecrit` fills its fields, `Update` stores it at once.
+    /// Starts a new record; `Ecrit` fills its fields, `Update` stores it at once: when it returns the record is on the
+    /// disk, and a program that is killed before leaves the table as it was.
     void AddNew();
     void Ecrit(const std::string& nom, const Valeur& valeur);
-    /// @throws ErreurExecution access refused when the record cannot be stored (an existing key, a full disk).
+    /// @throws ErreurExecution access refused for an existing key and for a database opened for reading; database in
+    /// use
+    ///         by another program; disk full. The new record can then be stored again.
     void Update();
 
 private:

@@ -119,3 +119,28 @@ void DessineCamesConjuguees(Dessin& dessin) {
     plume.Pivot(pivot, 3.4);
     plume.Fleche(pivot, 13, -10, 70, true);
 }
+
+void DessineIndexeurConjugue(Dessin& dessin) {
+    PlumeCames plume(dessin);
+    const PointFigure came{-24, 0}, roue{28, 0};
+    constexpr int galets = 8;
+    constexpr double rayonRoue = 22, demiPas = 180.0 / galets;
+    // At rest the line of the shafts lies between two rollers, one on each cam.
+    const double x = 52 - rayonRoue * std::cos(demiPas / RadDeg), y = rayonRoue * std::sin(demiPas / RadDeg);
+    const double repos = std::hypot(x, y), direction = RadDeg * std::atan2(y, x);
+    const Primitif devant{repos - 9, 9, direction - 155}, derriere{repos - 9, 9, -direction - 155};
+    plume.Surface(derriere.Profil(came), Couleur::Primitif);
+    plume.Surface(devant.Profil(came), Couleur::Came);
+    std::vector<PointFigure> cachee = derriere.Profil(came);
+    cachee.push_back(cachee.front());
+    plume.Courbe(cachee, Couleur::Primitif, true);
+    plume.Pivot(came, 4);
+    plume.Fleche(came, 9, 20, 160);
+    plume.Disque(roue, rayonRoue, Couleur::Bras);
+    for (int i = 0; i < galets; ++i) {
+        const double angle = (180 + (2 * i + 1) * demiPas) / RadDeg;
+        DessineGalet(plume, {roue.x + rayonRoue * std::cos(angle), roue.y + rayonRoue * std::sin(angle)});
+    }
+    plume.Pivot(roue, 3.4);
+    plume.Fleche(roue, 10, 160, 20);
+}

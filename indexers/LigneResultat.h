@@ -18,3 +18,18 @@ struct GroupeResultats {
     std::string titre;
     std::vector<LigneResultat> lignes;
 };
+
+/// Results that stand in columns: capacities by share of inertia or by speed.
+struct TableResultats {
+    struct Rangee {
+        std::string libelle;
+        std::vector<LigneResultat> cellules; ///< one a column; their own captions are not shown
+    };
+    std::string titre;
+    std::vector<std::string> colonnes;
+    std::vector<Rangee> rangees;
+};
+
+/// What stands behind a value beyond its limit, so that neither a black and white page nor an eye that sees no red
+/// misses it.
+inline constexpr const char* MarqueRouge = "??";

@@ -55,16 +55,6 @@ void SegmentVitesseConstante(double x) {
     LoiCourse = g.Ca * (g.K4 * x + g.K7);
 }
 
-/// The percentage at the end of a custom law's name. With p the position (from 1) of "Spe_", the last p - 2 characters
-/// are the number: two of them behind "MS_Spe_", so that a one-digit percentage bears a blank in front.
-double PourcentageLoiSpe(const std::string& nomLoi) {
-    const auto place = nomLoi.find("Spe_");
-    const long p = place == std::string::npos ? 0 : static_cast<long>(place) + 1;
-    if (p < 2) throw ErreurExecution(NumeroErreur::AppelIncorrect, nomLoi);
-    const auto gardes = std::min(nomLoi.size(), static_cast<std::size_t>(p - 2));
-    return Val(std::string_view(nomLoi).substr(nomLoi.size() - gardes));
-}
-
 } // namespace
 
 Tableau<Loi> LitLois() {
@@ -97,6 +87,14 @@ bool EstLoiSpe(const std::string& nomLoi) {
     return place != std::string::npos && place > 0;
 }
 
+double PourcentageLoiSpe(const std::string& nomLoi) {
+    const auto place = nomLoi.find("Spe_");
+    const long p = place == std::string::npos ? 0 : static_cast<long>(place) + 1;
+    if (p < 2) throw ErreurExecution(NumeroErreur::AppelIncorrect, nomLoi);
+    const auto gardes = std::min(nomLoi.size(), static_cast<std::size_t>(p - 2));
+    return Val(std::string_view(nomLoi).substr(nomLoi.size() - gardes));
+}
+
 std::int16_t ChercheLoi(const std::string& nomLoi) {
     for (std::int16_t i = 1; i <= etude.lois.NombreLois && i <= etude.lois.ListeLois.BorneHaute(); ++i)
         if (etude.lois.ListeLois[i].NomLoi == nomLoi) return i;
@@ -117,6 +115,10 @@ void CalculeCoefs(Loi& loi, double pourcentage) {
     loi.CoefB = 0.0;
     loi.CoefC = 3.0 * loi.CoefA;
     loi.CoefD = c / 100.0;
+    CalculeMaxima(loi);
+}
+
+void CalculeMaxima(Loi& loi) {
     const double A = loi.CoefA, B = loi.CoefB, C = loi.CoefC;
     loi.Ca = Divise(4.0 * Pi * Pi, 4.0 * Pi * (C + A) * (1.0 - C) + 8.0 * (C * C - A * A) +
                                        B * (Pi * Pi * (2.0 - 2.0 * A - B) - 4.0 * Pi * C));

@@ -26,6 +26,11 @@ void AppliqueLoi(std::int16_t numeroZone);
 /// True for the name of a custom percentage: "Spe" at the second position or later.
 bool EstLoiSpe(const std::string& nomLoi);
 
+/// The percentage at the end of a custom law's name. With p the position (from 1) of "Spe_", the last p - 2 characters
+/// are the number: two of them behind "MS_Spe_", so that a one-digit percentage bears a blank in front.
+/// @throws ErreurExecution incorrect call for a name that cannot be cut.
+double PourcentageLoiSpe(const std::string& nomLoi);
+
 /// Subscript of the row of `ListeLois` whose name is exactly `nomLoi`, among 1..`NombreLois`; 0 when there is none.
 std::int16_t ChercheLoi(const std::string& nomLoi);
 
@@ -36,6 +41,10 @@ std::vector<std::string> NomsLoisZones();
 /// The coefficients of the modified sine with a share of constant speed.
 /// @param pourcentage of the interval at constant speed, 0 to less than 100
 void CalculeCoefs(Loi& loi, double pourcentage);
+
+/// `Ca` and `Cv` of a law by its four shares, so that the lift ends at 1.
+/// @throws ErreurExecution division by zero for shares that give no motion.
+void CalculeMaxima(Loi& loi);
 
 /// Evaluates any row into a table of subscripts 0..n, as `AppliqueLoi` does.
 /// @param n steps; @param symetrie 0..1

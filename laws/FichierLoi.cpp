@@ -10,10 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace {
-
-/// The three numbers of a line, cut at its first two ";". A line without them reads as zeros.
-PointLoi LitPoint(std::string_view ligne) {
+PointLoi LitPointLoi(std::string_view ligne) {
     const auto premier = ligne.find(';');
     if (premier == std::string_view::npos) return {};
     const auto second = ligne.find(';', premier + 1);
@@ -23,8 +20,6 @@ PointLoi LitPoint(std::string_view ligne) {
     return {Val(ligne.substr(0, premier)), std::abs(Val(ligne.substr(premier + 1, second - premier - 1))),
             std::abs(Val(ligne.substr(second + 1)))};
 }
-
-} // namespace
 
 std::string ComposeFichierLoi() {
     std::string contenu;
@@ -51,7 +46,7 @@ void LitLoi(std::string_view contenu) {
     Loi loi;
     loi.NomLoi = NomLoiFichier;
     for (long i = 1; i <= PointsLoiFichier; ++i) {
-        table[i] = LitPoint(lignes.Suivante());
+        table[i] = LitPointLoi(lignes.Suivante());
         loi.Cv = std::max(loi.Cv, table[i].Vitesse);
         loi.Ca = std::max(loi.Ca, table[i].Accel);
     }

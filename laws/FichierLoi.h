@@ -2,6 +2,8 @@
 // of points nor its stroke: a reader takes it as 720 points over a whole turn.
 #pragma once
 
+#include "core/Etude.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -26,3 +28,7 @@ void LitLoi(std::string_view contenu);
 /// A message about a law that is not there, with a line that says when the laws come back where a law file has replaced
 /// them.
 std::string AvecLoisRemplacees(const std::string& message);
+
+/// The three numbers of a line, cut at its first two ";", speed and acceleration without their signs. A line without ";"
+/// reads as zeros.
+PointLoi LitPointLoi(std::string_view ligne);

@@ -32,6 +32,9 @@ public:
     /// Saves what the active window holds.
     virtual void Enregistrer() {}
 
+    /// What the window asks before its pages are shown; false when the user gives up.
+    virtual bool PrepareImpression() { return true; }
+
     /// Prints what the active window holds, and ends the document; its title is the window's.
     virtual void Imprime(Imprimante&) const {}
 
@@ -61,6 +64,7 @@ signals:
     void FichierEnregistre(const QString& nom); ///< name without folder
     void Nouvelle(const QString& texte);        ///< to be told in the status line
     void ImpressionDemandee();                  ///< this window is to be printed
+    void Annonce(const QString& texte);         ///< for the status line
     void Quitte();                              ///< the window is given up
 
 protected:

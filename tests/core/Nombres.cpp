@@ -34,6 +34,28 @@ TEST(Nombres, StrWritesTheShortestDigits) {
     EXPECT_EQ(StrTrim(1234.5), "1234.5");
 }
 
+TEST(Nombres, ReportsRoundHalfToEvenOnTheShortestDigits) {
+    const struct {
+        double valeur;
+        int decimales;
+        const char* texte;
+    } cas[] = {{8000, 1, "8000"},       {7.5, 2, "7.5"},   {52.25, 1, "52.2"}, {52.35, 1, "52.4"}, {2.675, 2, "2.68"},
+               {0.125, 2, "0.12"},      {0.5, 0, "0"},     {1.5, 0, "2"},      {-0.004, 2, "0"},   {-0.25, 1, "-0.2"},
+               {99.9951, 2, "100"},     {0.05, 1, "0"},    {0.15, 1, "0.2"},   {1e-9, 3, "0"},     {2e15, 2, "2E+15"},
+               {-123.456, 1, "-123.5"}, {0.0501, 1, "0.1"}};
+    for (const auto& c : cas) EXPECT_EQ(TexteArrondi(c.valeur, c.decimales), c.texte) << c.valeur;
+    EXPECT_EQ(TexteCourt(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(TexteCourt(-0.25), "-0.25");
+    EXPECT_EQ(TexteCourt(50), "50");
+}
+
+TEST(Nombres, PowersWithoutARealValueFail) {
+    EXPECT_THROW(Puissance(0, -3), ErreurExecution);
+    EXPECT_THROW(Puissance(-2, 0.3), ErreurExecution);
+    EXPECT_EQ(Puissance(-2, -3), -0.125);
+    EXPECT_THROW(Racine(-1e-300), ErreurExecution);
+}
+
 TEST(Nombres, StrReadsBackToTheSameDouble) {
     std::mt19937_64 hasard(7);
     std::uniform_real_distribution<double> mantisse(-10, 10), exposant(-40, 40);

@@ -1,0 +1,187 @@
+#include "conjugate/IndexeurConjugue.h"
+
+#include "conjugate/ExempleConjugue.h"
+#include "conjugate/InertiePropre.h"
+#include "conjugate/TextesConjugue.h"
+#include "core/Etude.h"
+#include "outils/Catalogue.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+class IndexeurConjugue : public AvecCatalogue {
+protected:
+    SaisieConjugue saisie = ExempleConjugue();
+    ResultatConjugue r;
+
+    const ResultatConjugue& Calcule() {
+        CalculeIndexeurConjugue(saisie, r);
+        return r;
+    }
+    NumeroErreur Echec() {
+        try {
+            Calcule();
+        } catch (const ErreurExecution& erreur) {
+            EXPECT_EQ(r.Erreur, Vrai);
+            return erreur.numero;
+        }
+        return {};
+    }
+    /// The line that begins so; empty without one.
+    std::string Ligne(const std::string& debut) const {
+        const auto l = std::find_if(r.lignes.begin(), r.lignes.end(),
+                                    [&](const std::string& ligne) { return ligne.starts_with(debut); });
+        return l == r.lignes.end() ? std::string() : *l;
+    }
+    bool Note(int numero) const { return std::find(r.notes.begin(), r.notes.end(), Texte(numero)) != r.notes.end(); }
+};
+
+} // namespace
+
+TEST_F(IndexeurConjugue, CapacitiesFollowFromTheContact) {
+    ASSERT_EQ(Calcule().Erreur, Faux);
+    const auto& c = *r.capacite;
+    const double h = Pi / 8, RCF = std::sqrt(100.25 * 100.25 + 42 * 42 - 2 * 100.25 * 42 * std::cos(h));
+    EXPECT_NEAR(r.repos->RSD, RCF - 13, 1e-12);
+    EXPECT_NEAR(r.repos->SR, (RCF - 13) / 13, 1e-12);
+    EXPECT_NEAR(c.premier.contact.RCF, RCF, 1e-12) << "the modified sine has not turned yet";
+    EXPECT_NEAR(std::tan(r.repos->PAD / RadDeg), (100.25 * std::cos(h) - 42) / (100.25 * std::sin(h)), 1e-12);
+    // 2200 pounds per square inch on the roller's section, at the arm of its axis.
+    const double couple = 2200 / 2.2046 * 9.81 / 645.16 * 26 * 15 * 0.042;
+    EXPECT_NEAR(c.C55d, couple * std::cos(r.repos->PAD / RadDeg), 1e-9);
+    EXPECT_NEAR(c.premier.C60, 1.25 * couple * std::cos(c.premier.contact.PA / RadDeg), 1e-9);
+    EXPECT_NEAR(c.LimiteStatique, 10350 * 0.042 * std::cos(r.repos->PAD / RadDeg), 1e-9);
+    EXPECT_NEAR(c.Fu, std::pow(150.5 / 1440 + std::pow(0.5, 10.0 / 3) * (360 - 150.5 + 45) / 1440, -0.3), 1e-12)
+        << "eight stops: four cycles of twice the angle";
+    ASSERT_EQ(r.tableau.size(), 6U);
+    for (const auto& ligne : r.tableau) {
+        EXPECT_NEAR(ligne.DynB50 / ligne.DynB10, std::pow(4, 0.3), 1e-12);
+        EXPECT_EQ(ligne.Catalogue, std::min(ligne.C60x, ligne.DynB50));
+        EXPECT_NEAR(ligne.DynB10 / r.tableau[1].DynB10, std::pow(ligne.Ipm / 100, -0.3), 1e-12) << "with the speed";
+    }
+    // The two lines of the report go up with the cube of the speed.
+    const double dyn = c.premier.DynB10;
+    saisie.Ipm *= 1.5;
+    EXPECT_NEAR(Calcule().capacite->premier.DynB10 / dyn, 1.5 * 1.5 * 1.5, 1e-12);
+}
+
+TEST_F(IndexeurConjugue, ReportStandsLineByLine) {
+    saisie.A = 150.125;
+    Calcule();
+    ASSERT_EQ(r.lignes.size(), 57U);
+    EXPECT_EQ(r.lignes[0], "Entre axes                   (Q) =100.25 mm");
+    EXPECT_EQ(r.lignes[4], "Angle d'indexage             (A) =150.125 Degrés");
+    EXPECT_EQ(r.lignes[7], "Partie à vitesse constante   (W) =0.25");
+    EXPECT_EQ(r.lignes[9], "Indexages par minute         (Ipm) =99.5");
+    EXPECT_EQ(r.lignes[10], "Rayon de courbure maxi :" + TexteArrondi(r.courbures->RayonMaxi, 2) +
+                                " , Rayon de courbure mini :" + TexteArrondi(r.courbures->RayonMini, 2));
+    EXPECT_EQ(r.lignes[11], "  ");
+    EXPECT_EQ(r.lignes[23], "   ");
+    EXPECT_EQ(r.lignes[25], "  PAD     RDS     PA   @ T = 14.07 deg  RCF      SR     FU      BLR");
+    const auto colonne = [&](const char* titre) { return r.lignes[26].substr(r.lignes[25].find(titre)); };
+    EXPECT_EQ(Val(colonne("RDS")), Val(TexteArrondi(r.repos->RSD, 1)));
+    EXPECT_EQ(Val(colonne("RCF")), Val(TexteArrondi(r.capacite->premier.contact.RCF, 1)));
+    EXPECT_EQ(colonne("BLR"), "7750");
+    EXPECT_EQ(r.lignes[31], "CAM SURFACE LIMIT @ RC55 :   AT DWELL  : " + TexteArrondi(r.capacite->C55d, 1));
+    EXPECT_EQ(r.lignes[34], "CAM SURFACE LIMIT @ RC60 :   AT DWELL  : " + TexteCourt(r.capacite->C60d) + " Nm");
+    EXPECT_EQ(Ligne(" FOR  8000 HRB B10"), " FOR  8000 HRB B10 BEARING LIFE @99.5 INDEXES PER MINUTE");
+    EXPECT_EQ(Ligne(" FOR  8000 HRB B50"), " FOR  8000 HRB B50 = 2000 HRB B10 BEARING LIFE");
+    const LigneCapacite& derniere = r.tableau.back();
+    EXPECT_EQ(r.lignes.back(), "     500        " + std::to_string(static_cast<int>(derniere.C60x)) + "       " +
+                                   std::to_string(static_cast<int>(derniere.DynB10)) + "       " +
+                                   std::to_string(static_cast<int>(derniere.DynB50)) + "     " +
+                                   std::to_string(static_cast<int>(derniere.Catalogue)) + "     " +
+                                   std::to_string(static_cast<int>(derniere.Catalogue - derniere.Propre)) + "  ");
+    saisie.Q = 160;
+    EXPECT_EQ(Calcule().tableau.size(), 7U) << "slower and finer from 160 mm on";
+    EXPECT_EQ(r.tableau.front().Ipm, 25);
+}
+
+TEST_F(IndexeurConjugue, TheSecondContactAddsItsLines) {
+    saisie.Loi = "MT";
+    saisie.M = 60.5;
+    saisie.N = 1;
+    saisie.D = 2;
+    saisie.F = 4;
+    saisie.VitesseGraisse = 20000;
+    ASSERT_EQ(Calcule().Erreur, Faux) << r.motif;
+    const auto& c = *r.capacite;
+    ASSERT_LT(c.phi2, 0);
+    EXPECT_EQ(r.lignes.size(), 57U + 5U);
+    EXPECT_EQ(r.lignes[27], std::string(16, ' ') + TexteArrondi(c.second.contact.PA, 2) + std::string(18, ' ') +
+                                TexteArrondi(c.second.contact.RCF, 1));
+    EXPECT_EQ(r.lignes[38], std::string(38, ' ') + TexteArrondi(c.second.C60, 1) + " Nm");
+    EXPECT_EQ(Ligne(std::string(16, ' ') + TexteCourt(c.second.DynB50)),
+              std::string(16, ' ') + TexteCourt(c.second.DynB50) + "Nm");
+    EXPECT_NEAR(c.second.DynB10 / c.premier.DynB10, c.second.C55 / c.premier.C55, 1e-12) << "the cosines alone";
+}
+
+TEST_F(IndexeurConjugue, OwnInertiaIsKnownForCertainMechanismsOnly) {
+    const struct {
+        double M, R, N, Q, A, K, J;
+    } cas[] = {
+        {8, 42, 4, 100, 150, 5.53, 0.006},      {8, 42, 4, 100, 150.5, 0, 0.006}, {10, 17.5, 1, 80, 300, 8.01, 0.0026},
+        {6, 59, 0.75, 200, 77.5, 6.62, 0.0672}, {8, 56, 2, 125, 270, 5.53, 0.21}, {8, 89, 4, 200, 150, 5.53, 0},
+        {8, 60, 4, 250, 150, 5.53, 0},          {89, 8, 4, 200, 150, 5.53, 0},
+    };
+    for (const auto& c : cas)
+        EXPECT_NEAR(Eig_mom(c.M, c.R, c.N, c.Q, c.A, 120.5), 226.1947 * c.K * 120.5 * 120.5 / (c.A * c.A * c.N) * c.J,
+                    1e-12)
+            << c.Q << " " << c.M;
+    EXPECT_NEAR(Eig_mom(8, 42, 8, 100, 75, 120.5), 226.1947 * 5.53 * 120.5 * 120.5 / (150 * 150 * 8) * 0.006, 1e-12)
+        << "eight stops: twice the angle";
+    EXPECT_EQ(Eig_mom(8, 42, 8, 100, 180, 120.5), 0) << "360 degrees are beyond the table";
+    Calcule();
+    EXPECT_TRUE(Note(TexteNoteInertieInconnue)) << "not at 100.25 mm";
+    saisie.Q = 100;
+    saisie.A = 150;
+    Calcule();
+    EXPECT_TRUE(Note(TexteNoteColonnePropre));
+}
+
+TEST_F(IndexeurConjugue, StopsKeepTheLinesWrittenSoFar) {
+    saisie.VitesseGraisse = r.lignes.empty() ? 100 : 0;
+    Calcule();
+    EXPECT_EQ(r.Erreur, Vrai);
+    EXPECT_EQ(r.lignes.size(), 25U);
+    ASSERT_TRUE(r.arret);
+    EXPECT_EQ(r.arret->texte, "VITESSE LIMITE DES GALETS ATTEINTE");
+    EXPECT_EQ(r.arret->icone, Icone::Critique);
+    EXPECT_EQ(r.arret->champ, "Ipm");
+    EXPECT_FALSE(r.capacite);
+
+    saisie = ExempleConjugue();
+    saisie.D = 95;
+    Calcule();
+    EXPECT_EQ(r.Erreur, Vrai);
+    EXPECT_TRUE(r.lignes.empty());
+    EXPECT_FALSE(r.arret) << "without a box";
+    EXPECT_NE(std::find(r.notes.begin(), r.notes.end(), r.motif), r.notes.end()) << "but beside the report";
+}
+
+TEST_F(IndexeurConjugue, WhatCannotBeCalculatedNamesItsEntry) {
+    const std::pair<double SaisieConjugue::*, const char*> nuls[] = {
+        {&SaisieConjugue::Q, "Q"}, {&SaisieConjugue::M, "M"},     {&SaisieConjugue::N, "N"},
+        {&SaisieConjugue::A, "A"}, {&SaisieConjugue::Ipm, "Ipm"}, {&SaisieConjugue::D, "D"}};
+    for (const auto& [membre, nom] : nuls) {
+        saisie = ExempleConjugue();
+        saisie.*membre = 0;
+        EXPECT_EQ(Echec(), NumeroErreur::DivisionParZero) << nom;
+        ASSERT_TRUE(ChercheFauteConjugue(saisie)) << nom;
+        EXPECT_EQ(ChercheFauteConjugue(saisie)->champ, nom);
+    }
+    EXPECT_EQ(r.lignes.size(), 25U) << "the size of the roller is needed behind the explanations";
+    saisie = ExempleConjugue();
+    saisie.W = 1;
+    EXPECT_EQ(Echec(), NumeroErreur::DivisionParZero);
+    saisie = ExempleConjugue();
+    saisie.M = 40000;
+    EXPECT_EQ(Echec(), NumeroErreur::Depassement);
+    saisie = ExempleConjugue();
+    saisie.A = -900;
+    EXPECT_EQ(Echec(), NumeroErreur::AppelIncorrect) << "the usage of the rollers has no real power";
+    EXPECT_EQ(r.courbures->RayonMini, 1000000) << "no point of a track";
+    EXPECT_FALSE(ChercheFauteConjugue(ExempleConjugue()));
+}

@@ -1,5 +1,6 @@
 #include "app/Ecrans.h"
 
+#include "cylindrical/screens/CylindriqueIndexeur.h"
 #include "cylindrical/screens/DoCyl.h"
 #include "cylindrical/screens/DoCylOsc.h"
 #include "laws/screens/EcranLoi.h"
@@ -31,6 +32,7 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
 };
 // clang-format on
 

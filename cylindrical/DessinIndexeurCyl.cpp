@@ -34,7 +34,7 @@ struct Vue {
         etendue = {{0, -demiLargeur}, {perimetre, demiLargeur}};
         etendue.Contient(tourelle, d.RayonTourelle);
         for (const double y : {-q, q}) etendue.Contient({0, y}, d.DiametreGalet / 2.0);
-        etendue.Contient({perimetre, 0}, demiLargeur == 0.0 ? 1.0 : 0.0);
+        etendue.Contient({perimetre, 0}, d.DiametreGalet / 2.0);
     }
 };
 
@@ -70,17 +70,35 @@ void DessineTourelle(PlanDessin& plan, const IndexeurCylindrique& d, const Vue& 
     }
 }
 
+/// The path of a roller: where it is out of engagement for some degrees, the line begins anew.
+class Voie {
+public:
+    void Ajoute(long ligne, PointDessin centre) {
+        // Past an angle that is not whole every second row may be empty.
+        if (ligne > derniere_ + 2) morceaux_.emplace_back();
+        morceaux_.back().push_back(centre);
+        derniere_ = ligne;
+    }
+    void Trace(PlanDessin& plan, double epaisseur) const {
+        for (const auto& morceau : morceaux_) plan.Contour(morceau, {Couleur::Primitif, 1.5 * epaisseur}, false);
+    }
+
+private:
+    std::vector<std::vector<PointDessin>> morceaux_;
+    long derniere_ = -3;
+};
+
 /// The rollers at every degree, and the paths of the first two.
 void DessineGalets(PlanDessin& plan, const IndexeurCylindrique& d, const ResultatIndexeurCylindrique& r,
                    double epaisseur) {
-    std::vector<PointDessin> voies[2];
+    Voie voies[2];
     for (long i = 1; i <= r.Grille.BorneHaute(); ++i)
         for (std::size_t j = 1; j + 1 < r.Grille[i].size(); ++j)
             if (const auto centre = LitPosition(r.Grille[i][j])) {
                 plan.Cercle(*centre, d.DiametreGalet / 2.0, {CouleurNumero(static_cast<int>(j) - 1), 0.5 * epaisseur});
-                if (j <= 2) voies[j - 1].push_back(*centre);
+                if (j <= 2) voies[j - 1].Ajoute(i, *centre);
             }
-    for (const auto& voie : voies) plan.Contour(voie, {Couleur::Primitif, 1.5 * epaisseur}, false);
+    for (const Voie& voie : voies) voie.Trace(plan, epaisseur);
 }
 
 void DessineNoms(Dessin& dessin, const ResultatIndexeurCylindrique& r, double hauteurTexte, double epaisseur) {

@@ -199,7 +199,7 @@ double LitY(const std::string& cellule) {
 }
 
 /// Between the first roller that stands off the middle and the one beside it. The first height is taken with its sign,
-/// and past the motion rollers count that have left the cam, both on purpose; notes say so.
+/// a roller alone in engagement and one that has left the cam count, too, all on purpose; notes say so.
 void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
     for (long i = 1; i < DegresGrille; ++i) {
         auto& ligne = r.Grille[i];
@@ -211,7 +211,7 @@ void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
         if (y == 0.0) y2 = 0.0;
         ligne.back() = Format(std::abs(y2) + y - d.DiametreGalet, "000.000");
     }
-    if (r.AngleIndexage < 360.0) r.notes.push_back(Texte(TexteEpaisseurArret));
+    r.notes.push_back(Texte(TexteEpaisseurProfil));
     if (d.Sens < 0.0) r.notes.push_back(Texte(TexteEpaisseurGauche));
 }
 

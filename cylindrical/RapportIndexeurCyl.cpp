@@ -22,7 +22,7 @@ std::string Designation(const std::string& designation) {
 
 std::string Rangee(const std::vector<std::string>& cellules) {
     std::string rangee = Espaces(MargeTable);
-    for (const std::string& cellule : cellules) rangee += CadreAGauche(cellule, LargeurColonne);
+    for (const std::string& cellule : cellules) rangee += cellule + Espaces(LargeurColonne - NombreCaracteres(cellule));
     return rangee;
 }
 

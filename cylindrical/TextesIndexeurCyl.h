@@ -2,7 +2,7 @@
 #pragma once
 
 enum TextesIndexeurCyl {
-    TexteEpaisseurArret = 803,  ///< in the dwell the rib counts rollers that have left the cam
+    TexteEpaisseurProfil = 803, ///< the rib counts a roller alone in engagement, and in the dwell some that have left
     TexteEpaisseurGauche = 804, ///< on a cam to the left the rib is no mirror of that to the right
     TexteScriptCourt = 805,     ///< the script ends with its first row
     TexteLargeurCentres = 806,  ///< the width that the roller centres use

@@ -86,7 +86,7 @@ QWidget* CylindriqueIndexeur::FaitSens() {
 
 QWidget* CylindriqueIndexeur::FaitDeveloppee() {
     dimensions_ = new PanneauResultats;
-    dimensions_->setMaximumWidth(340);
+    dimensions_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     dessin_ = Nomme(new ZoneDessin, "Graphe");
     auto* page = new QWidget;
     auto* rangee = new QHBoxLayout(page);
@@ -129,7 +129,7 @@ void CylindriqueIndexeur::MontreResultats() {
     if (donnees_.DeFichier()) MontreSansPerimer("AngleIndexage", resultat_.AngleIndexage);
     dimensions_->Montre({DimensionsIndexeurCylindrique(donnees_, resultat_)}, {}, resultat_.notes);
     notes_->Montre({}, {}, resultat_.notes);
-    // The drawing has its own inputs: those that stand in the fields may change before it is painted again.
+    // The record is read anew before the next calculation: the drawing keeps what it shows.
     dessin_->Peint([donnees = donnees_, this](Dessin& dessin) {
         DessineDeveloppee(dessin, donnees, resultat_, HauteurTexte, TraitFin);
     });

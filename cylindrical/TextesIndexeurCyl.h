@@ -4,9 +4,9 @@
 enum TextesIndexeurCyl {
     TexteEpaisseurProfil = 803, ///< the rib counts a roller alone in engagement, and in the dwell some that have left
     TexteEpaisseurGauche = 804, ///< on a cam to the left the rib is no mirror of that to the right
-    TexteScriptCourt = 805,     ///< the script ends with its first row
-    TexteLargeurCentres = 806,  ///< the width that the roller centres use
-    TexteTropLarge = 807,       ///< wider than the casing takes
-    TexteSansNervure = 808,     ///< rollers that leave no rib between them
-    TexteDeveloppee = 809,
+    TexteScriptCourt = 873,     ///< the script ends with its first row
+    TexteLargeurCentres = 874,  ///< the width that the roller centres use
+    TexteTropLarge = 875,       ///< wider than the casing takes
+    TexteSansNervure = 876,     ///< rollers that leave no rib between them
+    TexteDeveloppee = 877,
 };

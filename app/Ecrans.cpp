@@ -1,6 +1,7 @@
 #include "app/Ecrans.h"
 
 #include "conjugate/screens/CamesConjugueesIndexeur.h"
+#include "cylindrical/screens/CylindriqueIndexeur.h"
 #include "cylindrical/screens/DoCyl.h"
 #include "cylindrical/screens/DoCylOsc.h"
 #include "laws/screens/EcranLoi.h"
@@ -32,6 +33,7 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
 };
 // clang-format on

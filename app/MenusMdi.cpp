@@ -33,9 +33,11 @@ struct EntreeDeroulante {
 };
 
 constexpr EntreeDeroulante LesEtudes[] = {
-    {"NouveauAngulaire", "Image1"},   {"NouveauLineaire", "Image2"},         {"NouveauCylindre", "Image3"},
-    {"NouveauOscillation", "Image7"}, {"NouveauGlobiqueIndexeur", "Image8"}, {"NouveauGlobiqueOscillateur", "Image6"},
-    {"NouveauConjug", "Image11"},     {"NouveauConjugIndexeur", "Image10"},
+    {"NouveauAngulaire", "Image1"},        {"NouveauLineaire", "Image2"},
+    {"NouveauCylindre", "Image3"},         {"NouveauOscillation", "Image7"},
+    {"NouveauGlobiqueIndexeur", "Image8"}, {"NouveauGlobiqueOscillateur", "Image6"},
+    {"NouveauConjug", "Image11"},          {"NouveauCylindriqueIndexeur", "Image9"},
+    {"NouveauConjugIndexeur", "Image10"},
 };
 
 constexpr EntreeDeroulante LesOuvertures[] = {

@@ -3,7 +3,9 @@
 #include "core/Lignes.h"
 #include "data/Textes.h"
 
+#include <chrono>
 #include <cmath>
+#include <ctime>
 
 namespace {
 
@@ -72,6 +74,13 @@ std::string TraceTourelle(const IndexeurCylindrique& donnees, double pasGalets) 
 }
 
 } // namespace
+
+std::string DateEnChiffres() {
+    const std::time_t maintenant = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    const std::tm* date = std::localtime(&maintenant);
+    return Format(date->tm_mday, "00") + " " + Format(date->tm_mon + 1, "00") + " " +
+           Format(date->tm_year + 1900, "0000");
+}
 
 std::string ComposeTam(const TexteSaisi& saisi, double sens, const std::string& date) {
     std::string contenu = std::string("Came tambour indexée") + FinDeLigne;

@@ -10,6 +10,9 @@
 /// The text as typed into the field of an input, by the name of the record's member.
 using TexteSaisi = std::function<std::string(const char* champ)>;
 
+/// The date of the day, "dd mm yyyy".
+std::string DateEnChiffres();
+
 /// The record (.Tam): a line "label : value" an input.
 /// @param date today, "dd mm yyyy"
 /// @param sens of rotation, +1 or -1

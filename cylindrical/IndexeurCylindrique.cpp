@@ -19,6 +19,7 @@ const Champ<Fiche> champs[] = {
     {"CapaciteArbre", "Text12", 560, UniteNm, &Fiche::CapaciteArbre, nullptr, NulOuNegatif, 678},
     {"CameDiam", "Text20", 401, UniteMm, &Fiche::CameDiam, nullptr, NulOuNegatif, 679},
     {"CameMaxLarg", "Text21", 402, UniteMm, &Fiche::CameMaxLarg, nullptr, NulOuNegatif, 680},
+    {"Boitier", nullptr, 593, 0, &Fiche::Boitier},
     {"NombreStops", "Text5", 269, 0, &Fiche::NombreStops, nullptr, NulOuNegatif, 681},
     {"NombreGalets", "Text6", 596, 0, &Fiche::NombreGalets},
     {"AngleIndexage", "Text7", 270, UniteDegresMajuscule, &Fiche::AngleIndexage},
@@ -34,6 +35,24 @@ const Champ<Fiche> champs[] = {
     {"HauteurGalet", "Text9", 244, UniteMm, &Fiche::HauteurGalet},
     {"CapaciteB10", "Text10", 565, UniteN, &Fiche::CapaciteB10},
     {"CapaciteLimite", "Text11", 566, UniteN, &Fiche::CapaciteLimite},
+    {"codemi", nullptr, 289, 0, &Fiche::codemi},
+};
+
+const ChampCatalogue champsMecanismes[] = {
+    {"Entraxe", "Entraxe", false, true, 547},
+    {"RayonTourelle", "RayonTourelle"},
+    {"InertieTourelle", "InertieTourelle", true, true, 549},
+    {"CapaciteArbre", "CapacitéArbreEntree", true},
+    {"CameDiam", "CameDiam", true},
+    {"CameMaxLarg", "CameMaxLarg", true},
+    {"Boitier", "Boitier"},
+};
+const ChampCatalogue champsGalets[] = {
+    {"DiametreGalet", "DiametreGalet", false, true, 542},
+    {"HauteurGalet", "HauteurGalet", false, true, 543},
+    {"CapaciteB10", "CapaciteB10", false, true, 544},
+    {"CapaciteLimite", "CapaciteLimite", false, true, 545},
+    {"codemi", "codemi", false, false}, // a new roller has no code
 };
 
 constexpr double GaletsMini = 5;
@@ -180,7 +199,7 @@ double LitY(const std::string& cellule) {
 }
 
 /// Between the first roller that stands off the middle and the one beside it. The first height is taken with its sign,
-/// and past the motion rollers count that have left the cam, both on purpose; notes say so.
+/// a roller alone in engagement and one that has left the cam count, too, all on purpose; notes say so.
 void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
     for (long i = 1; i < DegresGrille; ++i) {
         auto& ligne = r.Grille[i];
@@ -192,7 +211,7 @@ void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
         if (y == 0.0) y2 = 0.0;
         ligne.back() = Format(std::abs(y2) + y - d.DiametreGalet, "000.000");
     }
-    if (r.AngleIndexage < 360.0) r.notes.push_back(Texte(TexteEpaisseurArret));
+    r.notes.push_back(Texte(TexteEpaisseurProfil));
     if (d.Sens < 0.0) r.notes.push_back(Texte(TexteEpaisseurGauche));
 }
 
@@ -200,6 +219,17 @@ void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
 
 std::span<const Champ<IndexeurCylindrique>> ChampsIndexeurCylindrique() {
     return champs;
+}
+
+const Catalogue& CatalogueMecanismesCylindriques() {
+    static const Catalogue catalogue{"Table Mecanismes Cylindriques", "Modele", "Modele", champsMecanismes, 546, {550}};
+    return catalogue;
+}
+
+const Catalogue& CatalogueGalets() {
+    static const Catalogue catalogue{
+        "Table Galets", "ReferenceGalet", "ReferenceGalet", champsGalets, 541, {673, 509}, true};
+    return catalogue;
 }
 
 std::optional<FauteSaisie> ChercheFauteIndexeurCylindrique(const IndexeurCylindrique& donnees) {
@@ -222,6 +252,24 @@ ResultatIndexeurCylindrique CalculeIndexeurCylindrique(const IndexeurCylindrique
     positions.Repos();
     EpaisseurProfil(donnees, resultat);
     return resultat;
+}
+
+GroupeResultats DimensionsIndexeurCylindrique(const IndexeurCylindrique& d, const ResultatIndexeurCylindrique& r) {
+    const auto mm = [](const char* controle, int texte, double valeur) {
+        return LigneResultat{controle, Texte(texte), TexteArrondi(valeur, 3), Texte(UniteMm)};
+    };
+    LigneResultat largeur = mm("Label15", 407, r.LargeurCameAffichee);
+    largeur.rouge = r.LargeurCameAffichee > d.CameMaxLarg;
+    if (largeur.rouge) largeur.note = Texte(TexteTropLarge);
+    LigneResultat epaisseur = mm("Label21", 410, r.EpaisseurStationnaire);
+    epaisseur.rouge = r.EpaisseurStationnaire <= 0.0;
+    if (epaisseur.rouge) epaisseur.note = Texte(TexteSansNervure);
+    return {Texte(574),
+            {largeur,
+             mm("LargeurCentres", TexteLargeurCentres, r.LargeurCame),
+             {"Label16", Texte(408), std::to_string(r.GaletsUtilises), {}},
+             {"Label20", Texte(409), TexteCourt(r.NombreEntrees), {}},
+             epaisseur}};
 }
 
 std::optional<PointDessin> LitPosition(const std::string& cellule) {

@@ -8,7 +8,9 @@
 
 #include "core/Champ.h"
 #include "core/Tableau.h"
+#include "indexers/Catalogue.h"
 #include "indexers/FauteSaisie.h"
+#include "indexers/LigneResultat.h"
 #include "indexers/SourceLoi.h"
 #include "platform/Dessin.h"
 
@@ -31,6 +33,7 @@ struct IndexeurCylindrique : SourceLoi {
     std::string ReferenceGalet;
     double DiametreGalet = 0, HauteurGalet = 0;
     double CapaciteB10 = 0, CapaciteLimite = 0; ///< of the roller, N
+    double Boitier = 0, codemi = 0;             ///< codes of casing and roller in their catalogues
 };
 
 /// The inputs, in the order in which they are checked: casing, sizes of the motion, law, roller.
@@ -59,6 +62,10 @@ struct ResultatIndexeurCylindrique {
 /// Rows of the table of positions below its heading.
 inline constexpr long DegresGrille = 361;
 
+/// The catalogues of its casings and of its rollers.
+const Catalogue& CatalogueMecanismesCylindriques();
+const Catalogue& CatalogueGalets();
+
 /// The first fault of the entries; none when all will do. A law file without a path has no text of its own.
 /// @throws ErreurExecution overflow for a number of rollers or of starts beyond 16 bits.
 std::optional<FauteSaisie> ChercheFauteIndexeurCylindrique(const IndexeurCylindrique& donnees);
@@ -67,6 +74,11 @@ std::optional<FauteSaisie> ChercheFauteIndexeurCylindrique(const IndexeurCylindr
 /// @param lois rows 1.. of the catalogue
 /// @throws ErreurExecution an unknown law; a share c of 0; a law file that is too long or cannot be read.
 ResultatIndexeurCylindrique CalculeIndexeurCylindrique(const IndexeurCylindrique& donnees, const Tableau<Loi>& lois);
+
+/// The sizes of the cam, in the order of its screen. A width that the casing does not take and a rib that is none are
+/// beyond their limit.
+GroupeResultats DimensionsIndexeurCylindrique(const IndexeurCylindrique& donnees,
+                                              const ResultatIndexeurCylindrique& resultat);
 
 /// The roller centre that a cell of the table tells; none for an empty cell and for a thickness.
 std::optional<PointDessin> LitPosition(const std::string& cellule);

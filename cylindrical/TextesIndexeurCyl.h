@@ -2,6 +2,11 @@
 #pragma once
 
 enum TextesIndexeurCyl {
-    TexteEpaisseurArret = 844,  ///< in the dwell the rib counts rollers that have left the cam
+    TexteEpaisseurProfil = 844, ///< the rib counts a roller alone in engagement, and in the dwell some that have left
     TexteEpaisseurGauche = 845, ///< on a cam to the left the rib is no mirror of that to the right
+    TexteScriptCourt = 873,     ///< the script ends with its first row
+    TexteLargeurCentres = 874,  ///< the width that the roller centres use
+    TexteTropLarge = 875,       ///< wider than the casing takes
+    TexteSansNervure = 876,     ///< rollers that leave no rib between them
+    TexteDeveloppee = 877,
 };

@@ -20,7 +20,16 @@ enum class Couleur {
     Galet,
     Bras,
     Repere, ///< a mark that catches the eye: the shown angle, an arrow
+    Numero, ///< the first of the colours by number, `CouleurNumero`
 };
+
+/// Colours that tell things of one kind apart by their number.
+inline constexpr int NombreCouleurs = 16;
+
+/// The colour of a number; behind the last one they begin again. @param numero from 0
+inline Couleur CouleurNumero(int numero) {
+    return static_cast<Couleur>(static_cast<int>(Couleur::Numero) + numero % NombreCouleurs);
+}
 
 struct PointDessin {
     double x = 0;

@@ -42,6 +42,27 @@ constexpr std::array<Teintes, 12> LesTeintes{{
     {Couleur::Repere, 0xCB1528, 0xFF7B86},
 }};
 
+/// The sixteen colours by number, in the order of the old displays: black, blue, green, cyan, red, magenta, brown,
+/// grey, and the same once more, brighter. Each stands out on its sheet.
+constexpr std::array<std::pair<QRgb, QRgb>, NombreCouleurs> LesNumeros{{
+    {0x1B1E23, 0xF0F2F5},
+    {0x1238B0, 0x7FA8FF},
+    {0x0B7A2F, 0x5BD483},
+    {0x007A87, 0x55D6E2},
+    {0xB01622, 0xFF7B86},
+    {0x8E1A8E, 0xEE8CEE},
+    {0x8A5A00, 0xE0B25C},
+    {0x7A828C, 0xB9C0C9},
+    {0x4A515B, 0x98A1AD},
+    {0x3F74F2, 0xA9C4FF},
+    {0x2AA84F, 0x93EBB0},
+    {0x0FA3B5, 0x97EFF7},
+    {0xE8434F, 0xFFADB4},
+    {0xC640C6, 0xFFB8FF},
+    {0xA88B00, 0xFFEB85},
+    {0x9AA1AB, 0xDDE2E8},
+}};
+
 bool FeuilleSombre(const QPalette& palette) {
     return palette.color(QPalette::Base).lightness() < 128;
 }
@@ -71,9 +92,16 @@ double Longueur(const std::vector<QPointF>& points) {
 } // namespace
 
 QColor CouleurTrait(Couleur couleur, const QPalette& palette) {
+    const auto opaque = [&](QRgb claire, QRgb sombre) {
+        return QColor::fromRgb(0xFF000000U | (FeuilleSombre(palette) ? sombre : claire));
+    };
+    if (couleur >= Couleur::Numero) {
+        const auto [claire, sombre] =
+            LesNumeros.at(static_cast<std::size_t>(couleur) - static_cast<std::size_t>(Couleur::Numero));
+        return opaque(claire, sombre);
+    }
     for (const Teintes& teintes : LesTeintes)
-        if (teintes.couleur == couleur)
-            return QColor::fromRgb(0xFF000000U | (FeuilleSombre(palette) ? teintes.sombre : teintes.claire));
+        if (teintes.couleur == couleur) return opaque(teintes.claire, teintes.sombre);
     return palette.color(QPalette::Text);
 }
 

@@ -62,6 +62,10 @@ QWidget* PanneauLoi::FaitCoefs() {
     ok_->setAutoDefault(true);
     connect(ok_, &QPushButton::clicked, this, &PanneauLoi::Accepte);
     MontreD();
+    // Its room stays, so that nothing moves when it opens.
+    QSizePolicy place = panneau_->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    panneau_->setSizePolicy(place);
     panneau_->hide();
     return panneau_;
 }

@@ -89,7 +89,7 @@ TEST_F(Drum, SizesFollowThePitchAndWhatTheCentresUse) {
     EXPECT_NEAR(Val(r.Grille[1].back()), r.EpaisseurStationnaire, 1.5e-3);
     // Past the motion rollers count that have left the cam, and a note says so.
     EXPECT_GT(Val(r.Grille[300].back()), r.EpaisseurStationnaire + 50);
-    EXPECT_EQ(r.notes, std::vector<std::string>{Texte(TexteEpaisseurArret)});
+    EXPECT_EQ(r.notes, std::vector<std::string>{Texte(TexteEpaisseurProfil)});
     // A cam to the left takes the first height as it stands, below the middle.
     donnees.Sens = -1;
     const auto gauche = Calcule();

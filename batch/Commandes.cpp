@@ -1,6 +1,7 @@
 #include "batch/Commandes.h"
 
 #include "batch/CommandeEtude.h"
+#include "batch/CommandeGlobique.h"
 #include "batch/CommandeIndexeurCylindrique.h"
 #include "batch/CommandeLoi.h"
 #include "batch/CommandeLoiSpeciale.h"
@@ -30,6 +31,10 @@ constexpr CommandeBatch commandes[] = {
      "the study of a special law: hesser, avance-rapide, liquides or msh-dissymetrique", CommandeLoiSpeciale},
     {"indexeur-cylindrique", "indexeur-cylindrique DATA.json...", "the drum cam of an indexer",
      CommandeIndexeurCylindrique},
+    {"indexeur-globique", "indexeur-globique DATA.json...", "capacities of a globoidal indexer",
+     CommandeIndexeurGlobique},
+    {"oscillateur-globique", "oscillateur-globique DATA.json...", "capacities of a globoidal oscillator",
+     CommandeOscillateurGlobique},
 };
 
 void EcritAide(std::ostream& sortie) {

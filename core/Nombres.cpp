@@ -205,6 +205,12 @@ std::string Format(double valeur, std::string_view masque) {
     return texte;
 }
 
+double Puissance(double base, double exposant) {
+    if (base == 0.0 && exposant < 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+    if (base < 0.0 && exposant != Int(exposant)) throw ErreurExecution(NumeroErreur::AppelIncorrect);
+    return std::pow(base, exposant);
+}
+
 std::string Trim(std::string_view texte) {
     const auto debut = texte.find_first_not_of(" \t\r\n");
     if (debut == std::string_view::npos) return {};

@@ -72,5 +72,10 @@ inline double Divise(double numerateur, double diviseur) {
     return numerateur / diviseur;
 }
 
+/// `base` to the power `exposant`.
+/// @throws ErreurExecution 0 to a negative power is a division by zero; a power without a real value is an incorrect
+/// argument.
+double Puissance(double base, double exposant);
+
 /// `texte` without the blanks at both ends.
 std::string Trim(std::string_view texte);

@@ -46,6 +46,9 @@ protected:
         std::vector<QWidget*> bloques; ///< what the panel of coefficients closes, with the calculation
         std::vector<Feuille> resultats;
         std::vector<QWidget*> sorties; ///< beside the print and save buttons
+        const char* imprimer = "Imprimer";
+        bool sauve = true;        ///< whether the results can be saved
+        bool derouleVide = false; ///< a fault of an empty list drops it open
     };
     void Compose(const Composition& composition);
 
@@ -78,7 +81,7 @@ private:
     void Calculer();
     void MontreEtat();
 
-    bool calcule_ = false;
+    bool calcule_ = false, derouleVide_ = false;
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;
     QTabWidget* onglets_ = nullptr;

@@ -4,6 +4,8 @@
 #include "cylindrical/screens/CylindriqueIndexeur.h"
 #include "cylindrical/screens/DoCyl.h"
 #include "cylindrical/screens/DoCylOsc.h"
+#include "globoidal/screens/GlobiqueIndexeur.h"
+#include "globoidal/screens/GlobiqueOscillateur.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -33,6 +35,8 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"GlobiqueIndexeur", Cree<GlobiqueIndexeur>, 1},
+    {"GlobiqueOscillateur", Cree<GlobiqueOscillateur>, 2},
     {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
 };

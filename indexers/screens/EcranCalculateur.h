@@ -47,6 +47,8 @@ protected:
         std::vector<Feuille> resultats;
         std::vector<QWidget*> sorties; ///< beside the print and save buttons
         bool sauvegarde = true;        ///< there is something to save
+        const char* imprimer = "Imprimer";
+        bool derouleVide = false; ///< a fault of an empty list drops it open
     };
     void Compose(const Composition& composition);
 
@@ -83,7 +85,7 @@ private:
     void Calculer();
     void MontreEtat();
 
-    bool calcule_ = false;
+    bool calcule_ = false, derouleVide_ = false;
     bool ouvertes_ = false; ///< the sheets, without a result
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;

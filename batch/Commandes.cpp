@@ -1,6 +1,7 @@
 #include "batch/Commandes.h"
 
 #include "batch/CommandeEtude.h"
+#include "batch/CommandeInertie.h"
 #include "batch/CommandeLoi.h"
 #include "batch/CommandeLoiSpeciale.h"
 #include "core/FichierEntier.h"
@@ -28,6 +29,7 @@ constexpr CommandeBatch commandes[] = {
     {"loi", "loi NAME --points N", "the unit table of a law, as a JSON object", CommandeLoi},
     {"loi-speciale", "loi-speciale KIND DATA.json...",
      "the study of a special law: hesser, avance-rapide, liquides or msh-dissymetrique", CommandeLoiSpeciale},
+    {"inertie", "inertie DATA.json|LIST.Ine...", "mass and inertia of an assembly of solids", CommandeInertie},
 };
 
 void EcritAide(std::ostream& sortie) {

@@ -2,6 +2,7 @@
 
 #include "cylindrical/screens/DoCyl.h"
 #include "cylindrical/screens/DoCylOsc.h"
+#include "inertia/screens/Inerties.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -31,6 +32,7 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"Inerties", Cree<Inerties>, 9},
 };
 // clang-format on
 

@@ -20,6 +20,10 @@ public:
     /// Whether a minus in front of the number is kept from being typed; otherwise it may be.
     void RefuseSigne(bool refuse);
 
+    /// Outlines the field as the one at fault, with the reason in its tip; an empty reason takes the mark away.
+    void MarqueFaute(const QString& raison);
+    bool EnFaute() const { return enFaute_; }
+
 signals:
     void Suivant(); ///< Return was pressed
 
@@ -30,9 +34,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
 
 private:
     void PrendLargeur();
 
+    bool enFaute_ = false;
     bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
 };

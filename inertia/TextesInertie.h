@@ -48,7 +48,7 @@ enum NumeroTexteInertie {
     TexteGenre = 25, ///< N
     TexteValeurEntiere = 777,
 
-    TexteManque = 816,    ///< in front of the caption of a field that is needed
+    TexteManque = 907,    ///< in front of the caption of a field that is needed
     TexteQuantiteRapport, ///< quantity times ratio is not above zero
     TexteSignesRBeta,     ///< R and the angle differ in sign
     TexteExact,           ///< in front of full-precision values

@@ -58,10 +58,12 @@ void BureauEcrans::Place(QMdiSubWindow& cadre) {
 }
 
 void BureauEcrans::Montre(std::string_view nom) {
-    if (QMdiSubWindow* cadre = Cadre(nom))
+    if (QMdiSubWindow* cadre = Cadre(nom)) {
         cadre->show();
-    else
+        setActiveSubWindow(cadre);
+    } else {
         Ouvre(nom);
+    }
 }
 
 void BureauEcrans::Cache(std::string_view nom) {
@@ -74,15 +76,30 @@ void BureauEcrans::Ferme(std::string_view nom) {
     const QPointer<QMdiSubWindow> cadre = trouve->second;
     cadres_.erase(trouve);
     if (!cadre) return;
-    if (FenetreEnfant* fenetre = FenetreDe(cadre)) fenetre->Ferme();
-    etude.resultats.RotationEnCours = Faux; // a loop that turns the cam of this screen ends at its next step
+    FenetreEnfant* fenetre = FenetreDe(cadre);
+    if (fenetre != nullptr) fenetre->Ferme();
+    // A loop that turns the cam of this screen ends at its next step.
+    if (fenetre == nullptr || !fenetre->Demeure()) etude.resultats.RotationEnCours = Faux;
     cadre->hide();
     removeSubWindow(cadre);
     cadre->deleteLater(); // the request may come out of one of its own buttons
 }
 
 void BureauEcrans::FermeTout() {
-    for (const EcranEnfant& ecran : LesEcrans()) Ferme(ecran.nom);
+    for (const EcranEnfant& ecran : LesEcrans()) {
+        const FenetreEnfant* fenetre = Ouverte(ecran.nom);
+        if (fenetre == nullptr || !fenetre->Demeure()) Ferme(ecran.nom);
+    }
+}
+
+FenetreEnfant* BureauEcrans::DonneInertie(double inertie) {
+    for (const EcranEnfant& ecran : LesEcrans()) {
+        FenetreEnfant* fenetre = Ouverte(ecran.nom);
+        if (fenetre == nullptr || !fenetre->isVisible() || !fenetre->PrendInertie(inertie)) continue;
+        setActiveSubWindow(Cadre(ecran.nom));
+        return fenetre;
+    }
+    return nullptr;
 }
 
 FenetreEnfant* BureauEcrans::Active() const {

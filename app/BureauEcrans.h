@@ -32,11 +32,15 @@ public:
     void Cache(std::string_view nom);
     void Ferme(std::string_view nom);
 
-    /// Closes all of them, in the order of their rows.
+    /// Closes all that belong to the study, in the order of their rows.
     void FermeTout();
 
     /// The window that saving and printing go to; none when they go to the cam study.
     FenetreEnfant* Active() const;
+
+    /// Hands a moment of inertia (kg m²) to the first visible window that asks for one, and brings it to the front.
+    /// @return that window; none when no window asks
+    FenetreEnfant* DonneInertie(double inertie);
 
     /// Tells every open window.
     void Dit(void (FenetreEnfant::*quoi)()) const;

@@ -6,6 +6,7 @@
 #include "cylindrical/screens/DoCylOsc.h"
 #include "globoidal/screens/GlobiqueIndexeur.h"
 #include "globoidal/screens/GlobiqueOscillateur.h"
+#include "inertia/screens/Inerties.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -39,6 +40,7 @@ constexpr EcranEnfant ecrans[] = {
     {"GlobiqueOscillateur", Cree<GlobiqueOscillateur>, 2},
     {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
+    {"Inerties", Cree<Inerties>, 10},
 };
 // clang-format on
 

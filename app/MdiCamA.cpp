@@ -6,6 +6,7 @@
 #include "app/Propos.h"
 #include "data/Demarrage.h"
 #include "data/TextesSaisie.h"
+#include "inertia/TextesInertie.h"
 #include "laws/ChoixLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
@@ -230,6 +231,7 @@ void MdiCamA::ChangeLangue(const std::string& langue) {
     ChargeTextes(LaBase);
     AppliqueTextes();
     FermeEcrans();
+    bureau_->Dit(&FenetreEnfant::AppliqueTextes);
     ChoisitAide();
     Annonce(Texte(TextePret));
 }
@@ -281,10 +283,16 @@ void MdiCamA::Relie(FenetreEnfant& fenetre) {
     connect(&fenetre, &FenetreEnfant::EtudeRecalculee, this, [this] { Annonce(Texte(TexteEtudeCalculee)); });
     connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
             [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
-    connect(&fenetre, &FenetreEnfant::Nouvelle, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
     connect(&fenetre, &FenetreEnfant::Annonce, this, [this](const QString& texte) { Annonce(S(texte)); });
+    connect(&fenetre, &FenetreEnfant::InertieOfferte, this, &MdiCamA::DonneInertie);
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
+}
+
+void MdiCamA::DonneInertie(double inertie) {
+    const FenetreEnfant* fenetre = bureau_->DonneInertie(inertie);
+    Annonce(fenetre == nullptr ? Texte(TexteAucunChampInertie)
+                               : Texte(TexteInertieTransmise) + " " + S(fenetre->windowTitle()));
 }
 
 void MdiCamA::MontreResultats() {

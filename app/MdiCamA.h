@@ -101,6 +101,7 @@ private:
     void Relie(FenetreEnfant& fenetre);
     bool CalculeOuverte();
     void MontreEcran(const char* nom);
+    void DonneInertie(double inertie);
     void MontreResultats();
     void Quitte(const FenetreEnfant& fenetre);
 

@@ -4,6 +4,7 @@
 #include "batch/CommandeGlobique.h"
 #include "batch/CommandeIndexeurConjugue.h"
 #include "batch/CommandeIndexeurCylindrique.h"
+#include "batch/CommandeInertie.h"
 #include "batch/CommandeLoi.h"
 #include "batch/CommandeLoiSpeciale.h"
 #include "core/FichierEntier.h"
@@ -39,6 +40,7 @@ constexpr CommandeBatch commandes[] = {
      CommandeIndexeurGlobique},
     {"oscillateur-globique", "oscillateur-globique DATA.json...", "capacities of a globoidal oscillator",
      CommandeOscillateurGlobique},
+    {"inertie", "inertie DATA.json|LIST.Ine...", "mass and inertia of an assembly of solids", CommandeInertie},
 };
 
 void EcritAide(std::ostream& sortie) {

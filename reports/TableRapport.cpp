@@ -99,6 +99,10 @@ void ImprimePapier(Tirage& tirage, const TablePapier& papier, int lignes) {
 
 } // namespace
 
+int LargeurTable(const TableTexte& table) {
+    return NombreCaracteres(TablePapier(table, 0).EnTete().front());
+}
+
 void ImprimeTable(Tirage& tirage, const TableTexte& table, int marge) {
     ImprimePapier(tirage, TablePapier(table, marge), table.lignes);
 }

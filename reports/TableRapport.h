@@ -8,6 +8,9 @@
 #include <optional>
 #include <string>
 
+/// Characters that a table takes on paper.
+int LargeurTable(const TableTexte& table);
+
 /// Prints a table from the present line on: its heading, bold and followed by an empty line, which every page that
 /// turns repeats, then its rows.
 /// @param marge blanks before its first column

@@ -6,14 +6,17 @@
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/DessinQt.h"
 #include "widgets/ReprendSaisie.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QStyleOptionFrame>
 #include <QValidator>
@@ -106,6 +109,21 @@ void ChampNombre::RefuseSigne(bool refuse) {
     sansSigne->sansSigne = refuse;
     delete validator();
     setValidator(sansSigne);
+}
+
+void ChampNombre::MarqueFaute(const QString& raison) {
+    enFaute_ = !raison.isEmpty();
+    setToolTip(raison);
+    update();
+}
+
+void ChampNombre::paintEvent(QPaintEvent* evenement) {
+    QLineEdit::paintEvent(evenement);
+    if (!enFaute_) return;
+    constexpr double epaisseur = 2; // pixels
+    QPainter peintre(this);
+    peintre.setPen(QPen(CouleurTrait(Couleur::Repere, QGuiApplication::palette()), epaisseur));
+    peintre.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
 }
 
 void ChampNombre::PrendLargeur() {

@@ -29,6 +29,10 @@ public:
     /// True after a box that says that the number is beyond the limit; the field then has the focus, selected.
     bool RefuseHorsLimite();
 
+    /// Outlines the field as the one at fault, with the reason in its tip; an empty reason takes the mark away.
+    void MarqueFaute(const QString& raison);
+    bool EnFaute() const { return enFaute_; }
+
 signals:
     void Suivant(); ///< Return was pressed, on a number that the field takes
 
@@ -39,11 +43,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
     void contextMenuEvent(QContextMenuEvent* evenement) override;
+    void paintEvent(QPaintEvent* evenement) override;
 
 private:
     void PrendLargeur();
 
     double limite_ = std::numeric_limits<double>::max();
+    bool enFaute_ = false;
     bool vientDeLaSouris_ = false; ///< the press that gave the focus is still down
 };
 

@@ -55,6 +55,17 @@ public:
     /// Brings the turning cam to the front, where this window has one.
     virtual void MontreRotation() {}
 
+    /// True for a window that holds nothing of the study: it stays open when another one is begun or opened.
+    virtual bool Demeure() const { return false; }
+
+    /// The working language has changed while this window was open.
+    virtual void AppliqueTextes() {}
+
+    /// Takes a moment of inertia into the field that asks for one, and gives it the focus.
+    /// @param inertie kg m²
+    /// @return false when this window asks for none
+    virtual bool PrendInertie(double) { return false; }
+
     /// What the window leaves in the study record when it is closed. What an active window holds goes with it.
     virtual void Ferme();
 
@@ -62,9 +73,9 @@ signals:
     void EtudeCalculee();                       ///< the study is calculated and its results are to be shown
     void EtudeRecalculee();                     ///< what this window shows was calculated
     void FichierEnregistre(const QString& nom); ///< name without folder
-    void Nouvelle(const QString& texte);        ///< to be told in the status line
     void ImpressionDemandee();                  ///< this window is to be printed
     void Annonce(const QString& texte);         ///< for the status line
+    void InertieOfferte(double inertie);        ///< for the field of another window that asks for one, kg m²
     void Quitte();                              ///< the window is given up
 
 protected:

@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <numeric>
 
 class ModeleGrille : public QAbstractTableModel {
 public:
@@ -122,12 +121,17 @@ void Grille::MesureColonnes() {
 }
 
 void Grille::PlaceColonnes() {
-    const int colonnes = static_cast<int>(largeurs_.size());
-    if (colonnes == 0) return;
-    const int reste = std::max(0, viewport()->width() - std::accumulate(largeurs_.begin(), largeurs_.end(), 0));
-    for (int colonne = 0; colonne < colonnes; ++colonne) {
-        const int supplement = reste / colonnes + (colonne < reste % colonnes ? 1 : 0);
-        setColumnWidth(colonne, largeurs_[static_cast<std::size_t>(colonne)] + supplement);
+    std::vector<int> visibles;
+    for (int colonne = 0; colonne < static_cast<int>(largeurs_.size()); ++colonne)
+        if (!isColumnHidden(colonne)) visibles.push_back(colonne);
+    if (visibles.empty()) return;
+    int besoin = 0;
+    for (const int colonne : visibles) besoin += largeurs_[static_cast<std::size_t>(colonne)];
+    const int nombre = static_cast<int>(visibles.size()), reste = std::max(0, viewport()->width() - besoin);
+    for (int i = 0; i < nombre; ++i) {
+        const int colonne = visibles[static_cast<std::size_t>(i)];
+        setColumnWidth(colonne,
+                       largeurs_[static_cast<std::size_t>(colonne)] + reste / nombre + (i < reste % nombre ? 1 : 0));
     }
 }
 

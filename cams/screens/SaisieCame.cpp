@@ -105,7 +105,7 @@ void SaisieCame::RelieChamps() {
     }
     connect(zones_, &PanneauZones::Change, this, &SaisieCame::MontreBoutons);
     connect(zones_, &PanneauZones::LoiLue, this, [this](const QString& fichier) {
-        emit Nouvelle(QTexte(TexteLoiDeFichierLue) + " " + fichier + ". " + QTexte(TexteLoisAuDemarrage));
+        emit Annonce(QTexte(TexteLoiDeFichierLue) + " " + fichier + ". " + QTexte(TexteLoisAuDemarrage));
     });
     connect(zones_, &PanneauZones::Modifie, this, &SaisieCame::PerimeResultats);
     if (pesanteur_ != nullptr) {

@@ -6,6 +6,7 @@
 #include "cylindrical/SchemasCyl.h"
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
+#include "widgets/Chaines.h"
 
 #include <QLineEdit>
 
@@ -24,6 +25,13 @@ DoCylOsc::DoCylOsc(QWidget* parent) : SaisieCame(description, parent) {
         {"CoteA", "a"}, {"RayonO1P", "O1-P"}, {"DiametreCame", "D"}, {"RayonGalet", "galet"}};
     for (const auto& [champ, cote] : cotes) schema->Suit(ChampDe(champ), cote);
     Compose({EmpilePanneaux({Panneau("Picture2"), Panneau("Picture3"), schema}, 2)});
+}
+
+bool DoCylOsc::PrendInertie(double inertie) {
+    QLineEdit* champ = ChampDe("InertieMasseA");
+    champ->setText(Q(StrTrim(inertie)));
+    champ->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void DoCylOsc::ProposeDonnees() {

@@ -73,11 +73,12 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
     std::set<std::string> inactives;
     for (const QAction* action : mdi_.findChildren<QAction*>())
         if (!action->isEnabled() && !action->menu()) inactives.insert(S(action->objectName()));
-    for (const char* nom : {"FichierLanguesModification", "FichierClasiquesInerties", "Inerties",
-                            "FichierGenerateursCroixMalte", "NouveauGlobiqueIndexeur", "ProfilConjugueesOsc"})
+    for (const char* nom : {"FichierLanguesModification", "FichierGenerateursCroixMalte", "NouveauGlobiqueIndexeur",
+                            "ProfilConjugueesOsc"})
         EXPECT_TRUE(inactives.contains(nom)) << nom;
-    for (const char* nom : {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso",
-                            "NouveauCylindre", "ProfilCylindriqueOsc", "Quitter"})
+    for (const char* nom :
+         {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso", "NouveauCylindre",
+          "ProfilCylindriqueOsc", "Quitter", "FichierClasiquesInerties", "Inerties"})
         EXPECT_FALSE(inactives.contains(nom)) << nom;
     for (const QAction* action : Controle<QToolBar>(mdi_, "Toolbar1")->actions())
         if (!action->isSeparator()) {

@@ -257,7 +257,7 @@ TEST_F(SaisieDeuxTours, AfterALawFileTheListsKeepTheNames) {
     Lit("Deux-tours.Cyl");
     FrappeDans(*ecran, "Text6", "1");
     Retour(*ecran);
-    QSignalSpy nouvelle(ecran.get(), &FenetreEnfant::Nouvelle);
+    QSignalSpy nouvelle(ecran.get(), &FenetreEnfant::Annonce);
     dialogues.fichiers = {CheminAppli / "Profils" / "Aller-retour.Lmi"};
     Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
     Frappe(*ecran, "Fichier");

@@ -1,0 +1,137 @@
+#include "batch/CommandeInertie.h"
+
+#include "batch/Passage.h"
+#include "core/FichierEntier.h"
+#include "inertia/FichierInerties.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr const char* Solides = "solides";
+constexpr const char* TypeSolide = "TypeSolide";
+constexpr const char* MasseTotal = "MasseTotal";
+
+using S = SaisieSolide;
+constexpr std::pair<const char*, std::string S::*> textes[] = {
+    {"Text1", &S::Text1}, {"Text2", &S::Text2}, {"Text3", &S::Text3}, {"Text5", &S::Text5},
+    {"Text6", &S::Text6}, {"Text7", &S::Text7}, {"Text8", &S::Text8}};
+
+/// A member as it would be typed: a text as it stands, a number in its shortest digits.
+std::string LitTexte(const std::string& nom, const Json& valeur) {
+    if (valeur.is_string()) return valeur.get<std::string>();
+    if (valeur.is_number()) return StrTrim(valeur.get<double>());
+    throw UsageIncorrect(nom + " is neither a text nor a number");
+}
+
+const GenreSolide& LitGenre(const Json& donnees) {
+    const auto code = donnees.find(TypeSolide);
+    if (code == donnees.end()) throw UsageIncorrect(std::string("a solid has no member ") + TypeSolide);
+    const GenreSolide* genre =
+        code->is_number_integer() && *code >= 1 && *code <= 20 ? TrouveSolide(code->get<int>()) : nullptr;
+    if (genre == nullptr) throw UsageIncorrect(std::string(TypeSolide) + " is a whole number from 1 to 20");
+    return *genre;
+}
+
+/// One solid: its kind is chosen, then what is given is typed.
+SaisieSolide LitSolide(const Json& donnees) {
+    if (!donnees.is_object()) throw UsageIncorrect("a solid is not a JSON object");
+    const GenreSolide& genre = LitGenre(donnees);
+    SaisieSolide saisie = SaisieInitiale(genre);
+    if (const auto masse = donnees.find(MasseTotal); masse != donnees.end()) {
+        if (!masse->is_boolean()) throw UsageIncorrect(std::string(MasseTotal) + " is true or false");
+        saisie.MasseTotal = masse->get<bool>();
+        saisie.Text3 = Text3Initial(genre, saisie.MasseTotal);
+    }
+    for (const auto& [nom, valeur] : donnees.items()) {
+        if (nom == TypeSolide || nom == MasseTotal) continue;
+        const auto* place = std::find_if(std::begin(textes), std::end(textes),
+                                         [&nom = nom](const auto& texte) { return nom == texte.first; });
+        if (place == std::end(textes)) throw UsageIncorrect("unknown member " + nom);
+        saisie.*place->second = LitTexte(nom, valeur);
+    }
+    return saisie;
+}
+
+/// What stands in a list file of the desktop program.
+std::vector<SaisieSolide> LitListe(const std::string& fichier) {
+    std::vector<SaisieSolide> saisies;
+    for (LigneAssemblage& ligne : LitInerties(fichier).lignes) saisies.push_back(std::move(ligne.saisie));
+    return saisies;
+}
+
+std::vector<SaisieSolide> LitDonnees(const std::string& fichier) {
+    if (fichier.ends_with(ExtensionInerties)) return LitListe(fichier);
+    const Json donnees = Json::parse(LitFichierEntier(fichier));
+    if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
+    for (const auto& [nom, valeur] : donnees.items())
+        if (nom != Solides) throw UsageIncorrect("unknown member " + nom);
+    const auto solides = donnees.find(Solides);
+    if (solides == donnees.end() || !solides->is_array()) throw UsageIncorrect("no array solides");
+    std::vector<SaisieSolide> saisies;
+    for (const Json& solide : *solides) saisies.push_back(LitSolide(solide));
+    return saisies;
+}
+
+struct SolideCalcule {
+    Grandeurs valeurs{};
+    Etiquettes etiquettes{};
+};
+
+/// Calculates one solid and adds it; a refusal says so in a box.
+SolideCalcule CalculeEtAjoute(const SaisieSolide& saisie, Assemblage& assemblage) {
+    if (const auto faute = ChercheFaute(saisie)) {
+        if (!faute->message.empty()) LesDialogues().Message(Icone::Avertissement, faute->message);
+        return {};
+    }
+    SolideCalcule solide;
+    solide.valeurs = CalculeSolide(saisie);
+    solide.etiquettes = EtiquettesDe(solide.valeurs);
+    if (AjouteSolide(assemblage, saisie, solide.etiquettes, solide.valeurs) == Ajout::Refuse)
+        LesDialogues().Message(Icone::Avertissement, MessageRefus());
+    return solide;
+}
+
+Json JsonSolide(const SolideCalcule& solide) {
+    Json objet = Json::object();
+    for (std::size_t i = 0; i < solide.valeurs.size(); ++i) objet[LesGrandeurs()[i].nom] = solide.valeurs[i];
+    objet["etiquettes"] = solide.etiquettes;
+    return objet;
+}
+
+/// Everything that one data file gives.
+struct Liste {
+    Assemblage assemblage;
+    std::vector<SolideCalcule> solides;
+};
+
+Json JsonListe(const Liste& liste) {
+    Json solides = Json::array(), exacts = Json::array();
+    for (const SolideCalcule& solide : liste.solides) {
+        solides.push_back(JsonSolide(solide));
+        exacts.push_back(solide.valeurs);
+    }
+    return {{Solides, solides},
+            {"totaux", liste.assemblage.totaux},
+            {"exacts", {{Solides, exacts}, {"totaux", TotauxExacts(liste.assemblage)}}}};
+}
+
+} // namespace
+
+int CommandeInertie(const LigneCommande& ligne, std::ostream& sortie, std::ostream& erreurs) {
+    if (ligne.arguments.empty()) throw UsageIncorrect("inertie: a data file is needed");
+    return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
+        const std::vector<SaisieSolide> saisies = LitDonnees(fichier);
+        Liste liste;
+        Calcul calcul;
+        calcul.execute = [&](const DialoguesCollecte&) {
+            etude.resultats.Erreur = Vrai; // as long as a number can still exceed a double
+            for (const SaisieSolide& saisie : saisies)
+                liste.solides.push_back(CalculeEtAjoute(saisie, liste.assemblage));
+            etude.resultats.Erreur = Faux;
+            return std::string();
+        };
+        calcul.resultats = [&](bool) { return JsonListe(liste); };
+        return LanceCalcul(calcul, ligne, sortie);
+    });
+}

@@ -1,0 +1,90 @@
+// The inertia calculator beside the studies of the main window.
+#include "inertia/TextesInertie.h"
+#include "inertia/screens/Inerties.h"
+#include "app/MdiCamA.h"
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/Ecrans.h"
+#include "widgets/Chaines.h"
+#include "widgets/ChampNombre.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+class InertiesAuBureau : public testing::Test {
+protected:
+    DialoguesScript dialogues_;
+    MdiCamA mdi_{Configuration{{}, LangueTravail}};
+
+    InertiesAuBureau() {
+        mdi_.show();
+        LaisseFaire();
+        Lance("FichierClasiquesInerties");
+        Ecran().OuvreListe(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Plateau.Ine");
+    }
+    ~InertiesAuBureau() override {
+        ChoisitLangue("Français");
+        etude = Etude{};
+    }
+    void Lance(const char* commande) {
+        Controle<QAction>(mdi_, commande)->trigger();
+        LaisseFaire();
+    }
+    Inerties& Ecran() { return dynamic_cast<Inerties&>(*mdi_.EcranOuvert("Inerties")); }
+    std::string Etat() { return S(Controle<QLabel>(mdi_, "Etat")->text()); }
+};
+
+} // namespace
+
+TEST_F(InertiesAuBureau, TheListOutlivesStudiesLanguagesAndAnotherCallOfTheCommand) {
+    mdi_.OuvreFichier(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Exemple.Ang");
+    mdi_.FermeEcrans();
+    EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
+    mdi_.ChangeLangue("English");
+    EXPECT_EQ(S(Ecran().windowTitle()), "Inertia Calculation");
+    Lance("Inerties");
+    EXPECT_EQ(Ecran().Liste().lignes.size(), 5U);
+    EXPECT_TRUE(Ecran().EnAvant());
+    Controle<QAbstractButton>(Ecran(), "Ok")->click();
+    LaisseFaire();
+    EXPECT_EQ(mdi_.EcranOuvert("Inerties"), nullptr);
+}
+
+TEST_F(InertiesAuBureau, TheTotalGoesIntoTheFieldThatAsksForAnInertia) {
+    Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
+    EXPECT_EQ(Etat(), Texte(TexteAucunChampInertie));
+    mdi_.OuvreEcran("DoCylOsc");
+    Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
+    auto* champ = Controle<ChampNombre>(*mdi_.EcranOuvert("DoCylOsc"), "Text6");
+    EXPECT_NEAR(champ->Valeur(), 10.5972, 1e-4);
+    EXPECT_TRUE(mdi_.EcranOuvert("DoCylOsc")->EnAvant());
+}
+
+TEST_F(InertiesAuBureau, SavingAndPrintingAreItsOwnWhileItIsInFront) {
+    DossierTemporaire dossier;
+    dialogues_.fichiers = {dossier / "copie.Ine"};
+    Lance("FichierSauvegarde");
+    EXPECT_EQ(LitBrut(dossier / "copie.Ine"),
+              LitBrut(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Plateau.Ine"));
+    bool vu = false;
+    QTimer::singleShot(0, [&vu] {
+        auto* apercu = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        vu = apercu != nullptr;
+        if (vu) apercu->reject();
+    });
+    Lance("FicImprimerImprimer");
+    EXPECT_TRUE(vu);
+    // Behind a study they are the study's again.
+    mdi_.OuvreEcran("DatoCama");
+    Lance("FichierSauvegarde");
+    EXPECT_EQ(dialogues_.boites.back().texte, Texte(23));
+}

@@ -1,0 +1,264 @@
+#include "inertia/screens/Inerties.h"
+
+#include "data/Demarrage.h"
+#include "data/Textes.h"
+#include "inertia/TextesInertie.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/EcranDeSaisie.h"
+#include "widgets/ChampNombre.h"
+#include "widgets/Grille.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+
+namespace {
+
+class EcranInerties : public EcranDeSaisie<Inerties> {
+protected:
+    void Choisit(const char* solide) { Controle<QAction>(*ecran, solide)->trigger(); }
+    void CliqueOption(const char* option) {
+        auto* bouton = Controle<QRadioButton>(*ecran, option);
+        QTest::mouseClick(bouton, Qt::LeftButton, Qt::NoModifier, QPoint(6, bouton->height() / 2));
+    }
+    /// Types over what a field holds, without Return.
+    void TapeTouches(const char* champ, const char* touches) {
+        auto* zone = Controle<ChampNombre>(*ecran, champ);
+        zone->setFocus(Qt::TabFocusReason);
+        zone->selectAll();
+        QTest::keyClicks(zone, QString::fromUtf8(touches));
+    }
+    std::string Champ(const char* nom) { return Controle<ChampNombre>(*ecran, nom)->text().toStdString(); }
+    std::string Etiquette(const char* nom) { return Controle<QLabel>(*ecran, nom)->text().toStdString(); }
+    std::vector<std::string> Resultats() {
+        return {Etiquette("Label14"), Etiquette("Label17"), Etiquette("Label21"), Etiquette("Label22")};
+    }
+    bool EnFaute(const char* champ) { return Controle<ChampNombre>(*ecran, champ)->EnFaute(); }
+    bool Montre(const char* nom) { return Controle<QWidget>(*ecran, nom)->isVisible(); }
+    std::string Cellule(int ligne, int colonne) { return Controle<Grille>(*ecran, "Grille1")->Cellule(ligne, colonne); }
+    std::vector<std::string> Totaux(int colonne = 0) {
+        std::vector<std::string> totaux;
+        for (int i = 0; i < 4; ++i) totaux.push_back(Controle<Grille>(*ecran, "Grille2")->Cellule(i, colonne));
+        return totaux;
+    }
+    void AjoutePlateau() {
+        Choisit("M_ObjetCentrePlateau");
+        Tape({{"Text1", "2"}, {"Text2", "1"}, {"Text3", "12.5"}, {"Text6", "320"}, {"Text8", "25"}});
+        Clique("Plus");
+    }
+};
+
+using Textes = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(EcranInerties, RunsFromKeyToKeyIntoTheList) {
+    SuitReturn({"Text1", "Text2", "Text3", "Text6", "Text8", "Plus"});
+    Controle<QWidget>(*ecran, "Text1")->setFocus(Qt::TabFocusReason);
+    for (const char* touches : {"3", "\r", "2", "\r", "12,5", "\r", "320", "\r"})
+        QTest::keyClicks(ecran->focusWidget(), touches);
+    EXPECT_EQ(Resultats(), (Textes{"", "", "", ""})); // the height is missing
+    QTest::keyClicks(ecran->focusWidget(), "2");
+    EXPECT_EQ(Resultats(), (Textes{"38", ".12", ".", "."}));
+    EXPECT_EQ(Etiquette("ExactLabel14"), "37.5");
+    QTest::keyClicks(ecran->focusWidget(), "5\r");
+    EXPECT_EQ(Champ("Text1") + " " + Champ("Text2") + " " + Champ("Text3") + " " + Champ("Text8"), "3 2 12.5 25");
+    ASSERT_TRUE(AFocus("Plus"));
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(Cellule(0, 1) + " " + Cellule(0, 2) + " " + Cellule(0, 8) + " " + Cellule(0, 14), "38. .12 12.5 1");
+    EXPECT_EQ(Totaux(), (Textes{"38.", ".12", "0", "0"}));
+    EXPECT_EQ(Totaux(1), (Textes{"37.5", ".12", "0", "0"}));
+    EXPECT_TRUE(Montre("NoteTotaux"));
+    EXPECT_TRUE(AFocus("Text1"));
+    EXPECT_EQ(Champ("Text6"), "320"); // the same solid can be added again
+    EXPECT_TRUE(dialogues.boites.empty());
+}
+
+TEST_F(EcranInerties, AFieldThatIsMissingIsMarkedAndNothingOldIsAdded) {
+    AjoutePlateau();
+    QSignalSpy annonces(ecran.get(), &Inerties::Annonce);
+    auto* diametre = Controle<ChampNombre>(*ecran, "Text6");
+    diametre->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(diametre, Qt::Key_Delete);
+    EXPECT_TRUE(EnFaute("Text6"));
+    EXPECT_EQ(annonces.back().front().toString().toStdString(), Texte(TexteManque) + " D");
+    EXPECT_EQ(Resultats().front(), "25"); // as they were
+    EXPECT_TRUE(Montre("NoteResultats"));
+    Clique("Plus");
+    EXPECT_EQ(ecran->Liste().lignes.size(), 1U);
+    EXPECT_TRUE(AFocus("Text6"));
+    TapeTouches("Text6", "100");
+    EXPECT_FALSE(EnFaute("Text6"));
+    EXPECT_FALSE(Montre("NoteResultats"));
+    TapeTouches("Text1", "-1");
+    EXPECT_TRUE(EnFaute("Text1"));
+    TapeTouches("Text2", "-2"); // both signs turn
+    EXPECT_FALSE(EnFaute("Text1"));
+    EXPECT_TRUE(dialogues.boites.empty());
+}
+
+TEST_F(EcranInerties, ANumberIsNotRefusedWhileItIsBeingTyped) {
+    Choisit("M_ObjetCentreTubeCouche");
+    Tape({{"Text3", "5"}, {"Text6", "80"}, {"Text7", "60"}, {"Text8", "100"}});
+    TapeTouches("Text6", "1");
+    EXPECT_TRUE(EnFaute("Text7"));
+    EXPECT_EQ(Resultats().front(), "");
+    QTest::keyClicks(ecran->focusWidget(), "50");
+    EXPECT_EQ(Resultats().front(), "5");
+    EXPECT_TRUE(dialogues.boites.empty());
+    // digits behind a point mend nothing any more, and a bore only grows
+    TapeTouches("Text6", "59.");
+    EXPECT_EQ(dialogues.boites.size(), 1U);
+    EXPECT_EQ(DerniereBoite(), "Ø intérieur > Ø extérieur");
+    EXPECT_TRUE(AFocus("Text7"));
+    TapeTouches("Text6", "80");
+    TapeTouches("Text7", "80");
+    EXPECT_EQ(dialogues.boites.size(), 2U);
+    EXPECT_EQ(Champ("Text7"), "80");
+    EXPECT_EQ(Resultats(), (Textes{"", "", "", ""}));
+
+    Choisit("M_ObjetCentrePolygone");
+    Tape({{"Text6", "80"}, {"Text8", "30"}});
+    TapeTouches("Text5", "12");
+    EXPECT_EQ(dialogues.boites.size(), 2U);
+    EXPECT_EQ(Resultats().front(), "1");
+    Tape({{"Text5", "2"}});
+    EXPECT_EQ(DerniereBoite(), Texte(350));
+    EXPECT_EQ(Champ("Text5"), "3");
+    EXPECT_TRUE(AFocus("Text5"));
+    EXPECT_EQ(Etiquette("ExactLabel14").substr(0, 5), ".4894"); // calculated with the three sides
+
+    Choisit("M_ObjetCentreTore");
+    Tape({{"Text3", "5"}, {"Text6", "150"}, {"Text7", "40"}});
+    TapeTouches("Text6", "12");
+    EXPECT_EQ(dialogues.boites.size(), 3U);
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(dialogues.boites.size(), 4U);
+    EXPECT_EQ(Champ("Text6"), "1");
+}
+
+TEST_F(EcranInerties, AKindShowsItsFieldsAndStartsAnew) {
+    Choisit("M_ObjetExcentreCouronne");
+    Tape({{"Text1", "4"}, {"Text3", "2"}, {"Text5", "210"}});
+    CliqueOption("MasseSpecifique");
+    EXPECT_EQ(Champ("Text3"), "7850");
+    EXPECT_EQ(Etiquette("Label1") + " " + Etiquette("Label6"), "Densité kg/m³");
+    EXPECT_TRUE(AFocus("Text1"));
+    CliqueOption("MasseTotal");
+    EXPECT_EQ(Champ("Text3"), "");
+    Choisit("M_ObjetDiversConvoyeur");
+    EXPECT_EQ(Champ("Text1") + Champ("Text5"), "1");
+    EXPECT_EQ(Etiquette("Label1"), "Masse transportée");
+    EXPECT_FALSE(Montre("MasseSpecifique"));
+    EXPECT_FALSE(Montre("Text5"));
+    EXPECT_TRUE(Montre("Text8"));
+    Choisit("M_ObjetCentrePolygone");
+    EXPECT_TRUE(Controle<QRadioButton>(*ecran, "MasseSpecifique")->isChecked());
+    EXPECT_EQ(Champ("Text3"), "7850");
+    EXPECT_EQ(Etiquette("Label7"), "Nombre de côtés");
+    for (const GenreSolide& genre : LesSolides()) {
+        Choisit(genre.menu);
+        EXPECT_TRUE(Controle<QAction>(*ecran, genre.menu)->isChecked());
+        EXPECT_TRUE(Controle<QWidget>(*ecran, genre.cle)->isVisible()) << genre.cle;
+        for (const char* champ : {"Text5", "Text6", "Text7", "Text8"}) {
+            const bool demande = std::any_of(genre.champs.begin(), genre.champs.end(),
+                                             [&](const ChampSolide& c) { return c.controle == std::string(champ); });
+            EXPECT_EQ(Montre(champ), demande) << genre.menu << champ;
+        }
+    }
+}
+
+TEST_F(EcranInerties, ARowComesBackAsItWasTyped) {
+    Choisit("M_ObjetCentreSphere");
+    CliqueOption("MasseSpecifique");
+    Tape({{"Text1", "3"}, {"Text3", "2700"}, {"Text6", "150"}});
+    const auto avant = Resultats();
+    Clique("Plus");
+    AjoutePlateau();
+    QSignalSpy annonces(ecran.get(), &Inerties::Annonce);
+    Clique("Moins");
+    EXPECT_EQ(annonces.back().front().toString().toStdString(), Texte(669));
+    auto* liste = Controle<Grille>(*ecran, "Grille1");
+    liste->selectRow(0);
+    Clique("Moins");
+    EXPECT_EQ(Champ("Text1") + " " + Champ("Text3") + " " + Champ("Text6"), "3 2700 150");
+    EXPECT_TRUE(Controle<QRadioButton>(*ecran, "MasseSpecifique")->isChecked());
+    EXPECT_EQ(Etiquette("Label6"), "kg/m³");
+    EXPECT_EQ(Resultats(), avant);
+    EXPECT_EQ(ecran->Liste().lignes.size(), 1U);
+    EXPECT_EQ(Totaux().front(), "25.");
+    liste->setFocus();
+    liste->selectRow(0);
+    QTest::keyClick(liste, Qt::Key_Delete);
+    EXPECT_EQ(Totaux(), (Textes{"0", "0", "0", "0"}));
+    EXPECT_FALSE(Controle<QPushButton>(*ecran, "Moins")->isEnabled());
+}
+
+TEST_F(EcranInerties, WhatTheListRefusesIsTold) {
+    Choisit("M_ObjetDiversDivers");
+    Tape({{"Text3", "10"}, {"Text5", "1"}, {"Text6", "5"}, {"Text7", "5"}});
+    Clique("Plus");
+    Tape({{"Text3", "-20"}});
+    Clique("Plus");
+    EXPECT_EQ(DerniereBoite(), Texte(346) + " " + Texte(347));
+    EXPECT_EQ(Totaux(), (Textes{"10.", "1.", "5.", "5."}));
+    QSignalSpy annonces(ecran.get(), &Inerties::Annonce);
+    Choisit("M_ObjetExcentreMasse");
+    Tape({{"Text3", "0.3"}, {"Text5", "100"}});
+    EXPECT_EQ(Etiquette("ExactLabel17"), ".003");
+    Clique("Plus");
+    EXPECT_EQ(annonces.back().front().toString().toStdString(), Texte(TexteSolideTropPetit));
+    EXPECT_EQ(ecran->Liste().lignes.size(), 1U);
+    EXPECT_EQ(dialogues.boites.size(), 1U);
+}
+
+TEST_F(EcranInerties, TheListIsKeptInFilesAndOnTheClipboard) {
+    DossierTemporaire dossier;
+    Controle<QAction>(*ecran, "M_InertieImprime")->trigger();
+    EXPECT_EQ(DerniereBoite(), Texte(360));
+    AjoutePlateau();
+    dialogues.fichiers = {dossier / "liste.Ine", dossier / "liste.csv"};
+    QSignalSpy enregistre(ecran.get(), &Inerties::FichierEnregistre);
+    Controle<QAction>(*ecran, "ListeEnregistrer")->trigger();
+    Controle<QAction>(*ecran, "ListeCsv")->trigger();
+    EXPECT_EQ(enregistre.size(), 2);
+    EXPECT_EQ(LitBrut(dossier / "liste.Ine").substr(65), "1;2;1;True;12.5;;320;;25\r\n");
+    const std::string csv = LitBrut(dossier / "liste.csv");
+    EXPECT_NE(csv.find("\r\n25.;.32;0;0;True;2;1;12.5;1;;320;;25;1;25;.32;0;0\r\n"), std::string::npos) << csv;
+    Controle<QAction>(*ecran, "ListeCopier")->trigger();
+    EXPECT_NE(QGuiApplication::clipboard()->text().indexOf("25.\t.32\t0"), -1);
+
+    // A faulty file changes nothing; a list given up comes back.
+    AjoutePlateau();
+    dialogues.fichiers = {std::filesystem::path(dossier.Ecrit("faux.Ine", "1;1\n"))};
+    EXPECT_THROW(ecran->OuvreListe(dossier / "faux.Ine"), ErreurExecution);
+    EXPECT_EQ(ecran->Liste().lignes.size(), 2U);
+    ecran->OuvreListe(dossier / "liste.Ine");
+    EXPECT_EQ(Totaux().front(), "25.");
+    Controle<QAction>(*ecran, "ListeReprendre")->trigger();
+    EXPECT_EQ(Totaux().front(), "50.");
+    Ouvre(); // the screen is closed without saving, and opened again
+    EXPECT_TRUE(ecran->Liste().lignes.empty());
+    Controle<QAction>(*ecran, "ListeReprendre")->trigger();
+    EXPECT_EQ(ecran->Liste().lignes.size(), 2U);
+
+    QSignalSpy transmise(ecran.get(), &Inerties::InertieOfferte);
+    Controle<QAction>(*ecran, "ListeTransmettre")->trigger();
+    EXPECT_NEAR(transmise.back().front().toDouble(), 0.64, 1e-14);
+}
+
+TEST_F(EcranInerties, CaptionsFitAndFollowTheLanguage) {
+    ChoisitLangue("Français");
+    Ouvre();
+    AjoutePlateau();
+    ChoisitLangue("English");
+    ecran->AppliqueTextes();
+    EXPECT_EQ(Etiquette("Label1"), "Mass");
+    EXPECT_EQ(Controle<QAction>(*ecran, "ListeCopier")->text(), "&Copy the list");
+    EXPECT_EQ(ecran->Liste().lignes.size(), 1U);
+    EXPECT_EQ(Champ("Text6"), "320");
+    ChoisitLangue("Français");
+}

@@ -5,6 +5,7 @@
 #include "core/ErreurExecution.h"
 #include "data/Demarrage.h"
 #include "widgets/Application.h"
+#include "widgets/Chaines.h"
 #include "widgets/DialoguesQt.h"
 
 namespace {
@@ -50,6 +51,8 @@ int main(int argc, char** argv) {
         MdiCamA fenetre(configuration);
         ChoisitAide();
         fenetre.show();
+        if (const QString fichier = Application::arguments().value(1); !fichier.isEmpty())
+            fenetre.OuvreAutre(Chemin(fichier));
         statut = Application::exec();
     } catch (const std::exception& erreur) {
         AnnonceEchec(erreur);

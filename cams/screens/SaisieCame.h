@@ -31,6 +31,8 @@ class SaisieCame : public FenetreEnfant {
 public:
     ~SaisieCame() override;
 
+    void LitSaisie() override { LitDonnees(); }
+
 protected:
     /// @param description must outlive the screen (a constant).
     SaisieCame(const DescriptionSaisie& description, QWidget* parent);

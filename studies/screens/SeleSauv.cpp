@@ -42,7 +42,6 @@ SeleSauv::SeleSauv(QWidget* parent) : QDialog(parent) {
     int rang = 1;
     for (const auto& [case_, nom] : lignes) {
         auto* explication = FaitEtiquette(nom);
-        explication->setForegroundRole(QPalette::PlaceholderText);
         choix->addWidget(case_, rang, 0);
         choix->addWidget(explication, rang++, 1);
     }
@@ -87,7 +86,7 @@ void SeleSauv::Sauvegarde() {
         return;
     }
     etude.donnees.NomFichier = nom;
-    if (DonneesDepart()) emit FichierEnregistre();
+    if (const auto chemin = DonneesDepart()) emit FichierEnregistre(QChemin(*chemin));
     if (points_->isChecked()) FichiersPoints();
     if (scripts_->isChecked()) FichiersScripts();
     accept();

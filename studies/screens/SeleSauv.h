@@ -13,7 +13,8 @@ public:
     explicit SeleSauv(QWidget* parent = nullptr);
 
 signals:
-    void FichierEnregistre(); ///< the study file was written, under the name that the record has now
+    /// The study file was written, under the name that the record has now.
+    void FichierEnregistre(const QString& chemin);
 
 private:
     void Sauvegarde();

@@ -119,7 +119,7 @@ TEST(Grille, LeMenuCopieSelectionneEtEnregistre) {
     choisit(0, false);
     choisit(1, true);
     choisit(0, true);
-    EXPECT_EQ(S(QGuiApplication::clipboard()->text()).substr(0, 32), "Angle degrés\tRayon\tLoi\n0.0\t-.5");
+    EXPECT_EQ(S(QGuiApplication::clipboard()->text()).substr(0, 32), "Angle degrés\tRayon\tLoi\n0.0\t-.5\t");
     dialogues.fichiers.push_back(dossier / "t.csv");
     choisit(3, true);
     std::string csv = LitBrut(dossier / "t.csv");

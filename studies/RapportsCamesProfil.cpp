@@ -133,7 +133,7 @@ double DessineDeveloppee(Dessin& dessin) {
     return papier.echelle;
 }
 
-enum NumerosTexte { TexteSurPapier = 809, TexteSurCame = 810 };
+enum NumerosTexte { TexteSurPapier = 937, TexteSurCame = 938 };
 
 /// What the bar measures, on the sheet and on the cam that is drawn to scale.
 std::string TexteRegle(double echelle) {

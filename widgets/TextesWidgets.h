@@ -2,6 +2,6 @@
 #pragma once
 
 enum TextesWidgets {
-    TexteEnregistrerCsv = 807,
-    TexteTableCsv = 808,
+    TexteEnregistrerCsv = 935,
+    TexteTableCsv = 936,
 };

@@ -105,7 +105,7 @@ TEST_F(Reprise, ADiscardedStudyIsTakenBackByItsShortcut) {
     Raccourci("Ctrl+Shift+T");
     AttendEtude();
     EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
-    EXPECT_EQ(Etat().find(Texte(804)), 0U) << Etat();
+    EXPECT_EQ(Etat().find(Texte(932)), 0U) << Etat();
     // What was open meanwhile is not lost either.
     Raccourci("Ctrl+Shift+T");
     ASSERT_NE(mdi_->EcranOuvert("DoProfil"), nullptr);
@@ -118,7 +118,7 @@ TEST_F(Reprise, TheWayBackOfADataScreenLosesNothing) {
     TapeEtude();
     CliqueSur(Ecran("DatoCama"), "Retour");
     EXPECT_EQ(mdi_->EcranOuvert("DatoCama"), nullptr);
-    EXPECT_EQ(Etat(), Texte(805)) << "the status line says how it comes back";
+    EXPECT_EQ(Etat(), Texte(933)) << "the status line says how it comes back";
     Action("FichierReprendre")->trigger();
     AttendEtude();
     EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
@@ -208,7 +208,7 @@ TEST_F(Reprise, AFolderThatCannotBeWrittenIsToldOnce) {
     const std::filesystem::path dossier = FichierReprise(CheminAppli).parent_path();
     EcritFichierEntier(dossier, "a file where the folder should be");
     TapeEtude();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return Etat().starts_with(Texte(806)); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Etat().starts_with(Texte(934)); }, 5000));
     EXPECT_TRUE(dialogues_.boites.empty());
 }
 
@@ -231,7 +231,7 @@ TEST_F(Reprise, ATypedStudySurvivesAKill) {
 
     Ouvre();
     EXPECT_TRUE(Action("FichierReprendre")->isEnabled());
-    EXPECT_EQ(Etat(), Texte(805));
+    EXPECT_EQ(Etat(), Texte(933));
     EXPECT_EQ(mdi_->EcranOuvert("DatoCama"), nullptr) << "offered, not forced";
     Raccourci("Ctrl+Shift+T");
     AttendEtude();

@@ -2,10 +2,12 @@
 
 #include "app/Ecrans.h"
 #include "widgets/FenetreEnfant.h"
+#include "widgets/TailleEcran.h"
 
 #include <QEvent>
 #include <QMdiSubWindow>
-#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -40,6 +42,7 @@ FenetreEnfant* BureauEcrans::Ouvre(std::string_view nom) {
     cadre->setSystemMenu(nullptr); // its entries are not in the working language
     cadre->installEventFilter(this);
     cadres_[ecran->nom] = cadre;
+    MontreAccueil();
     Place(*cadre);
     cadre->show();
     return fenetre;
@@ -50,8 +53,7 @@ void BureauEcrans::Place(QMdiSubWindow& cadre) {
     const QSize besoin = cadre.sizeHint();
     const QSize manque = (besoin - viewport()->size()).expandedTo({0, 0});
     QWidget* principale = window();
-    if (!principale->isMaximized() && !manque.isNull())
-        principale->resize((principale->size() + manque).boundedTo(screen()->availableSize()));
+    if (!principale->isMaximized() && !manque.isNull()) TientSurEcran(*principale, principale->size() + manque);
     const QSize place = viewport()->size();
     cadre.resize(besoin.boundedTo(place));
     cadre.move((place.width() - cadre.width()) / 2, (place.height() - cadre.height()) / 2);
@@ -61,9 +63,28 @@ void BureauEcrans::Montre(std::string_view nom) {
     if (QMdiSubWindow* cadre = Cadre(nom)) {
         cadre->show();
         setActiveSubWindow(cadre);
+        MontreAccueil();
     } else {
         Ouvre(nom);
     }
+}
+
+void BureauEcrans::PlaceAccueil(QWidget* accueil) {
+    accueil_ = accueil;
+    accueil_->setParent(viewport());
+    MontreAccueil();
+}
+
+/// A window that is hidden comes back: only without any is the desk empty.
+void BureauEcrans::MontreAccueil() {
+    if (accueil_ == nullptr) return;
+    accueil_->setGeometry(viewport()->rect());
+    accueil_->setVisible(std::all_of(cadres_.begin(), cadres_.end(), [](const auto& c) { return !c.second; }));
+}
+
+void BureauEcrans::resizeEvent(QResizeEvent* evenement) {
+    QMdiArea::resizeEvent(evenement);
+    if (accueil_ != nullptr) accueil_->setGeometry(viewport()->rect());
 }
 
 void BureauEcrans::Cache(std::string_view nom) {
@@ -83,6 +104,7 @@ void BureauEcrans::Ferme(std::string_view nom) {
     cadre->hide();
     removeSubWindow(cadre);
     cadre->deleteLater(); // the request may come out of one of its own buttons
+    MontreAccueil();
 }
 
 void BureauEcrans::FermeTout() {
@@ -112,9 +134,15 @@ FenetreEnfant* BureauEcrans::Active() const {
     return premier == nullptr ? nullptr : Ouverte(premier->nom);
 }
 
-void BureauEcrans::Dit(void (FenetreEnfant::*quoi)()) const {
+std::vector<FenetreEnfant*> BureauEcrans::Ouvertes() const {
+    std::vector<FenetreEnfant*> ouvertes;
     for (const EcranEnfant& ecran : LesEcrans())
-        if (FenetreEnfant* fenetre = Ouverte(ecran.nom)) (fenetre->*quoi)();
+        if (FenetreEnfant* fenetre = Ouverte(ecran.nom)) ouvertes.push_back(fenetre);
+    return ouvertes;
+}
+
+void BureauEcrans::Dit(void (FenetreEnfant::*quoi)()) const {
+    for (FenetreEnfant* fenetre : Ouvertes()) (fenetre->*quoi)();
 }
 
 bool BureauEcrans::Obtient(bool (FenetreEnfant::*quoi)()) const {

@@ -9,6 +9,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class FenetreEnfant;
 class QMdiSubWindow;
@@ -26,8 +27,14 @@ public:
     /// The child window of that name that is open, shown or hidden; none otherwise.
     FenetreEnfant* Ouverte(std::string_view nom) const;
 
+    /// All that are open, in the order of their rows.
+    std::vector<FenetreEnfant*> Ouvertes() const;
+
     /// Shows a child window as it was hidden; opens it when it is not open.
     void Montre(std::string_view nom);
+
+    /// Takes the page that stands on the desk while no child window does.
+    void PlaceAccueil(QWidget* accueil);
 
     void Cache(std::string_view nom);
     void Ferme(std::string_view nom);
@@ -54,10 +61,13 @@ signals:
 
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
 
 private:
     QMdiSubWindow* Cadre(std::string_view nom) const;
     void Place(QMdiSubWindow& cadre);
+    void MontreAccueil();
 
+    QWidget* accueil_ = nullptr;
     std::map<std::string, QPointer<QMdiSubWindow>, std::less<>> cadres_; ///< of the open windows, by name
 };

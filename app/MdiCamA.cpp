@@ -3,14 +3,15 @@
 #include "app/Aide.h"
 #include "app/BureauEcrans.h"
 #include "app/CameType.h"
+#include "app/PageAccueil.h"
 #include "app/Propos.h"
+#include "app/TextesApp.h"
 #include "data/Demarrage.h"
 #include "data/TextesSaisie.h"
 #include "inertia/TextesInertie.h"
 #include "laws/ChoixLois.h"
 #include "laws/screens/QuelLoi.h"
 #include "studies/Exports.h"
-#include "studies/FichierEtude.h"
 #include "studies/RapportsCames.h"
 #include "studies/TypesEtude.h"
 #include "studies/screens/SeleSauv.h"
@@ -19,12 +20,15 @@
 #include "widgets/Chaines.h"
 #include "widgets/FenetreEnfant.h"
 #include "widgets/ImprimantePoste.h"
+#include "widgets/TailleEcran.h"
+#include "widgets/TextesQt.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QScreen>
 #include <QStatusBar>
+
+#include <chrono>
 
 namespace {
 
@@ -32,26 +36,30 @@ enum NumerosTexte {
     TexteTitre = 7,
     TexteRienASauver = 23,
     TexteNouvelleEtude = 80,
-    TextePret = 119,
     TexteEtudeCalculee = 121,
-    TexteEtudeOuverte = 122,
-    TexteTitreOuvrir = 125,
     TexteFichierEnregistre = 127,
-    TexteLectureImpossible = 128,
     TexteConfigurationSauvee = 130,
     TexteEntrezTitre = 133,
     TexteRienAImprimer = 135,
     TexteRotation = 435,
 };
 
+/// A killed program loses what was entered in that time at most.
+constexpr std::chrono::seconds IntervalleGarde{2};
+
 /// Size that the window opens at, where the display has room for it.
 constexpr QSize TailleFenetre(1320, 900);
 
 } // namespace
 
-MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new BureauEcrans), etat_(new QLabel) {
+MdiCamA::MdiCamA(const Configuration& configuration)
+    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel), travaux_(FichierReprise(CheminAppli)) {
     setObjectName(QStringLiteral("MdiCamA"));
+    ChargeTextesQt(LangueTravail);
     setCentralWidget(bureau_);
+    setAcceptDrops(true);
+    connect(accueil_, &PageAccueil::EtudeChoisie, this, &MdiCamA::CommenceEtude);
+    connect(accueil_, &PageAccueil::FichierChoisi, this, &MdiCamA::OuvreAutre);
     connect(bureau_, &BureauEcrans::Creee, this, [this](FenetreEnfant* fenetre) { Relie(*fenetre); });
     etat_->setObjectName(QStringLiteral("Etat"));
     etat_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long message does not widen the window
@@ -62,8 +70,10 @@ MdiCamA::MdiCamA(const Configuration& configuration) : bureau_(new BureauEcrans)
     AppliqueTextes();
     const std::vector<QAction*> marques = EntreesMarques();
     for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
-    Annonce(Texte(TextePret));
-    resize(TailleFenetre.boundedTo(screen()->availableSize()));
+    bureau_->PlaceAccueil(accueil_);
+    connect(&garde_, &QTimer::timeout, this, &MdiCamA::GardeTravaux);
+    Annonce(Texte(travaux_.Offerts() ? int{TexteRepriseOfferte} : int{TextePret}));
+    TientSurEcran(*this, TailleFenetre);
 }
 
 void MdiCamA::Annonce(const std::string& texte) {
@@ -86,64 +96,9 @@ void MdiCamA::CommenceEtude(const ChoixEtude& choix) {
     VideEtude();
     etude.donnees.TypeCame = choix.typeCame ? choix.typeCame : ancienType;
     OuvreEcran(choix.Ecran());
+    NoteEtudeSauvee();
     etude.resultats.Erreur = Faux;
     Annonce(Texte(TexteNouvelleEtude));
-}
-
-void MdiCamA::Ouvrir() {
-    OuvreParType(nullptr);
-}
-
-void MdiCamA::OuvreParType(const TypeEtude* type) {
-    if (RotationEmpeche()) return;
-    DemandeFichier demande{Texte(TexteTitreOuvrir), CheminAppli / NomDossierEtudes, {}, {}};
-    for (const TypeEtude& t : LesTypesEtude())
-        if (type ? &t == type : t.Disponible()) demande.filtres.push_back(FiltreEtude(t));
-    if (type) demande.titre += " " + Texte(type->titre);
-    const auto chemin = LesDialogues().FichierAOuvrir(demande);
-    // Whoever cancels finds his screens and his study as they were.
-    if (chemin && !chemin->empty()) OuvreFichier(*chemin);
-}
-
-void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {
-    const Sablier sablier;
-    FermeEcrans();
-    const std::string nom = S(QChemin(chemin.filename()));
-    Annonce(Texte(TextePret));
-    VideEtude();
-    try {
-        if (!LitFichierEtude(chemin)) {
-            if (etude.lois.DeFichier) Annonce(Texte(TexteLoisAuDemarrage));
-            return;
-        }
-    } catch (const ErreurExecution& erreur) {
-        Annonce(Texte(TexteLectureImpossible) + " " + nom + " : " + SensErreur(erreur));
-        return;
-    }
-    if (!CalculeOuverte()) {
-        // What was read can be put right on its data screen.
-        etude.resultats.ResultatsPrets = Faux;
-        OuvreEcran(TrouveType(etude.donnees.TypeCame)->ecranSaisie);
-        return;
-    }
-    etude.resultats.ResultatsPrets = Vrai;
-    MontreResultats();
-    Annonce(Texte(TexteEtudeOuverte) + " " + nom);
-}
-
-/// Calculates the study that was read; false after a box that says why it cannot be.
-bool MdiCamA::CalculeOuverte() {
-    if (const auto* faute = TrouveType(etude.donnees.TypeCame)->ChercheFaute()) {
-        LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
-        return false;
-    }
-    try {
-        CalculeEtude();
-    } catch (const ErreurExecution& erreur) {
-        LesDialogues().Message(Icone::Critique, TexteErreur(erreur));
-        return false;
-    }
-    return SansErreur();
 }
 
 void MdiCamA::Sauvegarder() {
@@ -155,7 +110,9 @@ void MdiCamA::Sauvegarder() {
     if (active != nullptr) return active->Enregistrer();
     if (!bureau_->Obtient(&FenetreEnfant::PrendSaisie)) return;
     SeleSauv sauvegarde([this] { return bureau_->Obtient(&FenetreEnfant::MetAJour); }, this);
-    connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this] {
+    connect(&sauvegarde, &SeleSauv::FichierEnregistre, this, [this](const QString& chemin) {
+        NoteRecent(Chemin(chemin));
+        NoteEtudeSauvee();
         Annonce(Texte(TexteFichierEnregistre) + " " + etude.donnees.NomFichier);
         bureau_->Dit(&FenetreEnfant::MontreNomFichier);
     });
@@ -229,6 +186,7 @@ void MdiCamA::ChangeLangue(const std::string& langue) {
     if (RotationEmpeche()) return AppliqueTextes(); // the mark goes back to the language in use
     LangueTravail = langue;
     ChargeTextes(LaBase);
+    ChargeTextesQt(langue);
     AppliqueTextes();
     FermeEcrans();
     bureau_->Dit(&FenetreEnfant::AppliqueTextes);
@@ -263,7 +221,9 @@ bool MdiCamA::RotationEmpeche() {
 }
 
 void MdiCamA::FermeEcrans() {
+    Abandonne(TravauxOuverts());
     bureau_->FermeTout();
+    GardeTravaux();
 }
 
 FenetreEnfant* MdiCamA::OuvreEcran(std::string_view nom) {
@@ -281,12 +241,16 @@ void MdiCamA::MontreEcran(const char* nom) {
 void MdiCamA::Relie(FenetreEnfant& fenetre) {
     connect(&fenetre, &FenetreEnfant::EtudeCalculee, this, &MdiCamA::MontreResultats);
     connect(&fenetre, &FenetreEnfant::EtudeRecalculee, this, [this] { Annonce(Texte(TexteEtudeCalculee)); });
-    connect(&fenetre, &FenetreEnfant::FichierEnregistre, this,
-            [this](const QString& nom) { Annonce(Texte(TexteFichierEnregistre) + " " + S(nom)); });
+    connect(&fenetre, &FenetreEnfant::FichierEnregistre, this, [this, &fenetre](const QString& nom) {
+        NoteSauve(fenetre);
+        Annonce(Texte(TexteFichierEnregistre) + " " + S(nom));
+    });
     connect(&fenetre, &FenetreEnfant::ImpressionDemandee, this, [this, &fenetre] { ImprimeFenetre(fenetre); });
     connect(&fenetre, &FenetreEnfant::Annonce, this, [this](const QString& texte) { Annonce(S(texte)); });
     connect(&fenetre, &FenetreEnfant::InertieOfferte, this, &MdiCamA::DonneInertie);
     connect(&fenetre, &FenetreEnfant::Quitte, this, [this, &fenetre] { Quitte(fenetre); });
+    NoteSauve(fenetre);
+    garde_.start(IntervalleGarde);
 }
 
 void MdiCamA::DonneInertie(double inertie) {
@@ -305,12 +269,18 @@ void MdiCamA::MontreResultats() {
     Annonce(Texte(TexteEtudeCalculee));
 }
 
-void MdiCamA::Quitte(const FenetreEnfant& fenetre) {
+void MdiCamA::Quitte(FenetreEnfant& fenetre) {
     const std::string nom = fenetre.Nom();
-    bureau_->Ferme(nom);
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
-    if (type != nullptr && type->ResultatsAPart() && nom == type->ecranResultats)
+    if (type != nullptr && type->ResultatsAPart() && nom == type->ecranResultats) {
+        bureau_->Ferme(nom);
         bureau_->Montre(type->ecranSaisie); // not open yet when the study came from a file
-    else
-        Annonce(Texte(TextePret));
+        return;
+    }
+    std::vector<Travail> perdus = TravauxOuverts();
+    std::erase_if(perdus, [&nom](const Travail& travail) { return travail.ecran != nom; });
+    Annonce(Texte(perdus.empty() ? int{TextePret} : int{TexteRepriseOfferte}));
+    Abandonne(std::move(perdus));
+    bureau_->Ferme(nom);
+    GardeTravaux();
 }

@@ -3,11 +3,14 @@
 #pragma once
 
 #include "app/Commandes.h"
+#include "app/TravauxRepris.h"
 #include "data/Configuration.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <filesystem>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,6 +21,7 @@ class QLabel;
 class QToolBar;
 class BureauEcrans;
 class FenetreEnfant;
+class PageAccueil;
 struct ChoixEtude;
 struct ChoixLoi;
 struct TypeEtude;
@@ -52,6 +56,12 @@ public:
     /// status line.
     void OuvreFichier(const std::filesystem::path& chemin);
 
+    /// Opens a study file in the place of what is open.
+    void OuvreAutre(const std::filesystem::path& chemin);
+
+    /// Takes back what was given up last without being saved; what is open and not saved can be taken back in its turn.
+    void Reprendre();
+
     /// Takes another working language: texts, screens, help.
     void ChangeLangue(const std::string& langue);
 
@@ -60,6 +70,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
 
 private:
     static std::span<const EntreeMenu> LeMenu();
@@ -96,16 +108,37 @@ private:
     void SauveConfiguration();
     void Quitter();
 
+    // Files, in OuverturesMdi.cpp.
+    bool CalculeOuverte();
+    void NoteRecent(const std::filesystem::path& chemin);
+    void MontreRecents();
+    void MontreAccueil();
+
+    // What is entered and not saved, in RepriseMdi.cpp.
+    bool MontreEtude(const FenetreEnfant& fenetre) const;
+    Travail TravailDe(FenetreEnfant& fenetre) const;
+    std::vector<Travail> TravauxOuverts() const;
+    void NoteSauve(FenetreEnfant& fenetre);
+    void NoteEtudeSauvee();
+    void Abandonne(std::vector<Travail> travaux);
+    void MontreOfferts();
+    void Rouvre(const Travail& travail);
+    void GardeTravaux();
+
     // Child windows.
     bool RotationEmpeche();
     void Relie(FenetreEnfant& fenetre);
-    bool CalculeOuverte();
     void MontreEcran(const char* nom);
     void DonneInertie(double inertie);
     void MontreResultats();
-    void Quitte(const FenetreEnfant& fenetre);
+    void Quitte(FenetreEnfant& fenetre);
 
     BureauEcrans* bureau_;
+    PageAccueil* accueil_;
     QToolBar* barre_;
     QLabel* etat_;
+    TravauxRepris travaux_;
+    std::map<std::string, std::string, std::less<>> sauves_; ///< what each window held when it was opened or last saved
+    std::vector<std::filesystem::path> recents_;             ///< opened or saved in this run, the last first
+    QTimer garde_;                                           ///< brings the recovery file up to date
 };

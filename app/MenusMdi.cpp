@@ -2,6 +2,7 @@
 #include "app/CameType.h"
 #include "app/Ecrans.h"
 #include "app/MdiCamA.h"
+#include "app/TextesApp.h"
 #include "data/Demarrage.h"
 #include "laws/ChoixLois.h"
 #include "studies/TypesEtude.h"
@@ -77,6 +78,8 @@ std::span<const EntreeMenu> MdiCamA::LeMenu() {
         {"FichierNouveau", 1, 39, E::Ordre, {.fait = &M::Nouveau, .aide = 80, .raccourci = "Ctrl+N", .cle = "Nouveau", .deroule = &M::AjouteEtudes}},
         {"FichierOuvrir", 1, 40, E::Ordre, {.fait = &M::Ouvrir, .aide = 81, .raccourci = "Ctrl+O", .cle = "Ouvre", .deroule = &M::AjouteOuvertures}},
         {"FichierSauvegarde", 1, 41, E::Ordre, {.fait = &M::Sauvegarder, .aide = 82, .raccourci = "Ctrl+S", .cle = "Sauve"}},
+        {"FichierRecents", 1, TexteFichiersRecents, E::Menu},
+        {"FichierReprendre", 1, TexteReprendre, E::Ordre, {.fait = &M::Reprendre, .raccourci = "Ctrl+Shift+T"}},
         {"", 1, 0, E::Trait},
         {"FichierLangues", 1, 42, E::Menu},
         {"FichierLanguesTravail", 2, 43, E::Menu},
@@ -132,6 +135,8 @@ void MdiCamA::ConstruitMenus() {
             ConstruitCommande(*parents.back(), entree);
         }
     }
+    Action("FichierReprendre")->setEnabled(travaux_.Offerts());
+    MontreRecents();
     ConstruitLangues(*findChild<QMenu*>(QStringLiteral("FichierLanguesTravail")));
 }
 
@@ -234,6 +239,7 @@ void MdiCamA::AppliqueTextes() {
     }
     for (QAction* langue : findChildren<QAction*>(QString::fromLatin1(NomLangueMenu)))
         langue->setChecked(S(langue->text()) == LangueTravail);
+    MontreAccueil();
 }
 
 void MdiCamA::AppliqueTextesBouton(const Commande& commande) {

@@ -6,6 +6,7 @@
 #include "data/Demarrage.h"
 #include "data/EchecDemarrage.h"
 #include "widgets/Application.h"
+#include "widgets/Chaines.h"
 #include "widgets/DialoguesQt.h"
 
 #include <cstdio>
@@ -51,6 +52,8 @@ int main(int argc, char** argv) {
         MdiCamA fenetre(configuration);
         ChoisitAide();
         fenetre.show();
+        if (const QString fichier = Application::arguments().value(1); !fichier.isEmpty())
+            fenetre.OuvreAutre(Chemin(fichier));
         statut = Application::exec();
     } catch (const std::exception& erreur) {
         AnnonceEchec(erreur);

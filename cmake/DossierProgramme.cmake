@@ -1,5 +1,5 @@
-# The folder of the program: executables, catalogue database, configuration, worked examples. The build makes it complete
-# in the build tree; `cmake --install` makes the same folder anywhere.
+# The folder of the program: executables, catalogue database, configuration, worked examples, the toolkit's texts. The
+# build makes it complete in the build tree; `cmake --install` makes the same folder anywhere.
 set(VELORIN_DOSSIER ${CMAKE_BINARY_DIR}/velorin)
 
 function(velorin_dossier_programme)
@@ -25,9 +25,24 @@ function(velorin_dossier_programme)
       VERBATIM)
     list(APPEND ACCOMPAGNEMENT ${VELORIN_DOSSIER}/${FICHIER})
   endforeach()
+  # Without the package of the toolkit's texts these stay English.
+  foreach(LANGUE fr es)
+    set(TEXTES_QT ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_TRANSLATIONS}/qtbase_${LANGUE}.qm)
+    if(NOT EXISTS ${TEXTES_QT})
+      message(WARNING "No ${TEXTES_QT}: install qt6-translations-l10n")
+      continue()
+    endif()
+    add_custom_command(
+      OUTPUT ${VELORIN_DOSSIER}/translations/qtbase_${LANGUE}.qm
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${VELORIN_DOSSIER}/translations
+      COMMAND ${CMAKE_COMMAND} -E copy ${TEXTES_QT} ${VELORIN_DOSSIER}/translations/
+      DEPENDS ${TEXTES_QT}
+      VERBATIM)
+    list(APPEND ACCOMPAGNEMENT ${VELORIN_DOSSIER}/translations/qtbase_${LANGUE}.qm)
+  endforeach()
   add_custom_target(dossier_programme ALL DEPENDS ${ACCOMPAGNEMENT})
 
   install(TARGETS velorin velorin-batch RUNTIME DESTINATION .)
   install(FILES ${BASE} CameAng.cfg DESTINATION .)
-  install(DIRECTORY Profils DESTINATION .)
+  install(DIRECTORY Profils ${VELORIN_DOSSIER}/translations DESTINATION .)
 endfunction()

@@ -11,6 +11,9 @@ public:
 
     bool Fin() const { return reste_.empty(); }
 
+    /// What was not read yet.
+    std::string_view Reste() const { return reste_; }
+
     /// The next line without its line end, CR LF or LF.
     /// @throws ErreurExecution input past the end of the file.
     std::string_view Suivante() {

@@ -38,6 +38,14 @@ struct PlageTable {
     int premiereColonne = 0, colonnes = 0;
 };
 
+/// Appends the headings of the columns of a part of a table, each with its unit behind it, as one line.
+void AjouteEnTetes(std::string& sortie, const TableTexte& table, const PlageTable& plage, char separateur,
+                   std::string_view finDeLigne);
+
+/// The whole table for a spreadsheet: headings, then a row a line. Texts that hold the separator or a quotation mark
+/// are quoted; a number gets the decimal separator given, and figures on both sides of it ("5." is 5, "." is 0).
+std::string ComposeCsv(const TableTexte& table, char separateur, char decimale);
+
 /// Appends the cells of a part of a table, a row a line.
 void AjouteCellules(std::string& sortie, const TableTexte& table, const PlageTable& plage, char separateur,
                     std::string_view finDeLigne);

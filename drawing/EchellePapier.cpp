@@ -30,10 +30,10 @@ std::string TexteEchelle(double echelle) {
     return echelle < 0.01 ? StrTrim(echelle) : Format(echelle, "0.##");
 }
 
-void DessineRegle(Dessin& dessin, const std::string& unite, double hauteurTexte, const Trait& trait) {
-    constexpr double longueur = 50, cran = 2.5;
+void DessineRegle(Dessin& dessin, const std::string& texte, double hauteurTexte, const Trait& trait) {
+    constexpr double longueur = LongueurRegle, cran = 2.5;
     const double y = dessin.Hauteur() - cran, x = dessin.Largeur() - longueur;
     dessin.Ligne({x, y}, {x + longueur, y}, trait);
     for (const double bout : {x, x + longueur}) dessin.Ligne({bout, y - cran / 2}, {bout, y + cran / 2}, trait);
-    dessin.Texte({x - 2, y}, "50 " + unite, Ancrage::Droite, hauteurTexte);
+    dessin.Texte({x - 2, y}, texte, Ancrage::Droite, hauteurTexte);
 }

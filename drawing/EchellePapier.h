@@ -11,6 +11,9 @@ double ChoisitEchelle(const Etendue& etendue, double largeur, double hauteur);
 /// A scale as a page states it; one below 0.01 with all its digits.
 std::string TexteEchelle(double echelle);
 
-/// A bar of 50 mm at the lower right of the surface, to check that the printer has not resized the page.
-/// @param unite name of the millimetre
-void DessineRegle(Dessin& dessin, const std::string& unite, double hauteurTexte, const Trait& trait);
+/// Length of the bar below a drawing, mm of paper.
+inline constexpr double LongueurRegle = 50;
+
+/// The bar at the lower right of the surface, to check that the printer has not resized the page.
+/// @param texte what it measures
+void DessineRegle(Dessin& dessin, const std::string& texte, double hauteurTexte, const Trait& trait);

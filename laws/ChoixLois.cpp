@@ -101,6 +101,13 @@ const ChoixLoi* TrouveChoixLoi(std::string_view cle) {
     return trouve == std::end(choix) ? nullptr : trouve;
 }
 
+int TexteLoi(std::string_view loi) {
+    if (loi == NomLoiFichier) return 279;
+    const auto trouve = std::find_if(std::begin(choix), std::end(choix),
+                                     [&](const ChoixLoi& c) { return c.loi != nullptr && loi == c.loi; });
+    return trouve == std::end(choix) ? 0 : trouve->texte;
+}
+
 std::string TitreLoiChoisie() {
     const auto trouve = std::find_if(std::begin(choix), std::end(choix), [](const ChoixLoi& c) {
         return c.loi != nullptr && etude.lois.LoiChoisie == c.loi;

@@ -26,6 +26,9 @@ std::span<const ChoixLoi> LesChoixLois();
 /// The row of a tool bar key; none for an unknown one.
 const ChoixLoi* TrouveChoixLoi(std::string_view cle);
 
+/// Text number of the name of a law by its key, that of a law file included; 0 when no picture has it.
+int TexteLoi(std::string_view loi);
+
 /// Caption of the study of `LoiChoisie`; the key itself when no picture has it.
 std::string TitreLoiChoisie();
 

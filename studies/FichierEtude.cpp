@@ -115,7 +115,7 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     return contenu;
 }
 
-bool DonneesDepart() {
+std::optional<std::filesystem::path> DonneesDepart() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     const auto chemin =
@@ -123,8 +123,8 @@ bool DonneesDepart() {
                                        CheminAppli / NomDossierEtudes,
                                        NomSansExtension(etude.donnees.NomFichier) + "." + type->extension,
                                        {FiltreEtude(*type)}});
-    if (!chemin || chemin->empty()) return false;
+    if (!chemin || chemin->empty()) return {};
     EcritFichierEntier(*chemin, ComposeFichierEtude(*type, SeparateurRegional()));
     etude.donnees.NomFichier = chemin->filename().string();
-    return true;
+    return chemin;
 }

@@ -4,6 +4,7 @@
 #include "studies/TypesEtude.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,6 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type);
 std::string ComposeFichierEtude(const TypeEtude& type, char separateur);
 
 /// Asks for a file name and writes the present study there, whole or not at all.
-/// @return false when the user cancelled.
+/// @return where it stands; none when the user cancelled.
 /// @throws ErreurExecution disk full, access refused, input/output; the study and the old file are as they were.
-bool DonneesDepart();
+std::optional<std::filesystem::path> DonneesDepart();

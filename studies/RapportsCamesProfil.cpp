@@ -5,7 +5,6 @@
 #include "core/Etude.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
-#include "data/Unites.h"
 #include "drawing/EchellePapier.h"
 #include "drawing/LegendeDessin.h"
 #include "drawing/PlanDessin.h"
@@ -143,6 +142,14 @@ double DessineDeveloppee(Dessin& dessin) {
     return papier.echelle;
 }
 
+enum NumerosTexte { TexteSurPapier = 937, TexteSurCame = 938 };
+
+/// What the bar measures, on the sheet and on the cam that is drawn to scale.
+std::string TexteRegle(double echelle) {
+    return StrTrim(LongueurRegle) + " " + Texte(TexteSurPapier) + " = " + StrTrim(LongueurRegle / echelle) + " " +
+           Texte(TexteSurCame);
+}
+
 /// A page of its own for a drawing to scale, whose last line states the scale.
 void ImprimeProfil(double (*dessine)(Dessin&)) {
     Imprimante& imprimante = ImprimanteEnCours();
@@ -153,7 +160,7 @@ void ImprimeProfil(double (*dessine)(Dessin&)) {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
         DessineNoms(*dessin);
         echelle = dessine(*dessin);
-        DessineRegle(*dessin, Texte(UniteMm), HauteurTexte, traitAxe);
+        DessineRegle(*dessin, TexteRegle(echelle), HauteurTexte, traitAxe);
     }
     imprimante.PlaceTete(derniereLigne);
     ImprimeLigneCames(Texte(488) + " : " + TexteEchelle(echelle));

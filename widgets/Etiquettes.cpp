@@ -14,9 +14,7 @@ QLabel* FaitValeur(const char* nom, const char* gabarit) {
 }
 
 QLabel* FaitUnite(const QString& texte) {
-    auto* unite = new QLabel(texte);
-    unite->setForegroundRole(QPalette::PlaceholderText);
-    return unite;
+    return new QLabel(texte);
 }
 
 QLabel* FaitNotes() {

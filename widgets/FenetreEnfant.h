@@ -66,6 +66,18 @@ public:
     /// @return false when this window asks for none
     virtual bool PrendInertie(double) { return false; }
 
+    /// Takes what stands in the fields into the study record, as leaving each of them would.
+    virtual void LitSaisie() {}
+
+    /// What was entered in this window and would be lost with it, as text for `Reprend`. It is kept for the case that
+    /// the window is given up, or the program killed, unless it is what it was when the window was opened or last
+    /// saved. Empty where nothing would be lost, and for a window of a cam study, which is kept as a study.
+    virtual std::string Travail() const { return {}; }
+
+    /// Shows again what `Travail` gave, in a window just opened.
+    /// @throws ErreurExecution when it is damaged.
+    virtual void Reprend(const std::string& /*contenu*/) {}
+
     /// What the window leaves in the study record when it is closed. What an active window holds goes with it.
     virtual void Ferme();
 

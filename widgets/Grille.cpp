@@ -1,16 +1,22 @@
 #include "widgets/Grille.h"
 
 #include "core/ErreurExecution.h"
+#include "core/FichierEntier.h"
+#include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/TextesWidgets.h"
 
 #include <QAbstractTableModel>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLocale>
+#include <QMenu>
 
 #include <algorithm>
 
@@ -62,6 +68,8 @@ private:
 
 namespace {
 
+enum NumerosTexte { TexteCopier = 754, TexteToutSelectionner = 753 };
+
 /// Rows looked at to size a column.
 constexpr int LignesEchantillon = 40;
 
@@ -86,6 +94,8 @@ Grille::Grille(QWidget* parent) : QTableView(parent), modele_(new ModeleGrille(t
 }
 
 void Grille::Remplit(TableTexte table) {
+    // On paper some headings stand above nothing; here they would only take room.
+    if (table.lignes > 0) std::erase_if(table.colonnes, [](const ColonneTexte& colonne) { return !colonne.cellule; });
     modele_->Remplit(std::move(table));
     MesureColonnes();
     PlaceColonnes();
@@ -138,15 +148,47 @@ void Grille::PlaceColonnes() {
 QString Grille::TexteSelection() const {
     std::string texte;
     const QItemSelection selection = selectionModel()->selection();
-    for (const QItemSelectionRange& plage : selection)
-        AjouteCellules(texte, modele_->Table(), {plage.top(), plage.height(), plage.left(), plage.width()}, '\t', "\n");
+    for (const QItemSelectionRange& plage : selection) {
+        const PlageTable cellules{plage.top(), plage.height(), plage.left(), plage.width()};
+        AjouteEnTetes(texte, modele_->Table(), cellules, '\t', "\n");
+        AjouteCellules(texte, modele_->Table(), cellules, '\t', "\n");
+    }
     return Q(texte);
+}
+
+void Grille::Copie() {
+    const QString texte = TexteSelection();
+    if (!texte.isEmpty()) QGuiApplication::clipboard()->setText(texte);
+}
+
+/// A spreadsheet reads such a file right by a double click: the separators are those of the machine's settings.
+void Grille::EnregistreCsv() {
+    const auto chemin =
+        LesDialogues().FichierASauver({Texte(TexteTableCsv), {}, "table.csv", {{"CSV (*.csv)", "*.csv"}}});
+    if (!chemin || chemin->empty()) return;
+    const bool virgule = QLocale::system().decimalPoint() == QLatin1String(",");
+    const std::string utf8 = "\xEF\xBB\xBF";
+    EcritFichierEntier(*chemin, utf8 + ComposeCsv(modele_->Table(), virgule ? ';' : ',', virgule ? ',' : '.'));
+}
+
+void Grille::contextMenuEvent(QContextMenuEvent* evenement) {
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("MenuGrille"));
+    const auto ajoute = [&](int texte, bool possible, auto fait) {
+        QAction* action = menu.addAction(QTexte(texte), this, fait);
+        action->setEnabled(possible);
+        return action;
+    };
+    ajoute(TexteCopier, selectionModel()->hasSelection(), [this] { Copie(); })->setShortcut(QKeySequence::Copy);
+    ajoute(TexteToutSelectionner, NombreLignes() > 0, [this] { selectAll(); })->setShortcut(QKeySequence::SelectAll);
+    menu.addSeparator();
+    ajoute(TexteEnregistrerCsv, NombreLignes() > 0, [this] { EnregistreCsv(); });
+    menu.exec(evenement->globalPos());
 }
 
 void Grille::keyPressEvent(QKeyEvent* evenement) {
     if (evenement->matches(QKeySequence::Copy)) {
-        const QString texte = TexteSelection();
-        if (!texte.isEmpty()) QGuiApplication::clipboard()->setText(texte);
+        Copie();
         evenement->accept();
         return;
     }

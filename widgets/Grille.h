@@ -16,6 +16,7 @@ class Grille : public QTableView {
 public:
     explicit Grille(QWidget* parent = nullptr);
 
+    /// Shows a table, without the columns that have only their heading.
     void Remplit(TableTexte table);
 
     /// Text of a cell, subscripts from 0; empty outside the table.
@@ -23,15 +24,19 @@ public:
     int NombreLignes() const;
     int NombreColonnes() const;
 
-    /// The selected cells, tab-separated, one row a line; empty without a selection.
+    /// The selected cells below the headings of their columns, tab-separated, one row a line; empty without a
+    /// selection.
     QString TexteSelection() const;
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
 private:
+    void Copie();
+    void EnregistreCsv();
     void MesureColonnes();
     void PlaceColonnes();
 

@@ -16,7 +16,10 @@ public:
     /// The procedure that draws this sheet from now on. A failure in it is told once, and leaves the sheet empty.
     void Peint(std::function<void(Dessin&)> procedure);
 
-    QSize sizeHint() const override { return {420, 320}; }
+    /// The room it asks for where there is enough; less will do.
+    void Prefere(QSize taille) { taille_ = taille; }
+
+    QSize sizeHint() const override { return taille_; }
     QSize minimumSizeHint() const override { return {120, 90}; }
 
 protected:
@@ -24,4 +27,5 @@ protected:
 
 private:
     std::function<void(Dessin&)> procedure_;
+    QSize taille_{420, 320};
 };

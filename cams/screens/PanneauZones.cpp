@@ -3,6 +3,7 @@
 #include "cams/LimitesSaisie.h"
 #include "cams/ListeZones.h"
 #include "cams/RemarquesZones.h"
+#include "cams/screens/ListeLois.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "data/TextesSaisie.h"
@@ -88,7 +89,9 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     AppliqueLegendes(*this, legendes);
     RelieChamps();
 
-    zonesEntrees_ = etude.donnees.NombreZones;
+    // A study taken back may have zones that were not entered yet: they have no law.
+    while (zonesEntrees_ < etude.donnees.NombreZones && !etude.donnees.Zones[zonesEntrees_ + 1].NomLoi.empty())
+        ++zonesEntrees_;
     etude.donnees.ZoneCourante = 1;
     nombreZones_->Montre(etude.donnees.NombreZones);
     pointsParDegre_->setCurrentText(etude.donnees.PointsParDegre == 0 ? "1"
@@ -107,6 +110,7 @@ QWidget* PanneauZones::FaitCadreZone(const ChampsZones& noms) {
     loi_ = FaitListe("Combo1");
     loi_->setMinimumContentsLength(11);
     for (const auto& nom : NomsLoisZones()) loi_->addItem(Q(nom));
+    NommeLois(*loi_);
     champs->addWidget(FaitEtiquette("EtiquetteCombo1", loi_), 3, 0);
     champs->addWidget(loi_, 3, 1);
     symetrie_ = AjouteLigneChamp(*champs, 4, noms.symetrie, 178, 0);

@@ -33,6 +33,7 @@ public:
 
     bool PrendSaisie() override;
     bool MetAJour() override;
+    void LitSaisie() override { LitDonnees(); }
 
 protected:
     /// @param description must outlive the screen (a constant).

@@ -1,5 +1,6 @@
 #include "laws/screens/EcranLoi.h"
 
+#include "core/Lignes.h"
 #include "data/Textes.h"
 #include "laws/CalculLois.h"
 #include "laws/ChoixLois.h"
@@ -96,6 +97,21 @@ void EcranLoi::Imprime(Imprimante& imprimante) const {
     ImprimeEtudeLoi(imprimante, Rapport());
 }
 
+/// The unit, the points per degree, and what stands in the fields, a line each.
+std::string EcranLoi::Travail() const {
+    std::string contenu = (option1_->isChecked() ? option1_ : option2_)->objectName().toStdString() + FinDeLigne;
+    contenu += S(pointsParDegre_->currentText()) + FinDeLigne;
+    for (const Ligne& ligne : champs_) contenu += S(ligne.zone->text()) + FinDeLigne;
+    return contenu;
+}
+
+void EcranLoi::Reprend(const std::string& contenu) {
+    Lignes lignes(contenu);
+    (lignes.Suivante() == "Option1" ? option1_ : option2_)->setChecked(true);
+    pointsParDegre_->setCurrentText(Q(std::string(lignes.Suivante())));
+    for (const Ligne& ligne : champs_) ligne.zone->setText(Q(std::string(lignes.Suivante())));
+}
+
 void EcranLoi::Ferme() {
     FenetreEnfant::Ferme();
     etude.donnees.TypeLoi.clear();
@@ -161,7 +177,7 @@ QWidget* EcranLoi::FaitResultats() {
 QWidget* EcranLoi::FaitOnglets() {
     auto* onglets = Nomme(new QTabWidget, "SSTab1");
     courbes_ = Nomme(new ZoneDessin, "Courbes");
-    courbes_->setMinimumSize(TailleCourbes);
+    courbes_->Prefere(TailleCourbes);
     grille_ = Nomme(new Grille, "Grille");
     // The layout of a page tells the sheet's least size on; a bare sheet would be asked for its usual one.
     auto* page = new QWidget;

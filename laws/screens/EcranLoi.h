@@ -31,6 +31,9 @@ public:
 
     void Imprime(Imprimante& imprimante) const override;
 
+    std::string Travail() const override;
+    void Reprend(const std::string& contenu) override;
+
     /// A law study lives on its screen only.
     void Ferme() override;
 

@@ -87,6 +87,10 @@ constexpr Legende legendes[] = {
     {"Scripts", 0, TexteBoutonScripts},
 };
 
+// All values stand without a scroll bar on a display of 1280 x 720, with room for four zones.
+constexpr int EcartLignes = 2;
+constexpr int HauteurZones = 108;
+
 /// Room for the widest of the values.
 constexpr const char* Gabarit = "-00000.00";
 
@@ -141,13 +145,14 @@ QWidget* Resultat::FaitValeurs() {
     auto* disposition = new QGridLayout(feuille);
     donnees_ = Nomme(new QGroupBox, "Donnees");
     dispositionDonnees_ = new QGridLayout(donnees_);
+    dispositionDonnees_->setVerticalSpacing(EcartLignes);
     disposition->addWidget(donnees_, 0, 0, 2, 1);
 
     for (const auto& place : groupes)
         disposition->addWidget(FaitGroupe(place.controle, place.groupe), place.rang, place.colonne);
     disposition->addWidget(FaitRecalcul(), 1, 1);
     zones_ = Nomme(new Grille, "Grille");
-    zones_->setMinimumHeight(150);
+    zones_->setMinimumHeight(HauteurZones);
     disposition->addWidget(Nomme(new QLabel, "TitreGrille"), 2, 0, 1, 3);
     remarques_ = Nomme(new Remarques, "RemarquesZones");
     disposition->addWidget(remarques_, 3, 0, 1, 3);
@@ -161,6 +166,7 @@ QWidget* Resultat::FaitValeurs() {
 QWidget* Resultat::FaitGroupe(const char* nom, int groupe) {
     auto* cadre = Nomme(new QGroupBox, nom);
     auto* grille = new QGridLayout(cadre);
+    grille->setVerticalSpacing(EcartLignes);
     for (const auto& valeur : LesValeursRemarquables()) {
         if (valeur.groupe != groupe) continue;
         const int rang = grille->rowCount();
@@ -180,6 +186,7 @@ QWidget* Resultat::FaitGroupe(const char* nom, int groupe) {
 QWidget* Resultat::FaitRecalcul() {
     auto* groupe = Nomme(new QGroupBox, "GroupeRecalcul");
     auto* grille = new QGridLayout(groupe);
+    grille->setVerticalSpacing(EcartLignes);
     for (const auto& champ : champsRecalcul)
         champs_.push_back(AjouteLigneChamp(*grille, grille->rowCount(), champ.controle, 0, 0));
     recalcul_ = Nomme(new QPushButton, "Recalcul");

@@ -45,7 +45,6 @@ SeleSauv::SeleSauv(std::function<bool()> metAJour, QWidget* parent) : QDialog(pa
     int rang = 1;
     for (const auto& [case_, nom] : lignes) {
         auto* explication = FaitEtiquette(nom);
-        explication->setForegroundRole(QPalette::PlaceholderText);
         choix->addWidget(case_, rang, 0);
         choix->addWidget(explication, rang++, 1);
     }
@@ -91,7 +90,7 @@ void SeleSauv::Sauvegarde() {
     }
     if ((points_->isChecked() || scripts_->isChecked()) && !metAJour_()) return;
     etude.donnees.NomFichier = nom;
-    if (DonneesDepart()) emit FichierEnregistre();
+    if (const auto chemin = DonneesDepart()) emit FichierEnregistre(QChemin(*chemin));
     if (points_->isChecked()) FichiersPoints();
     if (scripts_->isChecked()) FichiersScripts();
     accept();

@@ -17,7 +17,8 @@ public:
     explicit SeleSauv(std::function<bool()> metAJour, QWidget* parent = nullptr);
 
 signals:
-    void FichierEnregistre(); ///< the study file was written, under the name that the record has now
+    /// The study file was written, under the name that the record has now.
+    void FichierEnregistre(const QString& chemin);
 
 private:
     void Sauvegarde();

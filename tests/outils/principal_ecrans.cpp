@@ -4,6 +4,7 @@
 #include "outils/Ecrans.h"
 #include "widgets/Application.h"
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -12,6 +13,9 @@ namespace {
 class RetourAuDebut : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override {
         etude = Etude{};
+        std::error_code sansImportance;
+        std::filesystem::remove_all(std::filesystem::path(qgetenv("XDG_STATE_HOME").toStdString()) / "velorin",
+                                    sansImportance);
         ChargeLois();
         ChoisitLangue("Français");
     }
@@ -22,6 +26,10 @@ class RetourAuDebut : public testing::EmptyTestEventListener {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The recovery file of a test run is its own; a test that kills a run of its own passes that of this run on.
+    const QTemporaryDir etat;
+    const bool enfant = qEnvironmentVariableIsSet("VELORIN_ESSAI_TUE");
+    if (!enfant) qputenv("XDG_STATE_HOME", etat.path().toUtf8());
     Application application(argc, argv);
     CheminAppli = VELORIN_DOSSIER;
     LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture);

@@ -1,14 +1,25 @@
 #include "widgets/Grille.h"
 
 #include "core/ErreurExecution.h"
+#include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
 #include "widgets/Chaines.h"
+#include "widgets/Etiquettes.h"
 
+#include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace {
 
@@ -69,7 +80,7 @@ TEST(Grille, CopieLaSelection) {
     grille.selectionModel()->select({grille.model()->index(1, 0), grille.model()->index(2, 1)},
                                     QItemSelectionModel::Select);
     QTest::keySequence(&grille, QKeySequence::Copy);
-    EXPECT_EQ(S(QGuiApplication::clipboard()->text()), "1.0\t1.1\n2.0\t2.1\n");
+    EXPECT_EQ(S(QGuiApplication::clipboard()->text()), "Angle degrés\tRayon\n1.0\t1.1\n2.0\t2.1\n");
 }
 
 TEST(Grille, UneTableRefaitePlusPetiteNeCasseRien) {
@@ -81,4 +92,74 @@ TEST(Grille, UneTableRefaitePlusPetiteNeCasseRien) {
     EXPECT_EQ(grille.Cellule(0, 0), "");
     grille.Remplit(Nombres(2));
     EXPECT_EQ(grille.Cellule(1, 1), "1.1");
+}
+
+TEST(Grille, LeMenuCopieSelectionneEtEnregistre) {
+    DialoguesScript dialogues;
+    const DossierTemporaire dossier;
+    Grille grille;
+    TableTexte table = Nombres(2);
+    table.colonnes[1].cellule = [](int ligne) { return ligne == 0 ? "-.5" : "."; };
+    table.colonnes[2].cellule = [](int) { return "a,\"b\";1.5"; };
+    grille.Remplit(std::move(table));
+    grille.show();
+    const auto choisit = [&grille](int entree, bool possible) {
+        QTimer::singleShot(0, &grille, [&grille, entree, possible] {
+            auto* menu = Controle<QMenu>(grille, "MenuGrille");
+            QAction* action = menu->actions()[entree];
+            EXPECT_EQ(action->isEnabled(), possible) << S(action->text());
+            if (possible) action->trigger();
+            menu->close();
+        });
+        QContextMenuEvent clic(QContextMenuEvent::Mouse, {5, 5}, grille.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(grille.viewport(), &clic);
+        LaisseFaire();
+    };
+    QGuiApplication::clipboard()->setText(QStringLiteral("avant"));
+    choisit(0, false);
+    choisit(1, true);
+    choisit(0, true);
+    EXPECT_EQ(S(QGuiApplication::clipboard()->text()).substr(0, 32), "Angle degrés\tRayon\tLoi\n0.0\t-.5\t");
+    dialogues.fichiers.push_back(dossier / "t.csv");
+    choisit(3, true);
+    std::string csv = LitBrut(dossier / "t.csv");
+    ASSERT_EQ(csv.substr(0, 3), "\xEF\xBB\xBF");
+    // Read as the machine that wrote it would.
+    const bool virgule = QLocale::system().decimalPoint() == QLatin1String(",");
+    EXPECT_EQ(csv.substr(3),
+              virgule ? "Angle degrés;Rayon;Loi\r\n0,0;-0,5;\"a,\"\"b\"\";1.5\"\r\n1,0;0;\"a,\"\"b\"\";1.5\"\r\n"
+                      : "Angle degrés,Rayon,Loi\r\n0.0,-0.5,\"a,\"\"b\"\";1.5\"\r\n1.0,0,\"a,\"\"b\"\";1.5\"\r\n");
+    grille.Remplit(Nombres(0));
+    choisit(3, false);
+}
+
+TEST(Etiquettes, UnitsAreLegibleOnADarkPalette) {
+    const auto luminance = [](const QColor& couleur) {
+        const auto lineaire = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+        return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) +
+               0.0722 * lineaire(couleur.blueF());
+    };
+    const std::pair<QColor, QColor> palettes[] = {{QColor(50, 50, 50), Qt::white}, {QColor(239, 239, 239), Qt::black}};
+    for (const auto& [fond, encre] : palettes) {
+        QWidget ecran;
+        QLabel* unite = FaitUnite("mm");
+        unite->setParent(&ecran);
+        ecran.setPalette(QPalette(encre, fond, fond, fond, fond, encre, encre, fond, fond));
+        QColor couleur = unite->palette().color(unite->foregroundRole());
+        const double part = couleur.alphaF();
+        couleur = QColor::fromRgbF(static_cast<float>(part * couleur.redF() + (1 - part) * fond.redF()),
+                                   static_cast<float>(part * couleur.greenF() + (1 - part) * fond.greenF()),
+                                   static_cast<float>(part * couleur.blueF() + (1 - part) * fond.blueF()));
+        const double a = luminance(couleur), b = luminance(fond);
+        EXPECT_GE((std::max(a, b) + 0.05) / (std::min(a, b) + 0.05), 4.5) << S(fond.name());
+    }
+}
+
+TEST(Grille, AHeadingWithoutValuesIsLeftOut) {
+    Grille grille;
+    TableTexte table = Nombres(2);
+    table.colonnes[1].cellule = nullptr;
+    grille.Remplit(std::move(table));
+    ASSERT_EQ(grille.NombreColonnes(), 2);
+    EXPECT_EQ(grille.Cellule(1, 1), "1.2");
 }

@@ -88,7 +88,7 @@ TEST_F(LoisFenetre, LawIsStudiedSavedAndPrintedFromTheMenus) {
 
 TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
     const auto ferme = [this](int comment) {
-        dialogues_.fichiers = {std::nullopt};
+        dialogues_.fichiers = {CheminAppli / "Absent.Ang"};
         comment == 0 ? Declenche("FichierOuvrir") : mdi_.ChangeLangue("Français");
     };
     for (const int comment : {0, 1}) {

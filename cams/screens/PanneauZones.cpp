@@ -63,6 +63,14 @@ QComboBox* FaitListe(const char* nom) {
     return liste;
 }
 
+/// Brings a list to the row of that text, where it has one: with the text only written over another row, Return and
+/// the wheel would go from that one.
+void MontreDans(QComboBox& liste, const QString& texte) {
+    const int place = liste.findText(texte, Qt::MatchFixedString | Qt::MatchCaseSensitive);
+    liste.setCurrentIndex(place);
+    if (place < 0) liste.setEditText(texte);
+}
+
 } // namespace
 
 PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZones& champs,
@@ -94,8 +102,8 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
         ++zonesEntrees_;
     etude.donnees.ZoneCourante = 1;
     nombreZones_->Montre(etude.donnees.NombreZones);
-    pointsParDegre_->setCurrentText(etude.donnees.PointsParDegre == 0 ? "1"
-                                                                      : QString::number(etude.donnees.PointsParDegre));
+    MontreDans(*pointsParDegre_,
+               etude.donnees.PointsParDegre == 0 ? "1" : QString::number(etude.donnees.PointsParDegre));
     ProposeFichier();
     MontreZone();
     RemplitGrille();
@@ -211,10 +219,7 @@ void PanneauZones::MontreZone() {
 }
 
 void PanneauZones::MontreLoi(const QString& nom) {
-    // On the row of that name, not on the first with the name written over it: Return takes the row.
-    const int place = loi_->findText(nom, Qt::MatchFixedString | Qt::MatchCaseSensitive);
-    loi_->setCurrentIndex(place);
-    if (place < 0) loi_->setEditText(nom);
+    MontreDans(*loi_, nom);
     loiChoisie_ = nom;
 }
 
@@ -234,8 +239,8 @@ void PanneauZones::VaALaZone(int ligne) {
     // Only zones already entered, or the first that is not, can be gone to; what was typed is not left behind.
     if (ligne + 1 == etude.donnees.ZoneCourante) return PrendFocusZone();
     if (ZoneModifiee() && !AccepteZone()) return;
-    if (ligne + 1 > std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones)) return;
-    etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
+    if (ligne < std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones))
+        etude.donnees.ZoneCourante = static_cast<std::int16_t>(ligne + 1);
     MontreZone();
     PrendFocusZone();
 }
@@ -249,8 +254,9 @@ void PanneauZones::DemandeChoix(bool continuer) {
         [this] {
             choixDemande_ = false;
             const bool suite = std::exchange(continuer_, false);
-            // Return over the law that the zone has already is no choice.
-            const bool passe = suite && loi_->currentText() == loiChoisie_;
+            // The law that the zone has already is no choice; a law file picked in the list again is another one.
+            const bool passe =
+                loi_->currentText() == loiChoisie_ && (suite || loiChoisie_ != QLatin1String(NomLoiFichier));
             if ((passe || ChoisitLoi()) && suite) symetrie_->setFocus(Qt::TabFocusReason);
         },
         Qt::QueuedConnection);
@@ -293,7 +299,7 @@ bool PanneauZones::ChercheFichier() {
     etude.donnees.ZoneCourante = 1;
     zonesEntrees_ = 1;
     nombreZones_->Montre(1);
-    pointsParDegre_->setCurrentText("2");
+    MontreDans(*pointsParDegre_, "2");
     MontreZone();
     zonesEntrees_ = 0; // the zone is filled, and waits to be accepted
     MontreBoutons();
@@ -337,7 +343,10 @@ bool PanneauZones::PrendSaisie() {
     if (!EntreNombreZones()) return false;
     const std::int16_t z = etude.donnees.ZoneCourante;
     const bool attend = z > zonesEntrees_ && z == etude.donnees.NombreZones;
-    if ((attend || ZoneModifiee()) && !AccepteZone()) return false;
+    if (attend || ZoneModifiee()) {
+        if (!AccepteZone()) return false;
+        MontreZone();
+    }
     if (Complet()) return true;
     LesDialogues().Message(Icone::Information, Texte(TexteZonesManquantes));
     PrendFocusZone();
@@ -372,19 +381,18 @@ void PanneauZones::GardeZone(const Zone& zone) {
     }
     zonesEntrees_ = std::max(zonesEntrees_, z);
     emit Modifie();
-    MontreZone();
     RemplitGrille();
 }
 
 void PanneauZones::Suivante() {
     if (etude.donnees.ZoneCourante > etude.donnees.NombreZones || !AccepteZone()) return;
-    if (etude.donnees.ZoneCourante == etude.donnees.NombreZones) {
-        emit Termine();
-        return;
-    }
-    ++etude.donnees.ZoneCourante;
+    const bool derniere = etude.donnees.ZoneCourante == etude.donnees.NombreZones;
+    if (!derniere) ++etude.donnees.ZoneCourante;
     MontreZone();
-    valeurFinale_->setFocus(Qt::TabFocusReason);
+    if (derniere)
+        emit Termine();
+    else
+        valeurFinale_->setFocus(Qt::TabFocusReason);
 }
 
 bool PanneauZones::LitPointsParDegre() {

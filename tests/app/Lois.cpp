@@ -2,7 +2,9 @@
 #include "app/BureauEcrans.h"
 #include "app/MdiCamA.h"
 #include "core/Etude.h"
+#include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "laws/FichierLoi.h"
 #include "laws/screens/QuelLoi.h"
 #include "outils/DialoguesScript.h"
@@ -88,7 +90,7 @@ TEST_F(LoisFenetre, LawIsStudiedSavedAndPrintedFromTheMenus) {
 
 TEST_F(LoisFenetre, StudyThatIsClosedLeavesNothingToSaveOrPrint) {
     const auto ferme = [this](int comment) {
-        dialogues_.fichiers = {std::nullopt};
+        dialogues_.fichiers = {CheminAppli / "Absent.Ang"};
         comment == 0 ? Declenche("FichierOuvrir") : mdi_.ChangeLangue("Français");
     };
     for (const int comment : {0, 1}) {
@@ -147,5 +149,5 @@ TEST_F(LoisFenetre, LawThatALawFileCutFromTheCatalogueSaysSo) {
     ASSERT_NE(ecran, nullptr);
     CliqueSur(*ecran, "Calculer");
     ASSERT_EQ(dialogues_.boites.size(), 1U);
-    EXPECT_EQ(dialogues_.boites.front().texte, Texte(521) + " CYC " + Texte(103));
+    EXPECT_EQ(dialogues_.boites.front().texte, Texte(521) + " CYC " + Texte(103) + "\n" + Texte(TexteLoisAuDemarrage));
 }

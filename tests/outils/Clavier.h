@@ -25,6 +25,8 @@ inline void Frappe(QWidget& ecran, const char* texte) {
 /// Clicks into a field, and types; in the field that is worked in already all is selected first.
 inline void FrappeDans(QWidget& ecran, const char* champ, const char* texte) {
     auto* zone = Controle<QWidget>(ecran, champ);
+    ecran.activateWindow();
+    LaisseFaire();
     if (zone->hasFocus())
         QTest::keySequence(zone, QKeySequence::SelectAll);
     else

@@ -162,9 +162,9 @@ TEST_F(NotesEtudes, UndercutIsToldByCamAnglesAndDrawnInRed) {
     etude.donnees.PointsParDegre = 1;
     Calcule();
     const Developpee d = CalculeDeveloppee();
-    const auto& [debut, interieur, exterieur, primitif] = d.tours.front();
-    const auto parties = PartiesTropCourbees(interieur, exterieur);
-    for (const auto* flanc : {&interieur, &exterieur}) {
+    const TourDeveloppe& tour = d.tours.front();
+    const auto parties = PartiesTropCourbees(tour.interieur, tour.exterieur);
+    for (const auto* flanc : {&tour.interieur, &tour.exterieur}) {
         int boucles = 0;
         for (std::size_t i = 0; i + 1 < flanc->size(); ++i) {
             if ((*flanc)[i + 1].x >= (*flanc)[i].x) continue;

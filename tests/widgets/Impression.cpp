@@ -2,6 +2,7 @@
 #include "widgets/ImprimantePoste.h"
 #include "widgets/ImprimanteQt.h"
 
+#include "laws/CalculLois.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"

@@ -229,10 +229,11 @@ TEST_F(EcransLois, AReturnIsToldToBeScaledAsItsRise) {
     const auto vraie = [] {
         double vitesse = 0;
         const double pas = 1.0 / 6 / 60 / etude.donnees.PointsParDegre;
+        const double parUnite = etude.donnees.SortieEnDegres ? RadDeg : 1000;
         for (long i = 1; i <= etude.resultats.NombrePoints; ++i)
             vitesse = std::max(vitesse,
                                std::abs(etude.resultats.Mouvement[i].Course - etude.resultats.Mouvement[i - 1].Course) /
-                                   1000 / pas);
+                                   parUnite / pas);
         return vitesse;
     };
     const struct {

@@ -51,7 +51,7 @@ private:
     void Relie();
 
     void ChoisitSolide(int TypeSolide);
-    void PrendSaisie(const SaisieSolide& saisie);
+    void RemplitSaisie(const SaisieSolide& saisie);
     bool Calcule(const QString& champEnCours = {});
     void Valide(const QString& controle);
     void Refuse(const FauteSolide& faute);

@@ -223,7 +223,7 @@ TEST_F(Fenetre, FermeEcransLaisseLaFenetreSeule) {
     EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
     EXPECT_TRUE(mdi_.findChildren<QMdiSubWindow*>().isEmpty());
     EXPECT_TRUE(mdi_.isVisible());
-    EXPECT_EQ(mdi_.OuvreEcran("CylindriqueIndexeur"), nullptr) << "a screen that is not built";
+    EXPECT_EQ(mdi_.OuvreEcran("Inexistant"), nullptr) << "a screen that is not built";
 }
 
 TEST_F(Fenetre, LaCroixDUnEnfantEstSonRetour) {

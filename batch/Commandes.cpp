@@ -1,7 +1,7 @@
 #include "batch/Commandes.h"
 
 #include "batch/CommandeEtude.h"
-
+#include "batch/CommandeGlobique.h"
 #include "batch/CommandeIndexeurConjugue.h"
 #include "batch/CommandeIndexeurCylindrique.h"
 #include "batch/CommandeLoi.h"
@@ -35,6 +35,10 @@ constexpr CommandeBatch commandes[] = {
      CommandeIndexeurCylindrique},
     {"indexeur-conjugue", "indexeur-conjugue DATA.json...", "report and capacities of a pair of conjugate cams",
      CommandeIndexeurConjugue},
+    {"indexeur-globique", "indexeur-globique DATA.json...", "capacities of a globoidal indexer",
+     CommandeIndexeurGlobique},
+    {"oscillateur-globique", "oscillateur-globique DATA.json...", "capacities of a globoidal oscillator",
+     CommandeOscillateurGlobique},
 };
 
 void EcritAide(std::ostream& sortie) {

@@ -5,6 +5,8 @@
 #include "core/FichierEntier.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "globoidal/CapaciteIndexeur.h"
+#include "globoidal/CapaciteOscillateur.h"
 #include "laws/CalculLois.h"
 #include "studies/Exports.h"
 #include "studies/FichierEtude.h"
@@ -117,6 +119,82 @@ void PlancherCylindre(benchmark::State& etat, bool bras) {
         }
 }
 
+/// The globoidal mechanisms of the worked examples.
+void PoseMecanisme(MecanismeGlobique& d) {
+    d.Boitier = 5;
+    d.Entraxe = 160;
+    d.RayonTourelle = 90;
+    d.CapaciteArbreEntree = 370;
+    d.DiametreGalet = 22;
+    d.HauteurGalet = 12;
+    d.CapaciteB10 = 6050;
+    d.CapaciteLimite = 7650;
+    d.Precontrainte = 110;
+}
+
+ResultatGlobique CalculeExempleIndexeur() {
+    DonneesIndexeur d;
+    PoseMecanisme(d);
+    d.AngleIndexage = 150;
+    d.NombreGalets = d.NombreStops = 8;
+    d.NomLoi = "MS";
+    return CalculeCapaciteIndexador(d, etude.lois.ListeLois);
+}
+
+ResultatGlobique CalculeExempleOscillateur() {
+    DonneesOscillateur d;
+    PoseMecanisme(d);
+    d.NombreGalets = 3;
+    d.AngleEntreGalets = 30;
+    d.AngleSortie = 40;
+    d.AngleZoneA = d.AngleZoneC = 120;
+    d.AngleZoneB = d.AngleZoneD = 60;
+    d.LoiZoneA = "MS";
+    d.LoiZoneC = "MT";
+    return CalculeCapaciteOscillateur(d, etude.lois.ListeLois);
+}
+
+void MesureGlobique(benchmark::State& etat, ResultatGlobique (*calcule)()) {
+    etude = Etude{};
+    ChargeLois();
+    for (auto _ : etat) benchmark::DoNotOptimize(calcule());
+}
+
+/// A loaded position takes the pressure angle at the roller, at its end and at three radii of the rib, each an
+/// arctangent and its cosine; sine and cosine of the roller's angle twice, the cosine halfway; a power for each of the
+/// five shares of inertia. The law takes a pair for each of its steps.
+void PlancherGlobique(benchmark::State& etat, ResultatGlobique (*calcule)(), long pasLoi) {
+    etude = Etude{};
+    ChargeLois();
+    const long positions = static_cast<long>(calcule().Parcours.size());
+    for (auto _ : etat) {
+        for (long i = 0; i < positions; ++i) {
+            const double part = static_cast<double>(i) / static_cast<double>(positions);
+            double somme = std::cos(part - 0.25);
+            for (int j = 0; j < 2; ++j) {
+                double angle = part - 0.5;
+                benchmark::DoNotOptimize(angle);
+                somme += std::sin(angle) + std::cos(angle);
+            }
+            for (int j = 0; j < 5; ++j) {
+                double tangente = part + 0.01 * j;
+                benchmark::DoNotOptimize(tangente);
+                somme += std::cos(std::atan(tangente));
+                double force = 50.0 + part * j;
+                benchmark::DoNotOptimize(force);
+                somme += std::pow(force, 10.0 / 3.0);
+            }
+            benchmark::DoNotOptimize(somme);
+        }
+        for (long i = 0; i < pasLoi; ++i) {
+            double angle = Pi / 2.0 * static_cast<double>(i) / static_cast<double>(pasLoi);
+            double sinus = std::sin(angle), cosinus = std::cos(angle);
+            benchmark::DoNotOptimize(sinus);
+            benchmark::DoNotOptimize(cosinus);
+        }
+    }
+}
+
 void PrepareResultats() {
     PrepareEtude(3600);
     CalculeEtude();
@@ -173,8 +251,14 @@ BENCHMARK_CAPTURE(MesureCame, Oscillation, "Balancier.Osc")->Arg(3600)->Arg(3276
 BENCHMARK_CAPTURE(PlancherCylindre, Cylindrique, false)->Arg(3600)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(PlancherCylindre, Oscillation, true)->Arg(3600)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PlancherCameAngulaire)->Arg(3600)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MesureGlobique, Indexeur, CalculeExempleIndexeur)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(MesureGlobique, Oscillateur, CalculeExempleOscillateur)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(PlancherGlobique, Indexeur, CalculeExempleIndexeur, 60)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(PlancherGlobique, Oscillateur, CalculeExempleOscillateur, 122)->Unit(benchmark::kMicrosecond);
 
 constexpr Limite limites[] = {
+    {"MesureGlobique/Indexeur", "PlancherGlobique/Indexeur", 3.0},
+    {"MesureGlobique/Oscillateur", "PlancherGlobique/Oscillateur", 3.0},
     {"MesureAppliqueLoi/MS", "PlancherLoi", 1.5},
     {"MesureAppliqueLoi/CYC", "PlancherLoi", 1.5},
     {"MesureCame/Angulaire/3600", "PlancherCameAngulaire/3600", 2.0},

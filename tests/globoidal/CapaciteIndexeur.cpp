@@ -1,0 +1,220 @@
+#include "globoidal/CapaciteIndexeur.h"
+
+#include "globoidal/ExemplesGlobiques.h"
+#include "globoidal/LignesGlobiques.h"
+#include "globoidal/LoisGlobiques.h"
+#include "globoidal/UnitesGlobiques.h"
+#include "outils/Catalogue.h"
+#include "outils/DossierTemporaire.h"
+
+#include <cmath>
+
+namespace {
+
+class CapaciteIndexeur : public AvecCatalogue {
+protected:
+    ResultatGlobique Calcule(const DonneesIndexeur& d) { return CalculeCapaciteIndexador(d, etude.lois.ListeLois); }
+};
+
+/// Vmax of the modified sine, as published.
+constexpr double VmaxMs = 1.7596033859537705;
+
+double Relatif(double valeur, double attendu) {
+    return std::abs(valeur / attendu - 1);
+}
+
+} // namespace
+
+TEST_F(CapaciteIndexeur, SteepestContactIsThatOfTheMiddleOfTheIndex) {
+    // The pressure angle is largest where the roller on the line of centres is fastest, and with it the force.
+    const DonneesIndexeur d = UnIndexeur(8, 8, 142.5);
+    const ResultatGlobique r = Calcule(d);
+    const double Rp = (90 + 12 / 2.0), dphi = VmaxMs * (360.0 / 8) / 142.5;
+    const double alpha = std::atan(dphi * Rp / (160 - Rp));
+    EXPECT_NEAR(r.AnglePressionMaxi, alpha * RadDeg, 1e-9);
+    EXPECT_NEAR(r.RayonPrimitif, Rp, 1e-12);
+    const double force = 100 / (Rp / 25.4 * std::cos(alpha)); // lbf, of a torque of 100 without inertia
+    EXPECT_LT(Relatif(r.Resultats[ForceGalet][0], force), 1e-12);
+    EXPECT_LT(Relatif(r.Resultats[LimiteGalet][0], d.CapaciteLimite / 4.44822 * 100 / force), 1e-12);
+    // The curvature there has no other part than the motion's, and there is none.
+    EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], 0.9 * 142.5 / 360 * 8 / VmaxMs * 370 * 8.85), 1e-12);
+}
+
+TEST_F(CapaciteIndexeur, RowsStandInTheirRatios) {
+    for (const auto& [galets, stops] : {std::pair{8, 8}, {8, 4}, {8, 16}, {12, 5}}) {
+        SCOPED_TRACE(stops);
+        const double facteur = std::pow(std::max(1.0, double(stops) / galets), 0.3);
+        const TableCapacites t = Calcule(UnIndexeur(galets, stops, 217.3)).Resultats;
+        for (std::size_t k = 0; k < NombreParts; ++k) {
+            EXPECT_LT(Relatif(t[B10Trempee][k], 0.385 * facteur * t[LimiteTrempee][k]), 1e-12);
+            EXPECT_LT(Relatif(t[B10Nitruree][k], t[B10Trempee][k] * 3 / 17), 1e-12);
+            EXPECT_LE(t[LimiteCameTrempee][k], std::min({t[LimiteGalet][k], t[LimiteTrempee][k], t[LimiteArbre][k]}));
+            EXPECT_LE(t[LimiteCameNitruree][k], t[LimiteCameTrempee][k]);
+            EXPECT_EQ(t[B10CameTrempee][k], std::min(t[B10Galet][k], t[B10Trempee][k]));
+        }
+    }
+}
+
+TEST_F(CapaciteIndexeur, TheEquivalentLoadCostsAsMuchLife) {
+    // One pass: the life sum comes back from the equivalent load and the revolutions.
+    const DonneesIndexeur d = UnIndexeur();
+    const TableCapacites t = Calcule(d).Resultats;
+    for (std::size_t k = 0; k < NombreParts; ++k) {
+        const double vie = std::pow(t[ChargeEquivalente][k], 10.0 / 3) * t[ToursGalet][k];
+        EXPECT_LT(Relatif(t[B10Galet][k], d.CapaciteB10 / 4.44822 * 100 / std::pow(24 * vie / 8, 0.3)), 1e-12);
+        EXPECT_LT(t[ChargeEquivalente][k], t[ForceGalet][k]);
+    }
+}
+
+TEST_F(CapaciteIndexeur, KindTypeAndPassesFollowFromStopsAndRollers) {
+    const ResultatGlobique egal = Calcule(UnIndexeur(8, 8)), deux = Calcule(UnIndexeur(8, 4)),
+                           second = Calcule(UnIndexeur(8, 16, 240)), tiers = Calcule(UnIndexeur(8, 3));
+    EXPECT_EQ(egal.Type, 1);
+    EXPECT_EQ(egal.Passages, 1);
+    EXPECT_EQ(egal.Genre, 1);
+    EXPECT_EQ(egal.AngleReel, 150);
+    EXPECT_EQ(deux.Passages, 2);
+    EXPECT_EQ(tiers.Passages, 8.0 / 3) << "passes may be a fraction: two are run";
+    EXPECT_EQ(second.Genre, 2);
+    EXPECT_EQ(second.Type, 2);
+    EXPECT_EQ(second.AngleReel, 120) << "the indexing angle of one of its two turns";
+    // A roller enters as many pitches ahead as there are passes to come.
+    const auto premier = [](const ResultatGlobique& r, int galet) {
+        for (const PointParcours& p : r.Parcours)
+            if (p.galet == galet) return p;
+        return PointParcours{};
+    };
+    EXPECT_EQ(deux.Parcours.back().galet, 2);
+    EXPECT_EQ(tiers.Parcours.back().galet, 2);
+    EXPECT_LT(premier(deux, 1).angleGalet, 0);
+    EXPECT_GT(deux.Parcours.back().angleGalet, 0);
+    // Half the turret's angle with half the cam angle: the same motion of the turret, the same envelope.
+    EXPECT_NEAR(second.CameDiametre, egal.CameDiametre, 1e-12);
+}
+
+TEST_F(CapaciteIndexeur, CasingsHavePitchRadiiOfTheirOwn) {
+    const auto primitif = [&](double boitier, double codemi, double galets, double stops, double angle) {
+        DonneesIndexeur d = UnIndexeur(galets, stops, angle);
+        d.Boitier = boitier;
+        d.codemi = codemi;
+        d.Entraxe = 315;
+        return Calcule(d).RayonPrimitif;
+    };
+    const double fenetre = 7.5 * 25.4 + 6;
+    EXPECT_NEAR(primitif(0, 4, 8, 8, 150), 90, 1e-12);
+    EXPECT_NEAR(primitif(8, 4, 8, 8, 150), 90, 1e-12);
+    EXPECT_NEAR(primitif(5, 13, 8, 8, 150), 4.055 * 25.4, 1e-12);
+    EXPECT_NEAR(primitif(5, 12, 8, 8, 150), 96, 1e-12);
+    EXPECT_NEAR(primitif(13, 4, 8, 8, 150), fenetre, 1e-12);
+    EXPECT_NEAR(primitif(13, 4, 8, 8, 120), 96, 1e-12) << "the window is open";
+    EXPECT_NEAR(primitif(13, 4, 12, 12, 90.5), fenetre, 1e-12);
+    EXPECT_NEAR(primitif(13, 4, 8, 16, 290), fenetre, 1e-12) << "by the angle of one turn, 145";
+    EXPECT_NEAR(primitif(13, 4, 8, 16, 360), 96, 1e-12) << "180";
+    EXPECT_NEAR(primitif(13, 4, 10, 20, 310), fenetre, 1e-12) << "155";
+    EXPECT_THROW(primitif(17, 4, 8, 8, 150), ErreurExecution);
+    EXPECT_THROW(primitif(5, 21, 8, 8, 150), ErreurExecution);
+}
+
+TEST_F(CapaciteIndexeur, ALoneRollerCarriesThePreloadAndLiftsOff) {
+    const Flancs haut{true, false}, bas{false, true}, deux{true, true}, aucun{false, false};
+    const auto couple = [](double T, double P, Flancs f) { return PartageCharge(T, P, f).couple; };
+    EXPECT_EQ(couple(-80, 30, deux), 80);
+    EXPECT_TRUE(PartageCharge(-80, 30, deux).inverse);
+    EXPECT_EQ(couple(20, 30, haut), 10);
+    EXPECT_EQ(couple(20, 30, bas), 50);
+    EXPECT_EQ(couple(30, 30, haut), 0) << "lifts off";
+    EXPECT_EQ(couple(31, 30, haut), 0);
+    EXPECT_EQ(couple(-31, 30, bas), 0);
+    EXPECT_EQ(couple(-31, 30, haut), 61);
+    EXPECT_EQ(couple(5, 30, aucun), 0);
+    EXPECT_EQ(CoupleNet(1e-10, 30), 0);
+    EXPECT_EQ(CoupleNet(30 - 5e-10, 30), 30);
+    EXPECT_EQ(CoupleNet(-30 + 5e-10, 30), -30);
+    EXPECT_EQ(CoupleNet(30 - 2e-9, 30), 30 - 2e-9);
+
+    DonneesIndexeur sans = UnIndexeur(), avec = sans;
+    avec.Precontrainte = 100;
+    const TableCapacites libre = Calcule(sans).Resultats, serre = Calcule(avec).Resultats;
+    for (std::size_t k = 0; k < NombreParts; ++k) EXPECT_GT(libre[B10Galet][k], serre[B10Galet][k]) << k;
+    EXPECT_LT(libre[ToursGalet][4], serre[ToursGalet][4]) << "unloaded rollers do not wear";
+}
+
+TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
+    const DossierTemporaire dossier;
+    const auto ecrit = [&](int lignes, bool fin) {
+        std::string contenu;
+        const LoiCinqSegments loi{PrepareCinqSegments({0.25, 0, 0.75, 0})};
+        for (int i = 0; i < lignes; ++i) {
+            const PointLoi p = i <= 300 ? Evalue(loi, i / 300.0, 0.5, JointsIndexeur) : PointLoi{1, 0, 0};
+            contenu += i < 300 || !fin ? StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + ".1"
+                                       : std::string("1;0;0");
+            contenu += "\r\n";
+        }
+        return dossier.Ecrit("loi.Lmi", contenu);
+    };
+    DonneesIndexeur d = UnIndexeur(8, 8, 99);
+    d.NomLoi = "Fichier";
+    d.FichierLoi = ecrit(722, true);
+    const ResultatGlobique r = Calcule(d);
+    EXPECT_EQ(r.AngleReel, 150) << "by its end line";
+    // Turn 0 reads the first 180 lines, turn 1 goes on from there.
+    EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], 0.9 * 150 / 360 * 8 / VmaxMs * 370 * 8.85), 1e-4);
+    const auto numero = [&] {
+        try {
+            Calcule(d);
+        } catch (const ErreurExecution& erreur) {
+            return erreur.numero;
+        }
+        return NumeroErreur{};
+    };
+    ecrit(361, true);
+    d.NombreStops = 4;
+    EXPECT_EQ(numero(), NumeroErreur::FinDeFichier) << "the walk reads on from pass to pass";
+    d.NombreStops = 8;
+    ecrit(300, true);
+    EXPECT_EQ(numero(), NumeroErreur::FinDeFichier);
+    ecrit(722, false);
+    EXPECT_EQ(numero(), NumeroErreur::ContenuInvalide) << "no end line";
+    d.FichierLoi = (dossier / "absent.Lmi").string();
+    EXPECT_EQ(numero(), NumeroErreur::FichierIntrouvable);
+}
+
+TEST_F(CapaciteIndexeur, AnImpossibleGeometryStopsAtOnce) {
+    DonneesIndexeur d = UnIndexeur();
+    d.DiametreGalet = 0;
+    EXPECT_THROW(Calcule(d), ErreurExecution);
+    d = UnIndexeur();
+    d.HauteurGalet = 0;
+    EXPECT_THROW(Calcule(d), ErreurExecution);
+    EXPECT_THROW(Calcule(UnIndexeur(5, 1e-6)), ErreurExecution) << "passes beyond count";
+    d = UnIndexeur();
+    d.NomLoi = "Inconnue";
+    EXPECT_THROW(Calcule(d), ErreurExecution);
+}
+
+TEST_F(CapaciteIndexeur, ValuesBeyondTheirLimitAreRedAndSayWhy) {
+    DonneesIndexeur d = UnIndexeur();
+    const auto rouges = [&] {
+        std::string noms;
+        for (const auto& groupe : GeometrieIndexeur(d, Calcule(d)))
+            for (const LigneResultat& ligne : groupe.lignes) {
+                if (ligne.rouge) noms += ligne.controle + " ";
+                EXPECT_TRUE(!ligne.rouge || !ligne.note.empty()) << ligne.controle;
+            }
+        return noms;
+    };
+    EXPECT_EQ(rouges(), "");
+    const ResultatGlobique r = Calcule(d);
+    d.CameMaxDiam = r.CameDiametre; // the size itself fits
+    d.CameMaxLong = r.CameLargeur - 1e-9;
+    EXPECT_EQ(rouges(), "Label17 ");
+    d.CameMaxLong = 0;
+    d.AngleIndexage = 85;
+    EXPECT_EQ(rouges(), "Label63 ");
+    d.AngleIndexage = 150;
+    d.DiametreGalet = 55;
+    EXPECT_NE(rouges().find("Label24 Label25 Label26"), std::string::npos);
+    d.DiametreGalet = 30;
+    d.AngleIndexage = 45;
+    EXPECT_NE(rouges().find("Label30"), std::string::npos);
+}

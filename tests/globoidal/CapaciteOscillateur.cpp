@@ -1,0 +1,154 @@
+#include "globoidal/CapaciteOscillateur.h"
+
+#include "globoidal/ExemplesGlobiques.h"
+#include "globoidal/LignesGlobiques.h"
+#include "globoidal/LoisGlobiques.h"
+#include "globoidal/ZonesOscillateur.h"
+#include "outils/Catalogue.h"
+#include "outils/DossierTemporaire.h"
+
+#include <cmath>
+
+namespace {
+
+class CapaciteOscillateur : public AvecCatalogue {
+protected:
+    ResultatGlobique Calcule(const DonneesOscillateur& d) {
+        return CalculeCapaciteOscillateur(d, etude.lois.ListeLois);
+    }
+    MouvementOscillateur Mouvement(const DonneesOscillateur& d) {
+        return PrepareMouvement(d, d.AngleSortie, etude.lois.ListeLois);
+    }
+
+    /// A law file: forward over a, rest over b, back over c degrees of the motion's a + b + c.
+    std::string EcritLoi(int a, int b, int c, int lignes = 722) {
+        const int fin = a + b + c;
+        const LoiCinqSegments loi = PrepareCinqSegments({0.5, 0, 0.5, 0});
+        std::string contenu;
+        for (int i = 0; i < lignes; ++i) {
+            const double x = i / 2.0;
+            const auto zone = [&](double u, double angle, int sens) {
+                const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
+                const double r = fin / angle;
+                return PointLoi{sens > 0 ? p.Course : 1 - p.Course, p.Vitesse * r * sens, p.Accel * r * r * sens};
+            };
+            PointLoi p{};
+            if (x <= a)
+                p = zone(x / a, a, 1);
+            else if (x <= a + b)
+                p = {1, 0, 0};
+            else if (x <= fin)
+                p = zone((x - a - b) / c, c, -1);
+            contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
+        }
+        return dossier.Ecrit("loi.Lmi", contenu);
+    }
+    DossierTemporaire dossier;
+};
+
+double Relatif(double valeur, double attendu) {
+    return std::abs(valeur / attendu - 1);
+}
+
+} // namespace
+
+TEST_F(CapaciteOscillateur, FlanksAndEnvelopeOfTwoRollers) {
+    const DonneesOscillateur d = UnOscillateur();
+    const ResultatGlobique r = Calcule(d);
+    EXPECT_EQ(r.AngleFlanc1, 35); // half the pitch and half the stroke
+    EXPECT_EQ(r.AngleFlanc2, 5);
+    EXPECT_EQ(r.AngleFlancTravail, 35) << "raised to the first flank";
+    const double fa = 35 / RadDeg, chanfrein = 0.063 * 25.4;
+    EXPECT_NEAR(r.CameDiametre, 320 - (192 - 12 + chanfrein) * std::cos(fa) - 22 * std::sin(fa), 1e-9);
+    EXPECT_NEAR(r.DiametreRogne, r.CameDiametre - (6 - chanfrein) * std::cos(fa), 1e-9);
+    EXPECT_NEAR(r.CameLargeur, (192 + 12 - chanfrein) * std::sin(fa) - 22 * std::cos(fa), 1e-9);
+
+    DonneesOscillateur trois = UnOscillateur(3);
+    // Half the pitch and three quarters of a roller, on the half degree above.
+    EXPECT_EQ(Calcule(trois).AngleFlancTravail, Int(2 * (20 + 0.75 * 22 / 96 * RadDeg) + 1) / 2);
+    trois.AngleEntreGalets = 40.4;
+    trois.AngleSortie = 29.5;
+    EXPECT_EQ(Calcule(trois).AngleFlanc1, 15) << "whole degrees, halves to even";
+}
+
+TEST_F(CapaciteOscillateur, SteepestContactAndShaftLimit) {
+    DonneesOscillateur d = UnOscillateur();
+    d.AngleZoneC = 90;
+    d.AngleZoneD = 90;
+    const ResultatGlobique r = Calcule(d);
+    const double Vmax = 1.7596033859537705, arbre = 370 / 0.112985;
+    EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], arbre * 0.9 * 90 / 30 / Vmax), 1e-12) << "the faster zone";
+    // On the way back a share of inertia up to one half leaves no torque: the way forward alone counts.
+    EXPECT_GT(r.Resultats[LimiteArbre][1], arbre * 0.9 * 120 / 30 / Vmax);
+    // The steepest contact is in the faster zone, between the rollers' middle and the line of centres.
+    const double auMilieu = std::atan(Vmax * 30 / 90 * 96 / (160 - 96)) * RadDeg;
+    EXPECT_NEAR(r.AnglePressionMaxi, auMilieu, 1e-9);
+}
+
+TEST_F(CapaciteOscillateur, ForwardAndBackAreMirrorImages) {
+    // The same law both ways: forces and contact figures of the two zones agree.
+    const ResultatGlobique r = Calcule(UnOscillateur(3));
+    std::array<double, 2> forces{};
+    for (const PointParcours& p : r.Parcours)
+        forces[p.angleCame > 150] = std::max(forces[p.angleCame > 150], p.force[2]);
+    EXPECT_GT(forces[0], 0);
+    EXPECT_NEAR(forces[0], forces[1], 1e-9);
+    // No shaft, no torque: on this cam a capacity of 0 is a limit.
+    DonneesOscillateur d = UnOscillateur();
+    d.CapaciteArbreEntree = 0;
+    EXPECT_EQ(Calcule(d).Resultats[LimiteCameTrempee][0], 0);
+}
+
+TEST_F(CapaciteOscillateur, ALawOfRiseAndReturnIsRunBackwardsWhereNoDwellFollows) {
+    DonneesOscillateur d = UnOscillateur();
+    d.LoiZoneA = d.LoiZoneC = "MSH";
+    const auto depart = [&] { return Mouvement(d).aller.points[1].Accel; };
+    const auto retour = [&] { return Mouvement(d).retour.points[1].Accel; };
+    const double doux = depart();
+    EXPECT_LT(doux, 2) << "a sine rise begins gently";
+    EXPECT_GT(retour(), -2);
+    d.AngleZoneD = 0;
+    EXPECT_NEAR(depart(), 5.2, 0.05) << "out of the motion before";
+    EXPECT_GT(retour(), -2);
+    d.AngleZoneB = 0;
+    EXPECT_NEAR(retour(), -5.2, 0.05);
+    d.CodeLoiA = 1; // the first family, by its code
+    EXPECT_EQ(Mouvement(d).aller.Vmax, PrepareCinqSegments({0.25, 0, 0.75, 0}).Vmax);
+    d.CodeLoiA = 13;
+    EXPECT_THROW(Mouvement(d), ErreurExecution);
+}
+
+TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {
+    DonneesOscillateur d = UnOscillateur();
+    d.LoiZoneC = "Fichier";
+    for (const auto& [a, b, c] : {std::array{100, 40, 120}, {90, 0, 200}, {181, 3, 176}}) {
+        SCOPED_TRACE(b);
+        d.FichierLoi = EcritLoi(a, b, c);
+        const MouvementOscillateur m = Mouvement(d);
+        EXPECT_EQ(m.zones, (std::array<double, 4>{double(a), double(b), double(c), 360.0 - a - b - c}));
+        EXPECT_EQ(m.aller.points.size(), static_cast<std::size_t>(a) + 1);
+        // By the zone's own share of the motion the law has its usual maxima again.
+        EXPECT_NEAR(m.aller.Vmax, 2, 0.001);
+        EXPECT_NEAR(m.retour.Amax, 2 * Pi, 0.005);
+        EXPECT_NEAR(m.aller.points.back().Course, 1, 1e-12);
+        EXPECT_LT(m.retour.points[10].Vitesse, 0);
+    }
+    // The file stands for the zones typed, and for a law that is missing.
+    d.LoiZoneA = "";
+    d.AngleZoneB = 0;
+    EXPECT_FALSE(ChercheFauteOscillateur(d));
+    EXPECT_LT(Relatif(Calcule(d).Resultats[LimiteArbre][0], 370 / 0.112985 * 0.9 * 176 / 30 / 2), 0.001);
+    d.FichierLoi = EcritLoi(100, 40, 120, 719);
+    EXPECT_THROW(Calcule(d), ErreurExecution);
+    d.FichierLoi = EcritLoi(100, 40, 120, 720);
+    EXPECT_NO_THROW(Calcule(d)) << "the last two lines are never read";
+}
+
+TEST_F(CapaciteOscillateur, CasingLimitsAreANoteAndNotRed) {
+    DonneesOscillateur d = UnOscillateur();
+    d.CameMaxDiam = 100;
+    const auto ligne = GeometrieOscillateur(d, Calcule(d)).front().lignes.front();
+    EXPECT_EQ(ligne.controle, "Label16");
+    EXPECT_FALSE(ligne.rouge);
+    EXPECT_NE(ligne.note.find("100 mm"), std::string::npos);
+}

@@ -1,0 +1,90 @@
+#include "globoidal/CapaciteIndexeur.h"
+#include "globoidal/CapaciteOscillateur.h"
+
+#include "globoidal/ExemplesGlobiques.h"
+#include "outils/Catalogue.h"
+
+namespace {
+
+class ControlesGlobiques : public AvecCatalogue {};
+
+std::string Dit(const std::optional<FauteSaisie>& faute) {
+    return faute ? faute->champ + ": " + faute->texte : "";
+}
+
+std::string Faute(const char* champ, int texte, int suite = 0) {
+    return std::string(champ) + ": " + Texte(texte) + (suite == 0 ? "" : " " + Texte(suite));
+}
+
+} // namespace
+
+TEST_F(ControlesGlobiques, AnIndexerIsCheckedInOrderAndTheFirstFaultStops) {
+    DonneesIndexeur d;
+    const auto dit = [&] { return Dit(ChercheFauteIndexeur(d)); };
+    d.RayonTourelle = 90;
+    EXPECT_EQ(dit(), Faute("Entraxe", 535, 536));
+    d.Entraxe = 45; // just fits
+    EXPECT_EQ(dit(), Faute("NombreStops", 69));
+    d.NombreStops = 8, d.NombreGalets = 5.5, d.AngleIndexage = -0.4;
+    EXPECT_EQ(dit(), Faute("NombreGalets", 537));
+    d.NombreGalets = 4;
+    EXPECT_EQ(dit(), Faute("NombreGalets", 537));
+    d.NombreGalets = 5, d.RayonTourelle = 0;
+    EXPECT_EQ(dit(), Faute("RayonTourelle", 548));
+    d.Entraxe = 0;
+    EXPECT_EQ(dit(), Faute("Entraxe", 547));
+    d.Entraxe = 160, d.RayonTourelle = 90, d.CoefSymetrie = 0.95, d.AngleIndexage = 360.6;
+    EXPECT_EQ(dit(), Faute("NomLoi", 538));
+    d.NomLoi = "MS_Spe", d.CoefA = 0.5, d.CoefB = 0.3, d.CoefC = 0.3;
+    EXPECT_EQ(dit(), Faute("CoefA", 551));
+    d.CoefB = d.CoefC = 0, d.CoefA = 0.005;
+    EXPECT_EQ(dit(), Faute("CoefA", 551)) << "nearly all at constant speed";
+    d.CoefA = 0.3, d.CoefB = 0.3, d.CoefC = 0.4;
+    EXPECT_EQ(dit(), Faute("AngleIndexage", 623));
+    d.AngleIndexage = 360.4;
+    EXPECT_EQ(dit(), Faute("CoefSymetrie", 512, 513));
+    d.CoefSymetrie = 0.9;
+    EXPECT_EQ(dit(), "");
+    d.AngleIndexage = -0.4;
+    EXPECT_EQ(dit(), "") << "the angle is a whole number of degrees for its check";
+    d.NombreStops = 40000;
+    EXPECT_THROW(dit(), ErreurExecution);
+}
+
+TEST_F(ControlesGlobiques, AnOscillatorIsCheckedInOrderAndTheFirstFaultStops) {
+    DonneesOscillateur d = UnOscillateur();
+    const auto dit = [&] { return Dit(ChercheFauteOscillateur(d)); };
+    EXPECT_EQ(dit(), "");
+    d.SymetrieC = 0.05;
+    EXPECT_EQ(dit(), Faute("SymetrieC", 512, 513));
+    d.SymetrieA = 0.05;
+    EXPECT_EQ(dit(), Faute("SymetrieA", 512, 513));
+    d.AngleZoneD = 61;
+    EXPECT_EQ(dit(), Faute("AngleZoneA", 573));
+    d.AngleSortie = 180.6;
+    EXPECT_EQ(dit(), Faute("AngleSortie", 572));
+    d.AngleEntreGalets = 0.5;
+    EXPECT_EQ(dit(), Faute("AngleEntreGalets", 571)) << "halves to even";
+    d.LoiZoneC = "MS_Spe";
+    EXPECT_EQ(dit(), Faute("CoefA2", 551));
+    d.LoiZoneA = "MS_Spe", d.CoefA1 = 1.2;
+    EXPECT_EQ(dit(), Faute("CoefA1", 551));
+    d.LoiZoneC = " ";
+    EXPECT_EQ(dit(), Faute("LoiZoneC", 538));
+    d.LoiZoneA = "";
+    EXPECT_EQ(dit(), Faute("LoiZoneA", 538));
+    d.NombreGalets = 1;
+    EXPECT_EQ(dit(), Faute("NombreGalets", 567));
+    d.AngleZoneA = 0;
+    EXPECT_EQ(dit(), Faute("AngleSortie", 69));
+    d.Entraxe = 44;
+    EXPECT_EQ(dit(), Faute("Entraxe", 535, 536));
+}
+
+TEST_F(ControlesGlobiques, FlanksTooFarApartAreTheLastFault) {
+    DonneesOscillateur d = UnOscillateur();
+    d.AngleEntreGalets = 106;
+    EXPECT_EQ(Dit(ChercheFauteOscillateur(d)), "") << "68 degrees";
+    d.AngleEntreGalets = 107;
+    EXPECT_EQ(Dit(ChercheFauteOscillateur(d)), Faute("AngleEntreGalets", 564));
+}

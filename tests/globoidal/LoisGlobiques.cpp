@@ -1,0 +1,106 @@
+#include "globoidal/LoisGlobiques.h"
+
+#include "outils/Catalogue.h"
+#include "outils/DossierTemporaire.h"
+
+#include <cmath>
+
+namespace {
+
+class LoisGlobiques : public AvecCatalogue {
+protected:
+    const Tableau<Loi> catalogue = LitLois();
+};
+
+/// Speed and acceleration are the derivatives of what stands before them, away from the joints of the segments.
+template <class Evaluation>
+void VerifieDerivees(const Evaluation& evalue, std::vector<double> joints, double tolerance) {
+    constexpr double pas = 1e-5;
+    for (double u = 0.0137; u < 1.0; u += 0.0173) {
+        const bool joint =
+            std::any_of(joints.begin(), joints.end(), [&](double j) { return std::abs(u - j) < 2 * pas; });
+        if (joint) continue;
+        const PointLoi avant = evalue(u - pas), ici = evalue(u), apres = evalue(u + pas);
+        EXPECT_NEAR((apres.Course - avant.Course) / (2 * pas), ici.Vitesse, tolerance) << u;
+        EXPECT_NEAR((apres.Vitesse - avant.Vitesse) / (2 * pas), ici.Accel, tolerance * 100) << u;
+    }
+}
+
+} // namespace
+
+TEST_F(LoisGlobiques, FiveSegmentsRiseFromRestToRestAndAreTheirOwnDerivatives) {
+    for (long i = 1; i <= catalogue.BorneHaute(); ++i) {
+        SCOPED_TRACE(catalogue[i].NomLoi);
+        const PartsLoi parts = PartsLoiNommee(catalogue[i].NomLoi, catalogue);
+        const LoiCinqSegments loi = PrepareCinqSegments(parts);
+        const double fin = (1 - parts.d) / 2;
+        for (const JointsLoi joints : {JointsIndexeur, JointsOscillateur}) {
+            const auto evalue = [&](double u) { return Evalue(loi, u, 0.5, joints); };
+            EXPECT_NEAR(evalue(0).Course, 0, 1e-15);
+            EXPECT_NEAR(evalue(1).Course, 1, 1e-15);
+            EXPECT_NEAR(evalue(0.5).Vitesse, loi.Vmax, 1e-14);
+            VerifieDerivees(evalue, {parts.a / 2, (parts.a + parts.b) / 2, fin, 1 - fin}, 1e-6);
+        }
+    }
+}
+
+TEST_F(LoisGlobiques, SymmetryMovesTheMiddleAndKeepsTheSpeed) {
+    const LoiCinqSegments loi = PrepareCinqSegments(PartsLoiNommee("MSC33", catalogue));
+    for (const double S : {0.1, 0.37, 0.9}) {
+        const PointLoi milieu = Evalue(loi, S, S, JointsIndexeur);
+        EXPECT_NEAR(milieu.Course, S, 1e-15);
+        EXPECT_NEAR(milieu.Vitesse, loi.Vmax, 1e-14);
+        EXPECT_NEAR(Evalue(loi, 1, S, JointsOscillateur).Course, 1, 1e-14);
+        VerifieDerivees([&](double u) { return Evalue(loi, u, S, JointsOscillateur); },
+                        {S / 12, S / 3, S * 2 / 3, 1 - (1 - S) * 2 / 3, 1 - (1 - S) / 12, S}, 1e-5);
+    }
+    // The harmonic law has no sine rise: a rounding at its end must not lead there.
+    const LoiCinqSegments harmonique = PrepareCinqSegments(PartsLoiNommee("SHM", catalogue));
+    for (double S = 0.1; S < 0.9; S += 0.01)
+        EXPECT_NEAR(Evalue(harmonique, 1, S, JointsIndexeur).Course, 1, 1e-14) << S;
+}
+
+TEST_F(LoisGlobiques, SecondFamilyMeetsThePublishedMaximaOfRiseAndReturn) {
+    for (const char* nom : {"MSH", "MSHC20", "MSHC33", "MSHC50"}) {
+        SCOPED_TRACE(nom);
+        const LoiDissymetrique loi = PrepareDissymetrique(PartsLoiNommee(nom, catalogue));
+        const Loi& ligne = etude.lois.ListeLois[ChercheLoi(nom)];
+        EXPECT_NEAR(loi.Ap, ligne.Ca, 1e-13);
+        EXPECT_NEAR(loi.Vmax, ligne.Cv, 1e-13);
+    }
+    // Any shares give a law that rises by 1 and ends at rest.
+    for (const auto& [a, b, c] : {std::array{0.3, 0.2, 0.4}, {0.0, 0.5, 0.3}, {0.4, 0.1, 0.0}, {0.0, 0.0, 0.8}}) {
+        const LoiDissymetrique loi = PrepareDissymetrique(CompleteParts(a, b, c));
+        const auto evalue = [&](double u) { return Evalue(loi, u); };
+        VerifieDerivees(evalue, {loi.h1, loi.h2, loi.h3, 1 - loi.h3}, 1e-6);
+        EXPECT_NEAR(evalue(0).Course, 0, 1e-15);
+        EXPECT_NEAR(evalue(1).Course, 1, 1e-14);
+        EXPECT_NEAR(evalue(1).Vitesse, 0, 1e-14);
+        EXPECT_NEAR(evalue(loi.h3 - 1e-9).Course, evalue(loi.h3 + 1e-9).Course, 1e-7);
+        const PointLoi retour = Retourne(evalue(0.3));
+        EXPECT_EQ(retour.Course, 1 - evalue(0.3).Course);
+        EXPECT_EQ(retour.Accel, -evalue(0.3).Accel);
+    }
+}
+
+TEST_F(LoisGlobiques, SharesThatAddUpByARoundingLeaveNothing) {
+    EXPECT_EQ(CompleteParts(0.3, 0.3, 0.4).d, 0);
+    EXPECT_EQ(CompleteParts(0.3, 0.3, 0.4 + 5e-10).d, 0);
+    EXPECT_LT(CompleteParts(0.3, 0.3, 0.4 + 2e-9).d, 0);
+    EXPECT_THROW(PartsLoiNommee("Sinus", catalogue), ErreurExecution);
+    EXPECT_THROW(PrepareCinqSegments(CompleteParts(0, 0, 0)), ErreurExecution) << "no lift";
+    // A cosine of no length, hit at the middle.
+    const LoiCinqSegments loi = PrepareCinqSegments(CompleteParts(0.5, 0.5, 0));
+    EXPECT_THROW(Evalue(loi, 0.5, 0.5, JointsIndexeur), ErreurExecution);
+    EXPECT_NO_THROW(Evalue(loi, 0.5, 0.5, JointsOscillateur));
+}
+
+TEST_F(LoisGlobiques, ALawFileLosesItsSignsAndEndsWhereItEnds) {
+    const DossierTemporaire dossier;
+    const FichierDeLoi fichier(dossier.Ecrit("a.Lmi", "0;0;0\r\n.25;1.5;-4\r\n.75;-1.5;4\r\n1;0;0\r\n"));
+    EXPECT_EQ(fichier.NombreLignes(), 4u);
+    EXPECT_EQ(fichier.Ligne(2).Accel, 4);
+    EXPECT_EQ(fichier.Ligne(3).Vitesse, 1.5);
+    EXPECT_THROW(fichier.Ligne(5), ErreurExecution);
+    EXPECT_THROW(FichierDeLoi(""), ErreurExecution);
+}

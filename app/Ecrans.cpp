@@ -3,6 +3,8 @@
 #include "conjugate/screens/CamesConjugueesIndexeur.h"
 #include "cylindrical/screens/DoCyl.h"
 #include "cylindrical/screens/DoCylOsc.h"
+#include "globoidal/screens/GlobiqueIndexeur.h"
+#include "globoidal/screens/GlobiqueOscillateur.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -33,6 +35,8 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
+    {"GlobiqueIndexeur", Cree<GlobiqueIndexeur>, 1},
+    {"GlobiqueOscillateur", Cree<GlobiqueOscillateur>, 2},
 };
 // clang-format on
 

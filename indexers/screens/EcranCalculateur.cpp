@@ -23,8 +23,9 @@ namespace {
 constexpr int TexteDonnees = 215;
 constexpr int TexteRienASauver = 23;
 constexpr int TexteGarde = 514;
+constexpr int TexteImprimer = 56;
 
-constexpr Legende legendes[] = {{"Quitter", 0, 340}, {"Calculer", 0, 11}, {"Imprimer", 0, 56}, {"Sauvegarde", 0, 417}};
+constexpr Legende legendes[] = {{"Quitter", 0, 340}, {"Calculer", 0, 11}, {"Sauvegarde", 0, 417}};
 
 } // namespace
 
@@ -41,6 +42,7 @@ EcranCalculateur::~EcranCalculateur() {
 
 void EcranCalculateur::Compose(const Composition& composition) {
     panneaux_ = composition.panneaux;
+    derouleVide_ = composition.derouleVide;
     lois_ = composition.lois;
     onglets_ = Nomme(new QTabWidget, "SSTab1");
     onglets_->addTab(new ZoneDefilante(FaitSaisie(composition)), QTexte(TexteDonnees));
@@ -70,7 +72,7 @@ QWidget* EcranCalculateur::FaitSaisie(const Composition& composition) {
 QLayout* EcranCalculateur::FaitBoutons(const Composition& composition) {
     auto* retour = Nomme(new QPushButton, "Quitter");
     calculer_ = Nomme(new QPushButton, "Calculer");
-    auto* imprimer = Nomme(new QPushButton, "Imprimer");
+    auto* imprimer = Nomme(new QPushButton(QTexte(TexteImprimer)), composition.imprimer);
     auto* sauver = Nomme(new QPushButton, "Sauvegarde");
     sorties_ = Nomme(new QWidget, "Frame8");
     auto* rangee = new QHBoxLayout(sorties_);
@@ -150,7 +152,11 @@ void EcranCalculateur::LitSaisie() {
 void EcranCalculateur::MontreFaute(const FauteSaisie& faute) {
     onglets_->setCurrentIndex(0);
     if (!faute.texte.empty()) LesDialogues().Message(faute.icone, faute.texte);
-    if (QWidget* controle = ControleDe(faute.champ)) controle->setFocus(Qt::OtherFocusReason);
+    QWidget* controle = ControleDe(faute.champ);
+    if (controle == nullptr) return;
+    controle->setFocus(Qt::OtherFocusReason);
+    auto* liste = qobject_cast<ListeCles*>(controle);
+    if (derouleVide_ && liste != nullptr && liste->Cle().empty()) liste->showPopup();
 }
 
 void EcranCalculateur::MontreSansPerimer(const std::string& membre, double valeur) {

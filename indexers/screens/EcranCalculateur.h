@@ -47,6 +47,8 @@ protected:
         std::vector<Feuille> resultats;
         std::vector<QWidget*> sorties; ///< beside the print and save buttons
         bool sauvegarde = true;        ///< there is something to save
+        const char* imprimer = "Imprimer";
+        bool derouleVide = false; ///< a fault of an empty list drops it open
     };
     void Compose(const Composition& composition);
 
@@ -85,6 +87,7 @@ private:
 
     bool calcule_ = false;
     bool ouvertes_ = false; ///< the sheets, without a result
+    bool calcule_ = false, derouleVide_ = false;
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;
     QTabWidget* onglets_ = nullptr;

@@ -119,7 +119,7 @@ void PanneauLoi::Choisit() {
 
 void PanneauLoi::Accepte() {
     if (const auto faute = ChercheFauteCoefs(Source(), saisie_.maximumD)) {
-        LesDialogues().Message(faute->icone, faute->texte);
+        LesDialogues().Message(saisie_.icone, faute->texte);
         coefs_[0]->setFocus(Qt::OtherFocusReason);
         return;
     }

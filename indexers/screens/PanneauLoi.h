@@ -19,7 +19,8 @@ struct SaisieLoi {
     ChampLie loi, symetrie, a, b, c;
     const char* panneau = "LoiSpeciale"; ///< the panel of coefficients, and its button
     const char* ok = "Ok";
-    double maximumD = 1.0; ///< largest share at constant speed
+    double maximumD = 1.0;         ///< largest share at constant speed
+    Icone icone = Icone::Critique; ///< of the box that refuses the shares
 };
 
 class PanneauLoi : public QGroupBox {

@@ -44,7 +44,7 @@ std::vector<CourbeGraphe> CourbesDe(const Montre& montre, const ResultatGlobique
     const PointParcours* avant = nullptr;
     for (const PointParcours& p : resultat.Parcours) {
         const bool autreGalet = avant == nullptr || p.galet != avant->galet;
-        if (autreGalet || p.position != avant->position + 1) {
+        if (autreGalet || p.position != avant->position + 1 || !montre.connue(*avant)) {
             courbes.push_back({});
             courbes.back().couleur = couleurs[static_cast<std::size_t>(p.galet - 1) % std::size(couleurs)];
             if (autreGalet && !nom.empty() && p.galet <= MaximumLegende)

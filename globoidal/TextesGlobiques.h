@@ -2,7 +2,7 @@
 #pragma once
 
 enum TexteGlobique : int {
-    PremierTexteGlobique = 873,
+    PremierTexteGlobique = 878,
     TexteSansLigneFin = PremierTexteGlobique,
     TexteSansCharge,
     TexteNervureMince,

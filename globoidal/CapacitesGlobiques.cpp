@@ -62,17 +62,17 @@ void AjouteParcours(const CameGlobique& came, const ParcoursGalet& parcours, con
 
 void CompleteTable(TableCapacites& table, bool arbreNulIllimite) {
     for (std::size_t k = 0; k < NombreParts; ++k) {
-        const auto valeur = [&](LigneCapacite ligne) { return table[ligne][k]; };
+        const auto valeur = [&](RangCapacite ligne) { return table[ligne][k]; };
         const double arbre = valeur(LimiteArbre);
-        const auto limite = [&](LigneCapacite came) {
+        const auto limite = [&](RangCapacite came) {
             const double deux = std::min(valeur(LimiteGalet), valeur(came));
             return arbreNulIllimite && arbre == 0.0 ? deux : std::min(deux, arbre);
         };
         // Under the nitrided skin lies soft steel: where it yields before the skin does, the depth is the limit.
         const double profondeur = valeur(LimiteProfondeur);
-        const LigneCapacite nitruree = profondeur > valeur(LimiteTrempee)    ? LimiteTrempee
-                                       : profondeur > valeur(LimiteNitruree) ? LimiteProfondeur
-                                                                             : LimiteNitruree;
+        const RangCapacite nitruree = profondeur > valeur(LimiteTrempee)    ? LimiteTrempee
+                                      : profondeur > valeur(LimiteNitruree) ? LimiteProfondeur
+                                                                            : LimiteNitruree;
         table[LimiteCameTrempee][k] = limite(LimiteTrempee);
         table[LimiteCameNitruree][k] = limite(nitruree);
         table[B10CameTrempee][k] = std::min(valeur(B10Galet), valeur(B10Trempee));
@@ -84,13 +84,13 @@ void CompleteTable(TableCapacites& table, bool arbreNulIllimite) {
             if (!std::isfinite(valeur)) throw ErreurExecution(NumeroErreur::ResultatNonFini);
 }
 
-LigneCapacite LigneQuiLimite(const TableCapacites& table, LigneCapacite globale, std::size_t part) {
-    static constexpr LigneCapacite couples[] = {LimiteArbre, LimiteGalet, LimiteTrempee, LimiteProfondeur,
-                                                LimiteNitruree},
-                                   durees[] = {B10Galet, B10Trempee, B10Nitruree};
+RangCapacite LigneQuiLimite(const TableCapacites& table, RangCapacite globale, std::size_t part) {
+    static constexpr RangCapacite couples[] = {LimiteArbre, LimiteGalet, LimiteTrempee, LimiteProfondeur,
+                                               LimiteNitruree},
+                                  durees[] = {B10Galet, B10Trempee, B10Nitruree};
     const bool couple = globale == LimiteCameTrempee || globale == LimiteCameNitruree;
-    for (const LigneCapacite ligne :
-         couple ? std::span<const LigneCapacite>(couples) : std::span<const LigneCapacite>(durees))
+    for (const RangCapacite ligne :
+         couple ? std::span<const RangCapacite>(couples) : std::span<const RangCapacite>(durees))
         if (table[ligne][part] == table[globale][part]) return ligne;
     return globale;
 }

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-enum LigneCapacite : std::size_t {
+enum RangCapacite : std::size_t {
     FigureContact,     ///< largest F/(H rho)
     ForceGalet,        ///< largest roller force under the reference torque
     ToursGalet,        ///< roller revolutions in one run
@@ -55,7 +55,7 @@ void CompleteTable(TableCapacites& table, bool arbreNulIllimite);
 
 /// The row that an overall row takes its value from: the part that gives out first.
 /// @param globale one of the four overall rows of the cam
-LigneCapacite LigneQuiLimite(const TableCapacites& table, LigneCapacite globale, std::size_t part);
+RangCapacite LigneQuiLimite(const TableCapacites& table, RangCapacite globale, std::size_t part);
 
 /// The largest factors of the cam torque, by share of inertia.
 using FacteursCouple = std::array<double, NombreParts>;

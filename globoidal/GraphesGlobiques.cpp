@@ -44,7 +44,7 @@ std::vector<CourbeGraphe> CourbesDe(const Montre& montre, const ResultatGlobique
     const PointParcours* avant = nullptr;
     for (const PointParcours& p : resultat.Parcours) {
         const bool autreGalet = avant == nullptr || p.galet != avant->galet;
-        if (autreGalet || p.position != avant->position + 1) {
+        if (autreGalet || p.position != avant->position + 1 || !montre.connue(*avant)) {
             courbes.push_back({});
             courbes.back().couleur = couleurs[static_cast<std::size_t>(p.galet - 1) % std::size(couleurs)];
             if (autreGalet && !nom.empty() && p.galet <= MaximumLegende)
@@ -80,7 +80,7 @@ std::vector<LimiteGraphe> LimitesDe(const Montre& montre, const MecanismeGlobiqu
     return {{limite, TexteArrondi(limite, 3) + " " + Texte(UniteMm)}};
 }
 
-std::string NomLimite(LigneCapacite ligne) {
+std::string NomLimite(RangCapacite ligne) {
     switch (ligne) {
     case B10Galet:
     case LimiteGalet:
@@ -94,7 +94,7 @@ std::string NomLimite(LigneCapacite ligne) {
     }
 }
 
-SerieBarres Serie(const ResultatGlobique& resultat, int nom, Couleur couleur, LigneCapacite ligne) {
+SerieBarres Serie(const ResultatGlobique& resultat, int nom, Couleur couleur, RangCapacite ligne) {
     SerieBarres serie{Texte(nom), couleur, {}};
     for (std::size_t k = 0; k < NombreParts; ++k) {
         if (SansCharge(resultat, ligne, k)) {
@@ -133,7 +133,7 @@ void DessineCapacites(Dessin& dessin, const ResultatGlobique& resultat) {
     const int trempee = indexeur ? 589 : 556;
     std::vector<std::string> parts;
     for (std::size_t k = 0; k < NombreParts; ++k) parts.push_back(TexteCourt(PartInertie(k)) + " %");
-    const auto graphe = [&](int titre, LigneCapacite dure, LigneCapacite nitruree) {
+    const auto graphe = [&](int titre, RangCapacite dure, RangCapacite nitruree) {
         return GrapheBarres{
             Texte(titre),
             Texte(UniteNm),

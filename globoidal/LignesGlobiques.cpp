@@ -15,7 +15,7 @@ constexpr int DecimalesMm = 3, DecimalesEnveloppe = 2, DecimalesAngle = 2, Decim
 
 struct RangeeDecrite {
     int libelle;
-    LigneCapacite ligne;
+    RangCapacite ligne;
     int label; ///< number of its first label
 };
 
@@ -136,7 +136,7 @@ std::string BaseDuree() {
 
 } // namespace
 
-bool SansCharge(const ResultatGlobique& resultat, LigneCapacite ligne, std::size_t part) {
+bool SansCharge(const ResultatGlobique& resultat, RangCapacite ligne, std::size_t part) {
     const double valeur = resultat.Resultats[ligne][part];
     if (valeur >= GrandNombre) return true;
     // A roller that carries nothing wears all the same by a hair, so that nothing is divided by zero.

@@ -15,7 +15,7 @@ std::vector<GroupeResultats> GeometrieOscillateur(const DonneesOscillateur& donn
 std::vector<TableResultats> CapacitesOscillateur(const ResultatGlobique& resultat);
 
 /// True for a capacity that no load was measured for: the screen shows a dash in its place.
-bool SansCharge(const ResultatGlobique& resultat, LigneCapacite ligne, std::size_t part);
+bool SansCharge(const ResultatGlobique& resultat, RangCapacite ligne, std::size_t part);
 
 /// What screen and page show in place of a value that has none.
 inline constexpr const char* Tiret = "\u2013";

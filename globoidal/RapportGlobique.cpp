@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int LargeurNom = 34;    ///< characters of a caption before its colon
+constexpr int LargeurNom = 38;    ///< characters of a caption before its colon
 constexpr int LargeurRangee = 22; ///< and before the five columns
 constexpr int LargeurColonne = 11;
 constexpr double TaillePage = 12; ///< points

@@ -87,6 +87,7 @@ private:
 
     bool calcule_ = false, derouleVide_ = false;
     bool ouvertes_ = false; ///< the sheets, without a result
+    bool derouleVide_ = false;
     std::vector<PanneauSaisie*> panneaux_;
     std::vector<PanneauLoi*> lois_;
     QTabWidget* onglets_ = nullptr;

@@ -28,6 +28,9 @@ constexpr int NotesDesStops[] = {447, 448, 449, 450}, NoteHuile[] = {446};
 
 constexpr std::size_t NombreGraphes = 3;
 
+/// What is seen of the report at first: its longest lines whole, beside the notes.
+constexpr int ColonnesVues = 88, HauteurVue = 520, LargeurNotes = 260; // characters, pixels, pixels
+
 /// The number of entries of the mechanism; those behind them are of the roller.
 constexpr std::ptrdiff_t EntreesMecanisme = 8;
 
@@ -80,11 +83,14 @@ QWidget* CamesConjugueesIndexeur::FaitRapport() {
     QFont police(QStringLiteral("Courier New"));
     police.setStyleHint(QFont::Monospace);
     grille_->setFont(police);
+    grille_->setMinimumSize(grille_->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColonnesVues, HauteurVue);
     notes_ = Nomme(new PanneauResultats, "Notes");
     auto* feuille = new QWidget;
     auto* rangee = new QHBoxLayout(feuille);
+    auto* aCote = new ZoneDefilante(notes_);
+    aCote->setMinimumWidth(LargeurNotes);
     rangee->addWidget(grille_, 3);
-    rangee->addWidget(new ZoneDefilante(notes_), 1);
+    rangee->addWidget(aCote, 1);
     return feuille;
 }
 
@@ -96,6 +102,8 @@ QWidget* CamesConjugueesIndexeur::FaitGraphiques() {
         zone->Peint([this, i](Dessin& dessin) {
             if (i < graphes_.size()) DessineGraphe(dessin, graphes_[i], PlaceEntiere(dessin, graphes_[i]));
         });
+        // The graphs share what height there is.
+        zone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
         zones_.push_back(zone);
         pile->addWidget(zone);
     }

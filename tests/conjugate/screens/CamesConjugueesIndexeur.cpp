@@ -108,8 +108,8 @@ TEST_F(ConjugateScreen, ReportOfWhatWasTyped) {
 TEST_F(ConjugateScreen, StopsTellTheirReasonAndShowWhatWasWritten) {
     TapeMecanisme();
     Clique("Calculer");
-    CalculeAvec("Text12", "4000");
-    EXPECT_EQ(DerniereBoite(), Texte(458));
+    CalculeAvec("Text12", "6000");
+    ASSERT_EQ(DerniereBoite(), Texte(458));
     EXPECT_EQ(dialogues.boites.back().icone, Icone::Critique);
     EXPECT_TRUE(AFocus("Text12"));
     EXPECT_EQ(Lignes().size(), 25U) << "the lines written so far";
@@ -140,7 +140,7 @@ TEST_F(ConjugateScreen, WhatCannotBeCalculatedSendsToItsField) {
     TapeMecanisme();
     for (const auto& [champ, texte, valeur] : {std::tuple{"Text1", "0", "100"},
                                                {"Text5", "0.5", "8"},
-                                               {"Text3", "", "8"},
+                                               {"Text3", "0", "8"},
                                                {"Text4", "abc", "150"},
                                                {"Text11", "1", "0"},
                                                {"Text12", "0", "100"},

@@ -41,9 +41,9 @@ void AjouteValeurs(Json& objet, const ResultatConjugue& r) {
     objet["DynB50"] = premier(&LimitesContact::DynB50);
 }
 
-Json JsonTableau(const std::vector<LigneCapacite>& tableau) {
+Json JsonTableau(const std::vector<LigneVitesse>& tableau) {
     Json lignes = Json::array();
-    for (const LigneCapacite& l : tableau)
+    for (const LigneVitesse& l : tableau)
         lignes.push_back({{"Ipm", l.Ipm},
                           {"C60x", l.C60x},
                           {"DynB10", l.DynB10},

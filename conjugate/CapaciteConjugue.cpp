@@ -104,10 +104,10 @@ CapaciteConjugue CalculeCapacite(const DonneesConjugue& d, const ReposConjugue& 
     return c;
 }
 
-LigneCapacite CalculeLigne(const DonneesConjugue& d, const ReposConjugue& repos, const CapaciteConjugue& capacite,
-                           double Ipm) {
+LigneVitesse CalculeLigne(const DonneesConjugue& d, const ReposConjugue& repos, const CapaciteConjugue& capacite,
+                          double Ipm) {
     const double E = Puissance(ToursGalet(repos.SR, VitesseArbre(d.N, Ipm)), 0.3);
-    LigneCapacite ligne;
+    LigneVitesse ligne;
     ligne.Ipm = Ipm;
     ligne.C60x = capacite.premier.C60;
     ligne.DynB10 = LimiteDynamique(d, capacite.Fu, E, capacite.premier.contact.PA);

@@ -36,7 +36,7 @@ struct CapaciteConjugue {
 };
 
 /// A row of the table of capacities.
-struct LigneCapacite {
+struct LigneVitesse {
     double Ipm = 0;
     double C60x = 0, DynB10 = 0, DynB50 = 0;
     double Catalogue = 0; ///< the smaller of cam surface and B50
@@ -59,8 +59,8 @@ CapaciteConjugue CalculeCapacite(const DonneesConjugue& d, const ReposConjugue& 
 double Fu(double M, double N, double A);
 
 /// The capacities at a speed. @param Ipm indexes a minute
-LigneCapacite CalculeLigne(const DonneesConjugue& d, const ReposConjugue& repos, const CapaciteConjugue& capacite,
-                           double Ipm);
+LigneVitesse CalculeLigne(const DonneesConjugue& d, const ReposConjugue& repos, const CapaciteConjugue& capacite,
+                          double Ipm);
 
 /// The speeds of the table, indexes a minute: slower for large centre distances.
 std::vector<double> VitessesTable(double Q);

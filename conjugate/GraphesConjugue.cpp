@@ -160,12 +160,12 @@ Graphe GrapheCapacite(const DonneesConjugue& d, const ReposConjugue& repos, cons
     const double lente = std::min(vitesses.front(), d.Ipm), rapide = std::max(vitesses.back(), d.Ipm);
     struct Serie {
         int texte;
-        double (*valeur)(const LigneCapacite&);
+        double (*valeur)(const LigneVitesse&);
     };
     static constexpr Serie series[] = {
-        {TexteDynamiqueB10, [](const LigneCapacite& l) { return l.DynB10; }},
-        {TexteDynamiqueB50, [](const LigneCapacite& l) { return l.DynB50; }},
-        {TexteCoupleUtile, [](const LigneCapacite& l) { return l.Catalogue - l.Propre; }},
+        {TexteDynamiqueB10, [](const LigneVitesse& l) { return l.DynB10; }},
+        {TexteDynamiqueB50, [](const LigneVitesse& l) { return l.DynB50; }},
+        {TexteCoupleUtile, [](const LigneVitesse& l) { return l.Catalogue - l.Propre; }},
     };
     double mini = 0, maxi = std::max(capacite.premier.C60, capacite.LimiteStatique);
     for (std::size_t s = 0; s < std::size(series); ++s) {

@@ -42,7 +42,7 @@ void Evalue(ResultatConjugue& resultat) {
 void EcritTableau(ResultatConjugue& resultat) {
     EcritTeteTableau(resultat.lignes);
     for (const double Ipm : VitessesTable(resultat.donnees->Q)) {
-        const LigneCapacite ligne = CalculeLigne(*resultat.donnees, *resultat.repos, *resultat.capacite, Ipm);
+        const LigneVitesse ligne = CalculeLigne(*resultat.donnees, *resultat.repos, *resultat.capacite, Ipm);
         resultat.tableau.push_back(ligne);
         EcritLigneTableau(ligne, resultat.lignes);
     }

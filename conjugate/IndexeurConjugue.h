@@ -16,7 +16,7 @@ struct ResultatConjugue {
     std::optional<Courbures> courbures;
     std::optional<ReposConjugue> repos;
     std::optional<CapaciteConjugue> capacite;
-    std::vector<LigneCapacite> tableau;
+    std::vector<LigneVitesse> tableau;
 };
 
 /// Calculates and writes the report. No entry is checked before.

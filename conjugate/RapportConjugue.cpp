@@ -127,7 +127,7 @@ void EcritTeteTableau(std::vector<std::string>& lignes) {
            "                  [Nm]        [Nm]        [Nm]    [Nm]     [Nm]     [Nm]"});
 }
 
-void EcritLigneTableau(const LigneCapacite& ligne, std::vector<std::string>& lignes) {
+void EcritLigneTableau(const LigneVitesse& ligne, std::vector<std::string>& lignes) {
     const auto entier = [](double valeur) { return Str(Int(valeur)); };
     // Nothing fills the last column, as always.
     lignes.push_back(Blancs(4) + entier(ligne.Ipm) + Blancs(7) + entier(ligne.C60x) + Blancs(6) + entier(ligne.DynB10) +

@@ -12,4 +12,4 @@ void EcritExplications(std::vector<std::string>& lignes);
 void EcritCapacite(const DonneesConjugue& d, const Courbures& courbures, const ReposConjugue& repos,
                    const CapaciteConjugue& capacite, std::vector<std::string>& lignes);
 void EcritTeteTableau(std::vector<std::string>& lignes);
-void EcritLigneTableau(const LigneCapacite& ligne, std::vector<std::string>& lignes);
+void EcritLigneTableau(const LigneVitesse& ligne, std::vector<std::string>& lignes);

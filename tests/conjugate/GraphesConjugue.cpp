@@ -54,7 +54,7 @@ TEST_F(GraphesConjugues, CurvesPassThroughTheFiguresOfTheReport) {
         for (const PointDessin& p : graphes[1].courbes[0].points) mini = std::min(mini, p.y);
         EXPECT_EQ(mini, r.courbures->RayonMini);
         EXPECT_NEAR(graphes[1].limites[0].valeur, 13.127, 1e-12) << "roller and cutter";
-        for (const LigneCapacite& ligne : r.tableau) {
+        for (const LigneVitesse& ligne : r.tableau) {
             EXPECT_NEAR(Valeur(graphes[2].courbes[0], ligne.Ipm), ligne.DynB10, 0.01 * ligne.DynB10);
             EXPECT_NEAR(Valeur(graphes[2].courbes[2], ligne.Ipm), ligne.Catalogue - ligne.Propre, 1);
         }

@@ -88,7 +88,7 @@ TEST_F(IndexeurConjugue, ReportStandsLineByLine) {
     EXPECT_EQ(r.lignes[34], "CAM SURFACE LIMIT @ RC60 :   AT DWELL  : " + TexteCourt(r.capacite->C60d) + " Nm");
     EXPECT_EQ(Ligne(" FOR  8000 HRB B10"), " FOR  8000 HRB B10 BEARING LIFE @99.5 INDEXES PER MINUTE");
     EXPECT_EQ(Ligne(" FOR  8000 HRB B50"), " FOR  8000 HRB B50 = 2000 HRB B10 BEARING LIFE");
-    const LigneCapacite& derniere = r.tableau.back();
+    const LigneVitesse& derniere = r.tableau.back();
     EXPECT_EQ(r.lignes.back(), "     500        " + std::to_string(static_cast<int>(derniere.C60x)) + "       " +
                                    std::to_string(static_cast<int>(derniere.DynB10)) + "       " +
                                    std::to_string(static_cast<int>(derniere.DynB50)) + "     " +

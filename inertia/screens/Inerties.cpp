@@ -194,12 +194,12 @@ void Inerties::AppliqueTextes() {
 // ---- one solid
 
 void Inerties::ChoisitSolide(int TypeSolide) {
-    PrendSaisie(SaisieInitiale(*TrouveSolide(TypeSolide)));
+    MontreSaisie(SaisieInitiale(*TrouveSolide(TypeSolide)));
     MontreFaute({}); // nothing is missing before something was typed
     panneau_->Champ("Text1")->setFocus(Qt::TabFocusReason);
 }
 
-void Inerties::PrendSaisie(const SaisieSolide& saisie) {
+void Inerties::MontreSaisie(const SaisieSolide& saisie) {
     genre_ = TrouveSolide(saisie.TypeSolide);
     barres_->Montre(*genre_);
     panneau_->Choisit(*genre_);
@@ -305,7 +305,7 @@ void Inerties::Moins() {
     listeModifiee_ = true;
     MontreListe();
     if (grille1_->NombreLignes() > 0) grille1_->selectRow(std::min(rang, grille1_->NombreLignes() - 1));
-    PrendSaisie(*saisie);
+    MontreSaisie(*saisie);
 }
 
 void Inerties::MontreListe() {

@@ -1,7 +1,9 @@
 #include "batch/CommandeInertie.h"
 
+#include "batch/DonneesJson.h"
 #include "batch/Passage.h"
-#include "core/FichierEntier.h"
+#include "batch/TextesBatch.h"
+#include "data/Textes.h"
 #include "inertia/FichierInerties.h"
 
 #include <algorithm>
@@ -18,37 +20,39 @@ constexpr std::pair<const char*, std::string S::*> textes[] = {
     {"Text6", &S::Text6}, {"Text7", &S::Text7}, {"Text8", &S::Text8}};
 
 /// A member as it would be typed: a text as it stands, a number in its shortest digits.
-std::string LitTexte(const std::string& nom, const Json& valeur) {
+std::string LitTexte(const std::string& nom, const Donnees& valeur) {
     if (valeur.is_string()) return valeur.get<std::string>();
     if (valeur.is_number()) return StrTrim(valeur.get<double>());
-    throw UsageIncorrect(nom + " is neither a text nor a number");
+    throw MembreIncorrect(nom, "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre), valeur);
 }
 
-const GenreSolide& LitGenre(const Json& donnees) {
+const GenreSolide& LitGenre(const std::string& nom, const Donnees& donnees) {
     const auto code = donnees.find(TypeSolide);
-    if (code == donnees.end()) throw UsageIncorrect(std::string("a solid has no member ") + TypeSolide);
+    if (code == donnees.end()) throw DonneesIncorrectes(Texte(TexteMembreAbsent) + " " + nom + TypeSolide);
     const GenreSolide* genre =
         code->is_number_integer() && *code >= 1 && *code <= 20 ? TrouveSolide(code->get<int>()) : nullptr;
-    if (genre == nullptr) throw UsageIncorrect(std::string(TypeSolide) + " is a whole number from 1 to 20");
-    return *genre;
+    if (genre != nullptr) return *genre;
+    throw MembreIncorrect(nom + TypeSolide, Texte(TexteNombreEntier) + " 1 " + Texte(TexteJusqua) + " 20", *code);
 }
 
-/// One solid: its kind is chosen, then what is given is typed.
-SaisieSolide LitSolide(const Json& donnees) {
-    if (!donnees.is_object()) throw UsageIncorrect("a solid is not a JSON object");
-    const GenreSolide& genre = LitGenre(donnees);
+/// One solid: its kind is chosen, then what is given is typed. @param rang from 0
+SaisieSolide LitSolide(const Donnees& donnees, std::size_t rang) {
+    const std::string place = std::string(Solides) + "[" + std::to_string(rang) + "]", debut = place + ".";
+    if (!donnees.is_object()) throw MembreIncorrect(place, "{...}", donnees);
+    const GenreSolide& genre = LitGenre(debut, donnees);
     SaisieSolide saisie = SaisieInitiale(genre);
     if (const auto masse = donnees.find(MasseTotal); masse != donnees.end()) {
-        if (!masse->is_boolean()) throw UsageIncorrect(std::string(MasseTotal) + " is true or false");
+        if (!masse->is_boolean())
+            throw MembreIncorrect(debut + MasseTotal, "true " + Texte(TexteOu) + " false", *masse);
         saisie.MasseTotal = masse->get<bool>();
         saisie.Text3 = Text3Initial(genre, saisie.MasseTotal);
     }
     for (const auto& [nom, valeur] : donnees.items()) {
         if (nom == TypeSolide || nom == MasseTotal) continue;
-        const auto* place = std::find_if(std::begin(textes), std::end(textes),
+        const auto* champ = std::find_if(std::begin(textes), std::end(textes),
                                          [&nom = nom](const auto& texte) { return nom == texte.first; });
-        if (place == std::end(textes)) throw UsageIncorrect("unknown member " + nom);
-        saisie.*place->second = LitTexte(nom, valeur);
+        if (champ == std::end(textes)) throw DonneesIncorrectes(Texte(TexteMembreInconnu) + " " + debut + nom);
+        saisie.*champ->second = LitTexte(debut + nom, valeur);
     }
     return saisie;
 }
@@ -62,14 +66,14 @@ std::vector<SaisieSolide> LitListe(const std::string& fichier) {
 
 std::vector<SaisieSolide> LitDonnees(const std::string& fichier) {
     if (fichier.ends_with(ExtensionInerties)) return LitListe(fichier);
-    const Json donnees = Json::parse(LitFichierEntier(fichier));
-    if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
+    const Donnees donnees = LitDonneesJson(fichier);
     for (const auto& [nom, valeur] : donnees.items())
-        if (nom != Solides) throw UsageIncorrect("unknown member " + nom);
+        if (nom != Solides) throw DonneesIncorrectes(Texte(TexteMembreInconnu) + " " + nom);
     const auto solides = donnees.find(Solides);
-    if (solides == donnees.end() || !solides->is_array()) throw UsageIncorrect("no array solides");
+    if (solides == donnees.end()) throw DonneesIncorrectes(Texte(TexteMembreAbsent) + " " + Solides);
+    if (!solides->is_array()) throw MembreIncorrect(Solides, "[...]", *solides);
     std::vector<SaisieSolide> saisies;
-    for (const Json& solide : *solides) saisies.push_back(LitSolide(solide));
+    for (const Donnees& solide : *solides) saisies.push_back(LitSolide(solide, saisies.size()));
     return saisies;
 }
 

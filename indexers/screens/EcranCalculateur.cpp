@@ -166,6 +166,15 @@ void EcranCalculateur::MontreSansPerimer(const std::string& membre, double valeu
     }
 }
 
+bool EcranCalculateur::PrendInertie(double inertie) {
+    auto* champ = qobject_cast<ChampNombre*>(ControleDe("InertieTourelle"));
+    if (champ == nullptr) return false;
+    onglets_->setCurrentIndex(0);
+    champ->Montre(inertie);
+    champ->setFocus(Qt::OtherFocusReason);
+    return true;
+}
+
 // ---- results
 
 void EcranCalculateur::Perime() {

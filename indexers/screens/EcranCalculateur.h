@@ -27,6 +27,9 @@ public:
     /// Saves what the calculator saves; tells that there is nothing without results.
     void Enregistrer() override;
 
+    /// Into the inertia of the turret, where the calculator has one.
+    bool PrendInertie(double inertie) override;
+
 protected:
     /// @param titre text number of the caption
     /// @param active the flag of the screen, by which saving and printing go to it

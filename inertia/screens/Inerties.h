@@ -39,6 +39,9 @@ public:
     /// Asks for a file, and saves the list.
     void Enregistrer() override;
     void Imprime(Imprimante& imprimante) const override;
+    /// The list, as its file.
+    std::string Travail() const override;
+    void Reprend(const std::string& contenu) override;
 
     /// What was typed and the list stay.
     void AppliqueTextes() override;

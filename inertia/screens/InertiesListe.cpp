@@ -16,6 +16,8 @@
 #include <QMenu>
 #include <QToolButton>
 
+#include <utility>
+
 namespace {
 
 /// The list that was last given up without being saved, as its file; it lives as long as the program.
@@ -133,9 +135,16 @@ void Inerties::Copie() {
 
 void Inerties::ReprendAbandonnee() {
     if (abandonnee.empty()) return;
-    Assemblage reprise = AnalyseInerties(abandonnee);
-    abandonnee.clear();
-    RemplaceListe(std::move(reprise));
+    const std::string contenu = std::exchange(abandonnee, {});
+    Reprend(contenu);
+}
+
+std::string Inerties::Travail() const {
+    return assemblage_.lignes.empty() ? std::string() : ComposeInerties(assemblage_);
+}
+
+void Inerties::Reprend(const std::string& contenu) {
+    RemplaceListe(AnalyseInerties(contenu));
     listeModifiee_ = true; // it is still in no file
 }
 

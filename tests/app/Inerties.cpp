@@ -1,9 +1,9 @@
 // The inertia calculator beside the studies of the main window.
-#include "inertia/TextesInertie.h"
 #include "inertia/screens/Inerties.h"
 #include "app/MdiCamA.h"
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "inertia/TextesInertie.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
@@ -62,11 +62,16 @@ TEST_F(InertiesAuBureau, TheListOutlivesStudiesLanguagesAndAnotherCallOfTheComma
 TEST_F(InertiesAuBureau, TheTotalGoesIntoTheFieldThatAsksForAnInertia) {
     Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
     EXPECT_EQ(Etat(), Texte(TexteAucunChampInertie));
-    mdi_.OuvreEcran("DoCylOsc");
-    Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
-    auto* champ = Controle<ChampNombre>(*mdi_.EcranOuvert("DoCylOsc"), "Text6");
-    EXPECT_NEAR(champ->Valeur(), 10.5972, 1e-4);
-    EXPECT_TRUE(mdi_.EcranOuvert("DoCylOsc")->EnAvant());
+    for (const auto& [ecran, champ] : {std::pair{"DoCylOsc", "Text6"},
+                                       {"CylindriqueIndexeur", "Text3"},
+                                       {"GlobiqueIndexeur", "Text3"},
+                                       {"GlobiqueOscillateur", "Text3"}}) {
+        mdi_.FermeEcrans();
+        FenetreEnfant* calcul = mdi_.OuvreEcran(ecran);
+        Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
+        EXPECT_NEAR(Controle<ChampNombre>(*calcul, champ)->Valeur(), 10.5972, 1e-4) << ecran;
+        EXPECT_TRUE(calcul->EnAvant()) << ecran;
+    }
 }
 
 TEST_F(InertiesAuBureau, SavingAndPrintingAreItsOwnWhileItIsInFront) {

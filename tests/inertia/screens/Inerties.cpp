@@ -245,6 +245,14 @@ TEST_F(EcranInerties, TheListIsKeptInFilesAndOnTheClipboard) {
     Controle<QAction>(*ecran, "ListeReprendre")->trigger();
     EXPECT_EQ(ecran->Liste().lignes.size(), 2U);
 
+    // What the program keeps of the window comes back in another one.
+    const std::string travail = ecran->Travail();
+    Ouvre();
+    EXPECT_EQ(ecran->Travail(), "");
+    ecran->Reprend(travail);
+    EXPECT_EQ(ecran->Travail(), travail);
+    EXPECT_EQ(Totaux().front(), "50.");
+
     QSignalSpy transmise(ecran.get(), &Inerties::InertieOfferte);
     Controle<QAction>(*ecran, "ListeTransmettre")->trigger();
     EXPECT_NEAR(transmise.back().front().toDouble(), 0.64, 1e-14);

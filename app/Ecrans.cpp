@@ -5,6 +5,7 @@
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
+#include "studies/screens/CamesConjugeesOscillation.h"
 #include "studies/screens/Resultat.h"
 
 #include <algorithm>
@@ -31,6 +32,7 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"CamesConjugeesOscillation", Cree<CamesConjugeesOscillation>},
 };
 // clang-format on
 

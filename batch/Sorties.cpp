@@ -30,9 +30,8 @@ void EcritRapport(const std::filesystem::path& chemin) {
 
 void EcritSorties(const LigneCommande& ligne) {
     if (!ligne.points.empty()) EcritFichierEntier(ligne.points, ComposeFichierPoints());
-    if (!ligne.scripts.empty()) {
-        EcritFichierEntier(ligne.scripts + "_Ext.Scr", ComposeScriptExterieur());
-        EcritFichierEntier(ligne.scripts + "_Int.Scr", ComposeScriptInterieur());
-    }
+    if (!ligne.scripts.empty())
+        for (const FichierScript& script : LesScripts())
+            EcritFichierEntier(ligne.scripts + script.suite + ".Scr", script.compose());
     if (!ligne.rapport.empty()) EcritRapport(ligne.rapport);
 }

@@ -82,9 +82,11 @@ void CalculePointLineaire(Point& p, const PointLoi& unite, const Parcours& zone)
 // The maxima of the law and of the roller speed are not cleared: they go on growing from one calculation to the next
 // while the program runs.
 
-void CalculeMouvementBras() {
+namespace {
+
+void DerouleBras(LoisZones* lois) {
     PointsTropPetits tropPetits;
-    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false},
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false, lois},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone);
@@ -92,6 +94,16 @@ void CalculeMouvementBras() {
                      CalculeVitesseGalet(p);
                  });
     tropPetits.Annonce();
+}
+
+} // namespace
+
+void CalculeMouvementBras() {
+    DerouleBras(nullptr);
+}
+
+void CalculeMouvementCouple(LoisZones& lois) {
+    DerouleBras(&lois);
 }
 
 void CalculeMouvementLineaire() {

@@ -40,7 +40,8 @@ struct CourbeScript {
     }
 };
 
-void EcritDemande(int titre, const std::string& nom, const char* extension, std::string (*compose)()) {
+void EcritDemande(int titre, const std::string& nom, const char* extension,
+                  const std::function<std::string()>& compose) {
     const std::string motif = std::string("*.") + extension;
     const auto chemin = LesDialogues().FichierASauver({Texte(titre),
                                                        CheminAppli / NomDossierEtudes,
@@ -49,17 +50,51 @@ void EcritDemande(int titre, const std::string& nom, const char* extension, std:
     if (chemin && !chemin->empty()) EcritFichierEntier(*chemin, compose());
 }
 
-} // namespace
+constexpr const char* LigneBlanche = " ";
 
-std::string ComposeFichierPoints() {
-    std::string contenu = "Rayon du galet ," + StrTrim(etude.donnees.RayonGalet) + FinDeLigne;
-    contenu.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints + 2) * 24);
+/// The roller radius, then cam angle and radius of every point, of the cam that the record shows. Several cams have
+/// each a heading.
+void AjoutePoints(std::string& contenu, const DescriptionPasse* came) {
+    if (came != nullptr && !contenu.empty()) contenu += std::string(LigneBlanche) + FinDeLigne;
+    contenu +=
+        (came == nullptr ? "Rayon du galet ," : came->pointsGalet) + StrTrim(etude.donnees.RayonGalet) + FinDeLigne;
+    if (came != nullptr) contenu += std::string(came->pointsTitre) + FinDeLigne + LigneBlanche + FinDeLigne;
+    contenu.reserve(contenu.size() + static_cast<std::size_t>(etude.resultats.NombrePoints + 2) * 24);
     for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
         AjouteStr(contenu, etude.resultats.Points[i].Angle);
         contenu += ',';
         AjouteFormat(contenu, etude.resultats.Points[i].Rayon, "###.######");
         contenu += FinDeLigne;
     }
+}
+
+/// One of several cams: all the arms with their rollers, then the radius to the start and the profile of this one.
+std::string ComposeScriptCame(std::size_t rang) {
+    Script script;
+    script.Croix({0, 0}, Script::Saut::Blanc);
+    PourChaqueCame(LeTypeEtude(), [&](const DescriptionPasse*) { TraceBras(script); });
+    const PasseEnVue vue(etude.passes.at(rang));
+    const CourbeScript courbe{&PointProfil::XInterieur, &PointProfil::YInterieur};
+    script.Ligne({0, 0}, courbe(0), Script::Saut::Blanc);
+    courbe.TracePolyligne(script);
+    return script.Texte();
+}
+
+} // namespace
+
+std::vector<FichierScript> LesScripts() {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr || type->passes.empty())
+        return {{"_Ext", 315, ComposeScriptExterieur}, {"_Int", 316, ComposeScriptInterieur}};
+    std::vector<FichierScript> scripts;
+    for (std::size_t rang = 0; rang < type->passes.size(); ++rang)
+        scripts.push_back({"_" + Texte(type->passes[rang].titre), 316, [rang] { return ComposeScriptCame(rang); }});
+    return scripts;
+}
+
+std::string ComposeFichierPoints() {
+    std::string contenu;
+    PourChaqueCame(LeTypeEtude(), [&](const DescriptionPasse* came) { AjoutePoints(contenu, came); });
     return contenu;
 }
 
@@ -88,6 +123,6 @@ void FichiersPoints() {
 
 void FichiersScripts() {
     const std::string nom = NomSansExtension(etude.donnees.NomFichier);
-    EcritDemande(315, nom + "_Ext", "Scr", ComposeScriptExterieur);
-    EcritDemande(316, nom + "_Int", "Scr", ComposeScriptInterieur);
+    for (const FichierScript& script : LesScripts())
+        EcritDemande(script.titre, nom + script.suite, "Scr", script.compose);
 }

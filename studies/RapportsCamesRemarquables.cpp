@@ -22,21 +22,44 @@ std::string ComposeLigne(const ValeurRemarquable& ligne, int texte) {
                        valeur);
 }
 
-} // namespace
-
-void ImprimePointsRemarquables() {
-    const TypeEtude& type = LeTypeEtude();
-    std::vector<LigneRapport> lignes;
+/// The groups of values of the cam that the record shows.
+void AjouteValeurs(std::vector<LigneRapport>& lignes, const TypeEtude& type) {
     int groupe = 0;
     for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {
         const int texte = ligne.texte(type);
         if (texte == 0) continue;
         if (ligne.groupe != groupe) {
-            if (groupe != 0) lignes.push_back({});
+            if (!lignes.empty()) lignes.push_back({});
             lignes.push_back({Texte(ligne.groupe), true});
             groupe = ligne.groupe;
         }
         lignes.push_back({ComposeLigne(ligne, texte)});
     }
+}
+
+/// What is checked of several cams together, and what must be known of it.
+void AjouteControle(std::vector<LigneRapport>& lignes, const ControleEtude& controle) {
+    constexpr int colonnes = 72;
+    lignes.push_back({});
+    lignes.push_back({Texte(controle.titre), true});
+    for (const LigneControle& ligne : controle.lignes())
+        lignes.push_back({LigneValeur(ligne.libelle, "(" + ligne.unite + ") : ", ligne.valeur)});
+    lignes.push_back({});
+    for (const std::string& ligne : CoupeEnLignes(Texte(controle.note), colonnes)) lignes.push_back({ligne});
+}
+
+} // namespace
+
+void ImprimePointsRemarquables() {
+    const TypeEtude& type = LeTypeEtude();
+    std::vector<LigneRapport> lignes;
+    PourChaqueCame(type, [&](const DescriptionPasse* came) {
+        if (came != nullptr) {
+            if (!lignes.empty()) lignes.push_back({});
+            lignes.push_back({Texte(came->titre), true, true});
+        }
+        AjouteValeurs(lignes, type);
+    });
+    if (type.controle.lignes != nullptr) AjouteControle(lignes, type.controle);
     ImprimeRapportLignes(Texte(TitreRemarquables), lignes);
 }

@@ -30,7 +30,6 @@ constexpr Legende legendes[] = {
     {"EtiquetteCombo2", 0, 174},
     {"EtiquetteCombo1", 0, 105},
     {"TitreGrille", 0, 179},
-    {"Suivante", 0, 14},
 };
 
 QComboBox* FaitListe(const char* nom) {
@@ -62,6 +61,7 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     somme_ = Nomme(new QLabel, "SommeAngles");
     disposition->addWidget(somme_);
     AppliqueLegendes(*this, legendes);
+    suivante_->setText(QTexte(champs.suivante));
     RelieChamps();
 
     zonesEntrees_ = etude.donnees.NombreZones;

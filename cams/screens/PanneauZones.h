@@ -17,6 +17,7 @@ class QPushButton;
 /// The control names of the fields.
 struct ChampsZones {
     const char *nombre, *depart, *finale, *came, *symetrie;
+    int suivante = 14; ///< text number of the caption of `Suivante`
 };
 
 class PanneauZones : public QGroupBox {

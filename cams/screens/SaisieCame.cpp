@@ -16,6 +16,7 @@
 #include <QBoxLayout>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QTabWidget>
 
 #include <stdexcept>
 #include <utility>
@@ -59,7 +60,7 @@ QLineEdit* SaisieCame::ChampDe(std::string_view nom) const {
     return nullptr;
 }
 
-void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
+void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, QTabWidget* feuilles) {
     zones_ =
         new PanneauZones(description_.zones, description_.champsZones, [this](Zone& zone) { return AcheveZone(zone); });
     auto* contenu = new QWidget;
@@ -76,9 +77,11 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     boutons->addStretch();
     boutons->addWidget(calculer_);
     auto* disposition = new QVBoxLayout(this);
-    disposition->addWidget(new ZoneDefilante(contenu), 1);
+    QWidget* saisie = new ZoneDefilante(contenu);
+    if (feuilles != nullptr) feuilles->insertTab(0, saisie, {});
+    disposition->addWidget(feuilles != nullptr ? feuilles : saisie, 1);
     disposition->addLayout(boutons);
-    const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
+    const Legende legendes[] = {{description_.nom, 0, description_.titre}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
     zones_->LaisseAller(retour_);
     RevientPar(*retour_);
@@ -115,7 +118,6 @@ void SaisieCame::MontreBoutons() {
     calculer_->setDefault(zones_->Complet());
 }
 
-/// Results of other data are neither printed nor saved.
 void SaisieCame::PerimeResultats() {
     etude.resultats.ResultatsPrets = Faux;
     etude.resultats.EtudeModifiee = Faux;
@@ -133,9 +135,13 @@ void SaisieCame::LitDonnees() {
 bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
     const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
     if (faute == nullptr) return false;
-    LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
-    if (auto* champ = ChampDe(faute->nom)) champ->setFocus();
+    RefuseDonnee(faute->nom, faute->texteFaute);
     return true;
+}
+
+void SaisieCame::RefuseDonnee(const char* nom, int texte) {
+    LesDialogues().Message(Icone::Avertissement, Texte(texte));
+    if (auto* champ = ChampDe(nom)) champ->setFocus();
 }
 
 void SaisieCame::showEvent(QShowEvent* evenement) {
@@ -171,7 +177,7 @@ bool SaisieCame::AcheveZone(Zone& zone) {
 void SaisieCame::Calculer() {
     if (!zones_->LitPointsParDegre()) return;
     LitDonnees();
-    if (FauteDeDonnee(description_.champs)) return;
+    if (FauteDeDonnee(description_.champs) || !ControleDonnees()) return;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);

@@ -74,10 +74,10 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
     for (const QAction* action : mdi_.findChildren<QAction*>())
         if (!action->isEnabled() && !action->menu()) inactives.insert(S(action->objectName()));
     for (const char* nom : {"FichierLanguesModification", "FichierClasiquesInerties", "Inerties",
-                            "FichierGenerateursCroixMalte", "NouveauGlobiqueIndexeur", "ProfilConjugueesOsc"})
+                            "FichierGenerateursCroixMalte", "NouveauGlobiqueIndexeur"})
         EXPECT_TRUE(inactives.contains(nom)) << nom;
     for (const char* nom : {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso",
-                            "NouveauCylindre", "ProfilCylindriqueOsc", "Quitter"})
+                            "NouveauCylindre", "ProfilCylindriqueOsc", "ProfilConjugueesOsc", "Quitter"})
         EXPECT_FALSE(inactives.contains(nom)) << nom;
     for (const QAction* action : Controle<QToolBar>(mdi_, "Toolbar1")->actions())
         if (!action->isSeparator()) {

@@ -107,11 +107,11 @@ void DessinePaire(Dessin& dessin, double angle) {
     PlanDessin vue = FaitPlan(dessin);
     const double arbre = DirectionGalet(etude.passes[CameGuide], i) - DirectionGalet(etude.passes[CameGuide], 0) -
                          guide.Points[i].Angle / RadDeg;
-    const bool ferme = guide.NombrePoints >= 360 * etude.donnees.PointsParDegre;
     for (std::size_t rang = 0; rang < etude.passes.size(); ++rang) {
         const ContoursPaire contours = CalculeContoursPaire(rang, pointsTrace);
         const double radians = contours.calage + arbre;
-        vue.Contour(contours.profil, {CouleursCames[rang], 1.8}, ferme, radians);
+        // Outlines alone: one cam lies behind the other.
+        vue.Contour(contours.profil, {CouleursCames[rang], 1.8}, false, radians);
         vue.Contour(contours.primitif, {Couleur::Primitif, 1.0, true}, false, radians);
         vue.Ligne({0, 0}, Tourne(contours.profil.front(), radians), {Couleur::Repere, 1.0});
     }

@@ -31,8 +31,8 @@ void DessineSchemaPaire(Dessin& dessin, const std::string& accent) {
         return accent == nom ? Trait{Couleur::Repere, ordinaire.epaisseur + 1} : ordinaire;
     };
     PlanDessin plan(dessin, {{-122, -112}, {78, 66}}, 10);
-    plan.Contour(ContourCame(G1, galet1, 20), {Couleur::Came, 1.6}, true);
-    plan.Contour(ContourCame(G2, galet2, 12), {Couleur::Courbe2, 1.6}, true);
+    plan.Contour(ContourCame(G1, galet1, 16), {Couleur::Came, 1.6}, false);
+    plan.Contour(ContourCame(G2, galet2, -14), {Couleur::Courbe2, 1.6}, false);
     plan.Ligne({-70, 0}, {70, 0}, axe);
     plan.Ligne({0, -88}, {0, 60}, axe);
     plan.Ligne({O1.x - 14, O1.y}, {70, O1.y}, axe);

@@ -32,10 +32,10 @@ namespace {
 
 enum Feuille { FeuilleDonnees, FeuilleResultats, FeuilleProfils, FeuilleListages };
 
-constexpr int TexteRotation = 435, TexteEchelle = 488, TexteAngleBras = 477;
+constexpr int TexteRotation = 435, TexteEchelle = 488, TexteAngles = 476, TexteAngleBras = 477;
 
 constexpr Legende legendes[] = {{"SSTab1", 0, 215}, {"SSTab1", 1, 216}, {"SSTab1", 2, 481},   {"SSTab1", 3, 210},
-                                {"SSTab1", 4, 482}, {"SSTab1", 5, 483}, {"Listages", 0, 209}, {"Listages", 1, 214}};
+                                {"SSTab1", 4, 482}, {"SSTab1", 5, 483}, {"Listages", 0, 211}, {"Listages", 1, 214}};
 
 /// The dimension of the drawing that a field sets off while it has the focus.
 constexpr struct {
@@ -60,8 +60,8 @@ const TypeEtude& LeType() {
                          [](const TypeEtude& type) { return std::string_view(type.ecranSaisie) == description.nom; });
 }
 
-QLabel* FaitNote(const char* nom, int texte) {
-    auto* note = FaitUnite(QTexte(texte));
+QLabel* FaitNote(const char* nom, const QString& texte) {
+    auto* note = FaitUnite(texte);
     note->setObjectName(QString::fromLatin1(nom));
     note->setWordWrap(true);
     return note;
@@ -83,18 +83,18 @@ std::string EcritPentes(long point) {
 CamesConjugeesOscillation::CamesConjugeesOscillation(QWidget* parent) : SaisieCame(description, parent) {
     feuilles_ = Nomme(new QTabWidget, "SSTab1");
     auto* schema = new PanneauSchema(DessineSchemaPaire);
-    auto* guide = FaitNote("Label464", 464);
-    auto* suiveur = FaitNote("Label467", 467);
+    auto* guide = FaitNote("Label464", QTexte(464));
+    auto* suiveur = FaitNote("Label467", QTexte(467));
     Compose({EmpilePanneaux({Panneau("Picture2"), schema}, 1),
              EmpilePanneaux({Panneau("Picture3"), guide, Panneau("Picture4"), suiveur, Panneau("Picture6"),
-                             FaitNote("Label477", TexteAngleBras), new QWidget},
+                             FaitNote("Label477", QTexte(TexteAngles) + " : " + QTexte(TexteAngleBras)), new QWidget},
                             6)},
             feuilles_);
     for (const auto& cote : cotes) schema->Suit(ChampDe(cote.champ), cote.cote);
     feuilles_->addTab(FaitResultats(), {});
     feuilles_->addTab(FaitProfils(), {});
     feuilles_->addTab(FaitListages(), {});
-    feuilles_->addTab(FaitGraphiques(275, &bras_, 489, &rayons_), {});
+    feuilles_->addTab(FaitGraphiques(275, &bras_, 247, &rayons_), {});
     feuilles_->addTab(FaitGraphiques(276, &forces_, 277, &couples_), {});
     AppliqueLegendes(*this, legendes);
     ActiveResultats(false);
@@ -127,7 +127,7 @@ QWidget* CamesConjugeesOscillation::FaitResultats() {
     controle_ = Nomme(new Grille, "Fermeture");
     disposition->addWidget(remarquables_, 3);
     disposition->addWidget(controle_, 2);
-    disposition->addWidget(FaitNote("NoteFermeture", LeType().controle.note));
+    disposition->addWidget(FaitNote("NoteFermeture", QTexte(LeType().controle.note)));
     return feuille;
 }
 

@@ -55,8 +55,8 @@ protected:
 TEST_F(EcranPaire, APairIsTypedCalculatedAndShown) {
     QSignalSpy calculee(ecran.get(), &SaisieCame::EtudeCalculee);
     EXPECT_FALSE(Feuilles().isTabEnabled(2)) << "no results yet";
-    SuitReturn({"Text14", "Text15", "Text6", "Text8", "Text2", "Text3", "Text4", "Text5", "Text7", "Text9"});
     TapeLaPaire();
+    SuitReturn({"Text14", "Text15", "Text6", "Text8", "Text2", "Text3", "Text4", "Text5", "Text7", "Text9"});
     Clique("Calculer");
     ASSERT_EQ(calculee.count(), 1) << DerniereBoite();
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();

@@ -2,7 +2,7 @@
 #pragma once
 
 enum TextesPaire {
-    TexteEntraxeGalets = 802, ///< distance of the roller centres
+    TexteEntraxeGalets = 940, ///< distance of the roller centres
     TexteEcartEntraxe,        ///< largest difference of what the profiles offer from it
     TexteJeuGuide,            ///< contact of the guide cam to the roller G2
     TexteJeuSuiveuse,         ///< contact of the follower cam to the roller G1

@@ -10,6 +10,7 @@
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
+#include "studies/screens/CamesConjugeesOscillation.h"
 #include "studies/screens/Resultat.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ constexpr EcranEnfant ecrans[] = {
     {"GlobiqueIndexeur", Cree<GlobiqueIndexeur>, 1},
     {"GlobiqueOscillateur", Cree<GlobiqueOscillateur>, 2},
     {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
+    {"CamesConjugeesOscillation", Cree<CamesConjugeesOscillation>},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
     {"Inerties", Cree<Inerties>, 10},
 };

@@ -28,15 +28,26 @@ std::string CalculeFichier(const std::filesystem::path& fichier, const Dialogues
     return motif.empty() ? Texte(75) : motif;
 }
 
+/// The results of the cam that the record shows.
+void AjouteCame(Json& objet, bool calcule, bool tables) {
+    objet["resume"] = JsonResume(calcule);
+    if (!tables) return;
+    objet["Mouvement"] = JsonLoi(etude.resultats.Mouvement);
+    objet["Points"] = JsonPoints();
+    objet["Profil"] = JsonProfil();
+}
+
 Json JsonResultats(const TypeEtude* type, bool calcule, bool tables) {
     Json objet = Json::object();
     objet["donnees"] = type == nullptr ? Json::object() : JsonDonnees(*type);
     objet["Zones"] = JsonZones();
-    objet["resume"] = JsonResume(calcule);
-    if (!tables) return objet;
-    objet["Mouvement"] = JsonLoi(etude.resultats.Mouvement);
-    objet["Points"] = JsonPoints();
-    objet["Profil"] = JsonProfil();
+    if (type == nullptr || type->passes.empty()) {
+        AjouteCame(objet, calcule, tables);
+        return objet;
+    }
+    for (const DescriptionPasse& passe : type->passes) AjouteCame(objet[passe.nom] = Json::object(), false, tables);
+    PourChaqueCame(
+        *type, [&](const DescriptionPasse* came) { AjouteCame(objet[came->nom] = Json::object(), calcule, tables); });
     return objet;
 }
 
@@ -49,8 +60,9 @@ int CommandeEtude(const LigneCommande& ligne, std::ostream& sortie, std::ostream
         throw UsageIncorrect("etude: --points, --scripts and --rapport take one study file");
     return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
         if (!PeutOuvrir(fichier)) throw UsageIncorrect(Texte(TexteFichierIllisible));
-        VerifieSorties(ligne, fichier);
         const TypeEtude* type = TrouveTypeFichier(fichier);
+        if (type != nullptr) etude.donnees.TypeCame = type->nom; // the kind says how many scripts there are
+        VerifieSorties(ligne, fichier);
         bool calcule = false;
         Calcul calcul;
         calcul.tete = {{"fichier", fichier}, {"TypeCame", type == nullptr ? "" : type->nom}};

@@ -49,12 +49,16 @@ std::vector<Sortie> SortiesDemandees(const LigneCommande& ligne) {
     std::vector<Sortie> sorties;
     if (!ligne.points.empty()) sorties.push_back({{ligne.points}, [] { return std::vector{ComposeFichierPoints()}; }});
     if (!ligne.scripts.empty()) {
-        const bool standard = ligne.scripts == SortieStandard;
-        const fs::path exterieur = standard ? ligne.scripts : ligne.scripts + "_Ext.Scr";
-        const fs::path interieur = standard ? ligne.scripts : ligne.scripts + "_Int.Scr";
-        sorties.push_back({{exterieur, interieur}, [] {
-                               return std::vector{ComposeScriptExterieur(), ComposeScriptInterieur()};
-                           }});
+        Sortie sortie;
+        for (const FichierScript& script : LesScripts())
+            sortie.chemins.push_back(ligne.scripts == SortieStandard ? ligne.scripts
+                                                                     : ligne.scripts + script.suite + ".Scr");
+        sortie.compose = [] {
+            std::vector<std::string> contenus;
+            for (const FichierScript& script : LesScripts()) contenus.push_back(script.compose());
+            return contenus;
+        };
+        sorties.push_back(std::move(sortie));
     }
     if (!ligne.rapport.empty())
         sorties.push_back({{ligne.rapport}, [titre = fs::path(ligne.rapport).stem().string()] {

@@ -23,7 +23,8 @@ struct GroupeDonnees {
     int titre;                                     ///< text number of its caption
     std::array<const char*, MaximumChamps> champs; ///< names of its rows in the order of entry, none behind the last
     bool suite = false;                            ///< printed as part of the block before, its caption indented
-    bool pesanteur = false; ///< the direction of gravity: entered beside an arrow, printed without a caption
+    bool pesanteur = false;      ///< the direction of gravity: entered beside an arrow, printed without a caption
+    const char* suiteTitre = ""; ///< what follows the caption on paper
 
     constexpr std::span<const char* const> Champs() const {
         std::size_t nombre = 0;

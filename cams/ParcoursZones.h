@@ -9,6 +9,7 @@
 #include "laws/CalculLois.h"
 
 #include <cmath>
+#include <vector>
 
 /// True when a law file has filled the unit law already, and left the catalogue with its one row.
 inline bool LoiDeFichier() {
@@ -36,6 +37,9 @@ inline void SuitMaximum(double valeur, double repere, double& maximum, std::int1
     }
 }
 
+/// The unit law of each zone. One motion may drive several cams.
+using LoisZones = std::vector<Tableau<PointLoi>>;
+
 /// How a kind of cam walks its zones.
 struct MarcheZones {
     double Zone::*valeurDepart;
@@ -43,7 +47,16 @@ struct MarcheZones {
     bool loiDeFichier;   ///< the unit law stands already: none is evaluated
     bool coursesSuivies; ///< the stroke of a zone is taken from the end of the zone before, not from its own start
     bool reperesIndices; ///< the extreme values keep the subscript of their point, not its cam angle in whole degrees
+    LoisZones* lois = nullptr; ///< unit laws of the zones, which the first walk fills and further walks are given
 };
+
+/// The unit law of a zone, from 1.
+inline const Tableau<PointLoi>& UniteZone(const MarcheZones& marche, std::int16_t z) {
+    const auto rang = static_cast<std::size_t>(z);
+    if (marche.lois != nullptr && rang <= marche.lois->size()) return (*marche.lois)[rang - 1];
+    if (!marche.loiDeFichier) AppliqueLoi(z);
+    return marche.lois == nullptr ? etude.lois.LoiUnite : marche.lois->emplace_back(etude.lois.LoiUnite);
+}
 
 /// Clears the extreme values of the radius that every walk starts with.
 inline void RemetExtremes() {
@@ -77,7 +90,7 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
     std::int16_t decalage = 0;
     long atteint = 0;
     for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
-        if (!marche.loiDeFichier) AppliqueLoi(z);
+        const Tableau<PointLoi>& unite = UniteZone(marche, z);
         const Zone& zone = etude.donnees.Zones[z];
         if (z == 1) etude.donnees.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;
         const double depart = etude.donnees.Zones[z - 1].*marche.valeurFinale;
@@ -90,7 +103,7 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
             Point& p = etude.resultats.Points[k];
             p.Angle = static_cast<double>(k) / etude.donnees.PointsParDegre;
             const Lieu lieu{k, marche.reperesIndices ? static_cast<double>(k) : p.Angle};
-            calcule(lieu, etude.lois.LoiUnite[j], parcours);
+            calcule(lieu, unite[j], parcours);
             if (!std::isfinite(p.Rayon) || !std::isfinite(p.AccelRayon)) ExigePointFini(k);
             SuitExtremes(p, lieu.repere);
             atteint = k;

@@ -46,7 +46,7 @@ void DerouleEtapes(const NatureCame& nature, std::initializer_list<Etape> etapes
         etude.resultats.Developpee = nature.developpee;
         etude.resultats.ProfilExterieur = nature.profilExterieur;
         etude.resultats.Erreur = Faux;
-        for (const Etape etape : etapes) {
+        for (const Etape& etape : etapes) {
             etape();
             if (!SansErreur()) break;
         }

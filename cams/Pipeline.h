@@ -4,6 +4,7 @@
 
 #include "core/Etude.h"
 
+#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -31,7 +32,7 @@ struct NatureCame {
     bool profilExterieur = true; ///< the roller runs between two profiles
 };
 
-using Etape = void (*)();
+using Etape = std::function<void()>;
 
 /// Sizes the point tables and runs the stages in their order, each only while `Erreur` is clear, and with it cleared.
 /// @throws ErreurExecution whatever stops the arithmetic, and a result that is no finite number in the end; the zones

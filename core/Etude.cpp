@@ -5,4 +5,5 @@ Etude etude;
 void VideEtude() {
     etude.donnees = {};
     etude.resultats = {};
+    etude.passes.clear();
 }

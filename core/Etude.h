@@ -12,6 +12,7 @@
 #include <cmath>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 inline const double Pi = 4.0 * std::atan(1.0);
 inline const double RadDeg = 180.0 / Pi;
@@ -144,8 +145,18 @@ struct DurablesEtude {
     double VitesseGaletMax = 0; ///< Tr/min
 };
 
+/// What is known of a calculation, whatever its results are.
+struct DrapeauxEtude {
+    Booleen16 Erreur = Faux;          ///< a pipeline stage runs only while it is clear
+    Booleen16 EtudeModifiee = Faux;   ///< calculated from a data screen; saving needs it
+    Booleen16 ResultatsPrets = Faux;  ///< results exist; printing needs it
+    bool Perimes = false;             ///< the data are others by now: calculated before they are printed or exported
+    Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
+    double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
+};
+
 /// What a calculation makes of them. A copy is a whole set of results.
-struct ResultatsEtude {
+struct ResultatsEtude : DrapeauxEtude {
     std::int16_t NombrePoints = 0; ///< last subscript of the point tables
     Tableau<PointLoi> Mouvement;
     Tableau<Point> Points;
@@ -167,13 +178,6 @@ struct ResultatsEtude {
     DurablesEtude MaximaPropres;             ///< of a plane cam: the growing maxima, of this calculation alone
     double CoupleDemarrage = 0;              ///< torque to start in 0.25 s, N m
     double AngleDemarrage = 0;               ///< cam angle run through meanwhile, degrees
-
-    Booleen16 Erreur = Faux;          ///< a pipeline stage runs only while it is clear
-    Booleen16 EtudeModifiee = Faux;   ///< calculated from a data screen; saving needs it
-    Booleen16 ResultatsPrets = Faux;  ///< results exist; printing needs it
-    bool Perimes = false;             ///< the data are others by now: calculated before they are printed or exported
-    Booleen16 RotationEnCours = Faux; ///< the drawing of the cam is turning
-    double AngleRotation = 0;         ///< angle that the drawing is turned to, radians
 };
 
 /// The catalogue of laws as it is by now, and the law at work.
@@ -186,10 +190,22 @@ struct LoisEtude {
     Tableau<PointLoi> LoiUnite; ///< unit law of one zone: course 0 to 1 and its two derivatives
 };
 
-/// The record, its parts named by their life: the first two go with the study, the others stay until the program ends.
+/// One cam of a study that calculates several from one motion: what differs from cam to cam of the data, and the
+/// results.
+struct PasseEtude {
+    double RayonO1P = 0, RayonGalet = 0; ///< its arm and its roller, mm
+    Tableau<Zone> Zones;                 ///< the motion of its arm
+    ResultatsEtude resultats;
+    DurablesEtude durables; ///< maxima of this calculation alone
+};
+
+/// The record, its parts named by their life: the first three go with the study, the others stay until the program
+/// ends.
 struct Etude {
     DonneesEtude donnees;
     ResultatsEtude resultats;
+    std::vector<PasseEtude>
+        passes; ///< the cams of a calculated study of several, `resultats` then being without tables
     LoisEtude lois;
     DurablesEtude durables;
 };

@@ -106,10 +106,12 @@ private:
 
 } // namespace
 
-void CalculeMouvementBras() {
+namespace {
+
+void DerouleBras(LoisZones* lois) {
     const MaximaDurables maxima;
     PointsTropPetits tropPetits;
-    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false},
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false, lois},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone);
@@ -117,6 +119,16 @@ void CalculeMouvementBras() {
                      CalculeVitesseGalet(p);
                  });
     tropPetits.Annonce();
+}
+
+} // namespace
+
+void CalculeMouvementBras() {
+    DerouleBras(nullptr);
+}
+
+void CalculeMouvementCouple(LoisZones& lois) {
+    DerouleBras(&lois);
 }
 
 void CalculeMouvementLineaire() {

@@ -5,8 +5,14 @@
 // AnglePO1A.
 #pragma once
 
+#include "cams/ParcoursZones.h"
+
 /// Zones to `Mouvement` and `Points` of the arm cam, with the extreme values.
 void CalculeMouvementBras();
+
+/// The same for one of several cams that are driven by one motion: the unit laws are evaluated for the first of them.
+/// @param lois empty for the first cam, and handed on to the others
+void CalculeMouvementCouple(LoisZones& lois);
 
 /// Zones to `Points` of the cam with a translating follower, with the extreme values. The zones give radii, and every
 /// zone is evaluated by its law: a law file has no place here.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// `nombre` blanks.
 inline std::string Espaces(int nombre) {
@@ -19,6 +20,9 @@ std::string CadreAGauche(const std::string& texte, int largeur);
 
 /// The first `caracteres` characters of a text.
 std::string DebutTexte(const std::string& texte, int caracteres);
+
+/// A text broken between its words into lines of so many characters; a longer word keeps a line of its own.
+std::vector<std::string> CoupeEnLignes(const std::string& texte, int caracteres);
 
 /// A name cut in its middle to so many characters; its end tells the kind of study.
 std::string NomCoupe(const std::string& nom, int caracteres);

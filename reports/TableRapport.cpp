@@ -103,12 +103,18 @@ int LargeurTable(const TableTexte& table) {
     return NombreCaracteres(TablePapier(table, 0).EnTete().front());
 }
 
+void ImprimeNote(Tirage& tirage, const std::string& note) {
+    constexpr int colonnes = 72;
+    tirage.Ligne();
+    for (const std::string& ligne : CoupeEnLignes(note, colonnes)) tirage.Ligne(ligne);
+}
+
 void ImprimeTable(Tirage& tirage, const TableTexte& table, int marge) {
     ImprimePapier(tirage, TablePapier(table, marge), table.lignes);
 }
 
 void ImprimeRapportTable(Tirage& tirage, const std::string& nom, const std::string& titre, const TableTexte& table,
-                         std::optional<int> pages) {
+                         std::optional<int> pages, const std::string& note) {
     const TablePapier papier(table, 0);
     tirage.DebutRapport();
     tirage.Titre(nom, titre);
@@ -117,5 +123,6 @@ void ImprimeRapportTable(Tirage& tirage, const std::string& nom, const std::stri
     const int tete = static_cast<int>(papier.EnTete().size()) + 1;
     tirage.AnnoncePages(pages ? *pages : tirage.PagesJusqua(tete + table.lignes, tete));
     ImprimePapier(tirage, papier, table.lignes);
+    if (!note.empty()) ImprimeNote(tirage, note);
     tirage.FinRapport(true);
 }

@@ -16,8 +16,12 @@ int LargeurTable(const TableTexte& table);
 /// @param marge blanks before its first column
 void ImprimeTable(Tirage& tirage, const TableTexte& table, int marge = 0);
 
+/// Prints an empty line and a note of any length.
+void ImprimeNote(Tirage& tirage, const std::string& note);
+
 /// Prints a whole report that is one table: report heading, table, page numbers.
 /// @param nom of the study in the report heading
 /// @param pages page total of the foot lines; none: counted
+/// @param note printed below the table
 void ImprimeRapportTable(Tirage& tirage, const std::string& nom, const std::string& titre, const TableTexte& table,
-                         std::optional<int> pages = std::nullopt);
+                         std::optional<int> pages = std::nullopt, const std::string& note = {});

@@ -9,6 +9,9 @@
 #include "studies/TypesEtude.h"
 
 #include <cmath>
+#include <functional>
+#include <span>
+#include <vector>
 
 namespace {
 
@@ -45,11 +48,11 @@ struct Demande {
     int titre;
     std::string nom;
     const char* extension;
-    std::string (*compose)();
+    std::function<std::string()> compose;
 };
 
 /// Asks for every name, then writes those given together: all of them or none.
-void EcritDemandes(std::initializer_list<Demande> demandes) {
+void EcritDemandes(std::span<const Demande> demandes) {
     std::vector<FichierAEcrire> fichiers;
     for (const Demande& demande : demandes) {
         const std::string motif = std::string("*.") + demande.extension;
@@ -62,17 +65,51 @@ void EcritDemandes(std::initializer_list<Demande> demandes) {
     EcritFichiersEntiers(fichiers);
 }
 
-} // namespace
+constexpr const char* LigneBlanche = " ";
 
-std::string ComposeFichierPoints() {
-    std::string contenu = "Rayon du galet ," + StrTrim(etude.donnees.RayonGalet) + FinDeLigne;
-    contenu.reserve(static_cast<std::size_t>(etude.resultats.NombrePoints + 2) * 24);
+/// The roller radius, then cam angle and radius of every point, of the cam that the record shows. Several cams have
+/// each a heading.
+void AjoutePoints(std::string& contenu, const DescriptionPasse* came) {
+    if (came != nullptr && !contenu.empty()) contenu += std::string(LigneBlanche) + FinDeLigne;
+    contenu +=
+        (came == nullptr ? "Rayon du galet ," : came->pointsGalet) + StrTrim(etude.donnees.RayonGalet) + FinDeLigne;
+    if (came != nullptr) contenu += std::string(came->pointsTitre) + FinDeLigne + LigneBlanche + FinDeLigne;
+    contenu.reserve(contenu.size() + static_cast<std::size_t>(etude.resultats.NombrePoints + 2) * 24);
     for (long i = 0; i <= etude.resultats.NombrePoints; ++i) {
         AjouteStr(contenu, etude.resultats.Points[i].Angle);
         contenu += ',';
         AjouteFormat(contenu, etude.resultats.Points[i].Rayon, "###.######");
         contenu += FinDeLigne;
     }
+}
+
+/// One of several cams: all the arms with their rollers, then the radius to the start and the profile of this one.
+std::string ComposeScriptCame(std::size_t rang) {
+    Script script;
+    script.Croix({0, 0}, Script::Saut::Blanc);
+    PourChaqueCame(LeTypeEtude(), [&](const DescriptionPasse*) { TraceBras(script); });
+    const PasseEnVue vue(etude.passes.at(rang));
+    const CourbeScript courbe{&PointProfil::XInterieur, &PointProfil::YInterieur};
+    script.Ligne({0, 0}, courbe(0), Script::Saut::Blanc);
+    courbe.TracePolyligne(script);
+    return script.Texte();
+}
+
+} // namespace
+
+std::vector<FichierScript> LesScripts() {
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    if (type == nullptr || type->passes.empty())
+        return {{"_Ext", 315, ComposeScriptExterieur}, {"_Int", 316, ComposeScriptInterieur}};
+    std::vector<FichierScript> scripts;
+    for (std::size_t rang = 0; rang < type->passes.size(); ++rang)
+        scripts.push_back({"_" + Texte(type->passes[rang].titre), 316, [rang] { return ComposeScriptCame(rang); }});
+    return scripts;
+}
+
+std::string ComposeFichierPoints() {
+    std::string contenu;
+    PourChaqueCame(LeTypeEtude(), [&](const DescriptionPasse* came) { AjoutePoints(contenu, came); });
     return contenu;
 }
 
@@ -96,11 +133,14 @@ std::string ComposeScriptInterieur() {
 }
 
 void FichiersPoints() {
-    EcritDemandes({{124, NomSansExtension(etude.donnees.NomFichier), "Pnt", ComposeFichierPoints}});
+    const Demande demande{124, NomSansExtension(etude.donnees.NomFichier), "Pnt", ComposeFichierPoints};
+    EcritDemandes({&demande, 1});
 }
 
 void FichiersScripts() {
     const std::string nom = NomSansExtension(etude.donnees.NomFichier);
-    EcritDemandes(
-        {{315, nom + "_Ext", "Scr", ComposeScriptExterieur}, {316, nom + "_Int", "Scr", ComposeScriptInterieur}});
+    std::vector<Demande> demandes;
+    for (const FichierScript& script : LesScripts())
+        demandes.push_back({script.titre, nom + script.suite, "Scr", script.compose});
+    EcritDemandes(demandes);
 }

@@ -3,9 +3,12 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <vector>
 
-/// The point file (.Pnt): the roller radius, then cam angle and radius of every point.
+/// The point file (.Pnt): the roller radius, then cam angle and radius of every point; of several cams one after the
+/// other.
 std::string ComposeFichierPoints();
 
 /// The scripts (.Scr) of the outer and of the inner profile, turned by `AngleRotation`. The commands are those of a
@@ -13,8 +16,18 @@ std::string ComposeFichierPoints();
 std::string ComposeScriptExterieur();
 std::string ComposeScriptInterieur();
 
-/// Ask for a path and write there, whole or not at all; a cancelled dialogue writes nothing. The two scripts are
-/// written together.
+/// A script file of the present study.
+struct FichierScript {
+    std::string suite; ///< behind the name of the study
+    int titre;         ///< text number of the title of its dialogue
+    std::function<std::string()> compose;
+};
+
+/// Both profiles of a single cam; of several the inner profile of each, with all the arms.
+std::vector<FichierScript> LesScripts();
+
+/// Ask for a path and write there, whole or not at all; a cancelled dialogue writes nothing. The scripts are written
+/// together.
 /// @throws ErreurExecution disk full, access refused, input/output; the old file is as it was.
 void FichiersPoints();
 void FichiersScripts();

@@ -4,6 +4,7 @@
 #include "cylindrical/DonneesCyl.h"
 #include "cylindrical/MouvementCyl.h"
 #include "data/Textes.h"
+#include "studies/TypesEtude.h"
 
 #include <algorithm>
 
@@ -24,6 +25,10 @@ std::vector<Courbe> CourbesGalet() {
     return {{hauteurs ? TexteHauteurMm : 281, maximum, [](long i) { return etude.resultats.Points[i].Rayon; }},
             {282, etude.resultats.VitesseRayonMax, [](long i) { return etude.resultats.Points[i].VitesseRayon; }},
             {283, etude.resultats.AccelRayonMax, [](long i) { return etude.resultats.Points[i].AccelRayon; }}};
+}
+
+std::vector<Courbe> CourbeRayon() {
+    return {CourbesGalet().front()};
 }
 
 std::vector<Courbe> CourbesBras() {
@@ -58,19 +63,38 @@ CourbeGraphe PointsCourbe(const Courbe& courbe, Couleur couleur) {
     return points;
 }
 
+namespace {
+
+/// A curve with an axis of its own.
+void AjouteCourbe(Graphe& graphe, const Courbe& courbe, const std::string& nom) {
+    const std::size_t rang = graphe.courbes.size();
+    AxeGraphe axe = AxeSymetrique(courbe.maximum, courbe.maximum / 2, courbe.maximum < 10 ? "0.000" : "0.0");
+    axe.couleur = CouleursCourbes[rang];
+    graphe.verticaux.push_back(axe);
+    CourbeGraphe points = PointsCourbe(courbe, CouleursCourbes[rang]);
+    points.nom = nom;
+    points.axe = rang;
+    graphe.courbes.push_back(std::move(points));
+}
+
+} // namespace
+
 void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes) {
     if (etude.resultats.Points.Vide() || etude.resultats.NombrePoints == 0) return;
     Graphe graphe;
     graphe.horizontal = AxeAngleCame();
-    for (std::size_t rang = 0; rang < courbes.size(); ++rang) {
-        const double maximum = courbes[rang].maximum;
-        AxeGraphe axe = AxeSymetrique(maximum, maximum / 2, maximum < 10 ? "0.000" : "0.0");
-        axe.couleur = CouleursCourbes[rang];
-        graphe.verticaux.push_back(axe);
-        CourbeGraphe courbe = PointsCourbe(courbes[rang], CouleursCourbes[rang]);
-        courbe.nom = Texte(courbes[rang].legende);
-        courbe.axe = rang;
-        graphe.courbes.push_back(std::move(courbe));
-    }
+    for (const Courbe& courbe : courbes) AjouteCourbe(graphe, courbe, Texte(courbe.legende));
     DessineGraphe(dessin, graphe, PlaceEntiere(dessin, graphe));
+}
+
+void DessineGraphiqueCames(Dessin& dessin, const TypeEtude& type, std::vector<Courbe> (*courbes)()) {
+    Graphe graphe;
+    PourChaqueCame(type, [&](const DescriptionPasse* came) {
+        if (etude.resultats.NombrePoints == 0) return;
+        graphe.horizontal = AxeAngleCame();
+        for (const Courbe& courbe : courbes())
+            AjouteCourbe(graphe, courbe,
+                         (came == nullptr ? "" : Texte(came->nomCourt) + " : ") + Texte(courbe.legende));
+    });
+    if (!graphe.courbes.empty()) DessineGraphe(dessin, graphe, PlaceEntiere(dessin, graphe));
 }

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+struct TypeEtude;
+
 /// One curve: what it is called, its value at point `i`, and the magnitude that reaches the upper edge.
 struct Courbe {
     int legende; ///< text number, unit included
@@ -20,6 +22,8 @@ std::vector<Courbe> CourbesBras();   ///< angle, speed and acceleration of the a
 std::vector<Courbe> CourbesForce();  ///< roller force
 std::vector<Courbe> CourbesCouple(); ///< cam torque
 
+std::vector<Courbe> CourbeRayon(); ///< radius of the roller centre alone
+
 /// The colours of the curves of a graph, in their order.
 inline constexpr Couleur CouleursCourbes[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
 
@@ -31,3 +35,6 @@ CourbeGraphe PointsCourbe(const Courbe& courbe, Couleur couleur);
 
 /// Up to three curves in one box, each to its own scale around mid-height; nothing before a study is calculated.
 void DessineGraphique(Dessin& dessin, std::span<const Courbe> courbes);
+
+/// The same quantity of each cam of a study of several in one box.
+void DessineGraphiqueCames(Dessin& dessin, const TypeEtude& type, std::vector<Courbe> (*courbes)());

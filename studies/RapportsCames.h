@@ -51,6 +51,9 @@ inline void ImprimeLigneCames(const std::string& texte, bool gras = false) {
     TirageCames().Ligne(texte, gras);
 }
 
+/// A report title, and behind it the cam that the report is printed for where a study has several.
+std::string TitreCame(int titre);
+
 /// Begins a report that has pages of its own: its heading bears the name of the study.
 void DebutPageCames(const std::string& titre);
 
@@ -61,6 +64,7 @@ void ImprimeDonneesAngulaire();
 void ImprimeDonneesLineaire();
 void ImprimeDonneesCylindrique();
 void ImprimeDonneesOscillation();
+void ImprimeDonneesConjuguees();
 
 void ImprimePointsRemarquables();
 
@@ -70,6 +74,9 @@ void ImprimeProfilPlat();
 
 /// The same of a cylindrical cam's developed surface, with cam angles, lengths of arc and heights along its edges.
 void ImprimeProfilCylindre();
+
+/// The inner profiles and pitch curves of several cams on one shaft, drawn in the same way.
+void ImprimeProfilConjugue();
 
 void ImprimeGraphiqueLineaire(); ///< radius, speed and acceleration of the roller centre
 void ImprimeGraphiqueBras();     ///< angle, speed and acceleration of the arm
@@ -83,3 +90,5 @@ TableTexte PointsMouvementAngulaire();
 TableTexte PointsMouvementLineaire();
 TableTexte PointsMouvementCylindrique();
 TableTexte PointsMouvementOscillation();
+/// Motion of the arm, then the distance of each cam's roller.
+TableTexte PointsConjugues();

@@ -16,7 +16,7 @@ constexpr const char* MasqueInertie = "##.#####";
 void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, const GroupeDonnees& groupe) {
     if (!groupe.suite) {
         if (!lignes.empty()) lignes.push_back({});
-        lignes.push_back({Texte(groupe.titre), true});
+        lignes.push_back({Texte(groupe.titre) + groupe.suiteTitre, true});
     } else if (!groupe.pesanteur) {
         // "x" and "y" alone would not say what they are.
         lignes.push_back({Espaces(RetraitLigne) + Texte(groupe.titre)});
@@ -71,5 +71,8 @@ void ImprimeDonneesCylindrique() {
     ImprimeDonnees();
 }
 void ImprimeDonneesOscillation() {
+    ImprimeDonnees();
+}
+void ImprimeDonneesConjuguees() {
     ImprimeDonnees();
 }

@@ -72,7 +72,7 @@ Graphe GrapheImprime(const Courbe& courbe, const Etiquette& etiquette, Couleur c
 
 void ImprimeGraphiques(const std::vector<Courbe>& courbes, const std::vector<Etiquette>& etiquettes) {
     Imprimante& imprimante = ImprimanteEnCours();
-    DebutPageCames(Texte(TitreGraphiques));
+    DebutPageCames(TitreCame(TitreGraphiques));
     // On a page smaller than that of A4 the millimetre of the boxes is smaller too.
     const double unite = std::min(
         {1.0, imprimante.Largeur() / LargeurCadre, imprimante.Hauteur() / (PremierCadre + CadresPage * HauteurCadre)});

@@ -2,6 +2,7 @@
 // the developed surface. Cam millimetres have their origin in the cam centre, or at the start of the development, and y
 // up; paper millimetres run down.
 #include "cams/Courbure.h"
+#include "conjugate/DessinPaire.h"
 #include "core/Etude.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "data/Textes.h"
@@ -12,8 +13,10 @@
 #include "studies/ContoursCame.h"
 #include "studies/NotesEtude.h"
 #include "studies/RapportsCames.h"
+#include "studies/TypesEtude.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,13 +28,17 @@ constexpr Trait traitProfil{Couleur::Came, 0.35}, traitPrimitif{Couleur::Primiti
     traitGalet{Couleur::Galet, 0.25}, traitAxe{Couleur::Axe, 0.18}, traitFaute{Couleur::Repere, 0.7};
 
 /// What each stroke is, in one row that takes the width of the page at most.
+void DessineEntrees(Dessin& dessin, std::span<const EntreeLegende> entrees) {
+    DessineLegende(dessin, {0, HauteurTexte}, HauteurTexte, entrees,
+                   {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
+}
+
 void DessineNoms(Dessin& dessin) {
     // Both profiles are drawn alike: one entry names them.
     std::vector<EntreeLegende> entrees = {
         {traitProfil, Texte(291) + ", " + Texte(290)}, {traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}};
     if (!PlagesTropCourbees().empty()) entrees.push_back({traitFaute, Texte(TexteCourbureFaible), Couleur::Repere});
-    DessineLegende(dessin, {0, HauteurTexte}, HauteurTexte, entrees,
-                   {8 / HauteurTexte, 2 / HauteurTexte, 6 / HauteurTexte});
+    DessineEntrees(dessin, entrees);
 }
 
 /// Draws the profile into the surface, below the legend and above the bar. Gives the scale.
@@ -150,15 +157,46 @@ std::string TexteRegle(double echelle) {
            Texte(TexteSurCame);
 }
 
+constexpr Trait traitsCames[] = {traitProfil, {Couleur::Courbe2, 0.35}};
+constexpr Trait traitBras{Couleur::Bras, 0.35};
+
+void DessineNomsPaire(Dessin& dessin) {
+    const TypeEtude& type = LeTypeEtude();
+    std::vector<EntreeLegende> entrees;
+    for (std::size_t rang = 0; rang < type.passes.size(); ++rang)
+        entrees.push_back({traitsCames[rang], Texte(type.passes[rang].titre)});
+    entrees.insert(entrees.end(), {{traitPrimitif, Texte(293)}, {traitGalet, Texte(289)}, {traitBras, Texte(217)}});
+    DessineEntrees(dessin, entrees);
+}
+
+/// Draws several cams on their shaft at its start, with their arms and rollers. Gives the scale.
+double DessineProfilPaire(Dessin& dessin) {
+    constexpr double bande = 2.5 * HauteurTexte;
+    const Etendue e = EtenduePaire();
+    const double echelle = ChoisitEchelle(e, dessin.Largeur() - 2 * Marge, dessin.Hauteur() - 2 * bande - 2 * Marge);
+    PlanDessin plan = PlanDessin::AEchelle(dessin, e, echelle);
+    const double croix = etude.passes.front().resultats.RayonMin / 6;
+    plan.Ligne({-croix, 0}, {croix, 0}, traitAxe);
+    plan.Ligne({0, croix}, {0, -croix}, traitAxe);
+    for (std::size_t rang = 0; rang < etude.passes.size(); ++rang) {
+        const ContoursPaire contours = CalculeContoursPaire(rang, 0);
+        plan.Contour(contours.primitif, traitPrimitif, false, contours.calage);
+        plan.Contour(contours.profil, traitsCames[rang], false, contours.calage);
+        plan.Ligne(PivotPaire(), CentreGalet(rang, 0), traitBras);
+        plan.Cercle(CentreGalet(rang, 0), etude.passes[rang].RayonGalet, traitGalet);
+    }
+    return echelle;
+}
+
 /// A page of its own for a drawing to scale, whose last line states the scale.
-void ImprimeProfil(double (*dessine)(Dessin&)) {
+void ImprimeProfil(double (*dessine)(Dessin&), void (*nomme)(Dessin&) = DessineNoms, int titre = TitreProfil) {
     Imprimante& imprimante = ImprimanteEnCours();
-    DebutPageCames(Texte(TitreProfil));
+    DebutPageCames(Texte(titre));
     const double haut = imprimante.Tete(), derniereLigne = imprimante.Hauteur() - 8;
     double echelle = 1;
     {
         const auto dessin = imprimante.Feuille({0, haut}, imprimante.Largeur(), derniereLigne - haut);
-        DessineNoms(*dessin);
+        nomme(*dessin);
         echelle = dessine(*dessin);
         DessineRegle(*dessin, TexteRegle(echelle), HauteurTexte, traitAxe);
     }
@@ -175,4 +213,8 @@ void ImprimeProfilPlat() {
 
 void ImprimeProfilCylindre() {
     ImprimeProfil(DessineDeveloppee);
+}
+
+void ImprimeProfilConjugue() {
+    ImprimeProfil(DessineProfilPaire, DessineNomsPaire, TitreDonnees);
 }

@@ -32,23 +32,46 @@ void AjouteNotes(std::vector<LigneRapport>& lignes, const Notes& notes) {
     for (const std::string& ligne : notes.Lignes(colonnes)) lignes.push_back({Espaces(RetraitLigne) + ligne});
 }
 
+/// The groups of values of the cam that the record shows.
+void AjouteValeurs(std::vector<LigneRapport>& lignes, const TypeEtude& type, const Notes& notes) {
+    int groupe = 0;
+    for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {
+        const int texte = ligne.texte(type);
+        if (texte == 0) continue;
+        if (ligne.groupe != groupe) {
+            if (!lignes.empty()) lignes.push_back({});
+            lignes.push_back({Texte(ligne.groupe), true});
+            groupe = ligne.groupe;
+        }
+        lignes.push_back({ComposeLigne(ligne, texte, notes)});
+    }
+}
+
+/// What is checked of several cams together, and what must be known of it.
+void AjouteControle(std::vector<LigneRapport>& lignes, const ControleEtude& controle) {
+    constexpr int colonnes = 72;
+    lignes.push_back({});
+    lignes.push_back({Texte(controle.titre), true});
+    for (const LigneControle& ligne : controle.lignes())
+        lignes.push_back({LigneValeur(ligne.libelle, "(" + ligne.unite + ") : ", ligne.valeur)});
+    lignes.push_back({});
+    for (const std::string& ligne : CoupeEnLignes(Texte(controle.note), colonnes)) lignes.push_back({ligne});
+}
+
 } // namespace
 
 void ImprimePointsRemarquables() {
     const TypeEtude& type = LeTypeEtude();
     const Notes notes = NotesEnVigueur(type);
     std::vector<LigneRapport> lignes;
-    int groupe = 0;
-    for (const ValeurRemarquable& ligne : LesValeursRemarquables()) {
-        const int texte = ligne.texte(type);
-        if (texte == 0) continue;
-        if (ligne.groupe != groupe) {
-            if (groupe != 0) lignes.push_back({});
-            lignes.push_back({Texte(ligne.groupe), true});
-            groupe = ligne.groupe;
+    PourChaqueCame(type, [&](const DescriptionPasse* came) {
+        if (came != nullptr) {
+            if (!lignes.empty()) lignes.push_back({});
+            lignes.push_back({Texte(came->titre), true, true});
         }
-        lignes.push_back({ComposeLigne(ligne, texte, notes)});
-    }
+        AjouteValeurs(lignes, type, notes);
+    });
     AjouteNotes(lignes, notes);
+    if (type.controle.lignes != nullptr) AjouteControle(lignes, type.controle);
     ImprimeRapportLignes(Texte(TitreRemarquables), lignes);
 }

@@ -54,6 +54,12 @@ constexpr ColonneRapport colonnesOscillation[] = {
     {Vitesse, "rad/sec", nullptr, "", 8},
     {Accel, "rad/sec²", nullptr, "", 10},
 };
+constexpr const char* MasqueConjugues = "###.000";
+constexpr ColonneRapport colonnesConjugues[] = {
+    {Bras, "", DuMouvement<&PointLoi::Course>, MasqueConjugues, 9},
+    {Vitesse, "rad/sec", DuMouvement<&PointLoi::Vitesse>, MasqueConjugues, 12},
+    {Accel, "rad/sec²", DuMouvement<&PointLoi::Accel>, MasqueConjugues, 14},
+};
 constexpr ColonneRapport colonnesForces[] = {
     colonneAngle,
     {Force, "N", DuPoint<&Point::ForceGalet>, "#####.00", 10},
@@ -67,10 +73,11 @@ TableTexte TablePoints(std::span<const ColonneRapport> colonnes) {
     return table;
 }
 
-void ImprimePoints(const TableTexte& table, int titre) {
+void ImprimePoints(const TableTexte& table, int titre, const std::string& note = {}) {
     // Kept on purpose: a plain truncation, so that the last page may bear a number above the total.
-    const double pages = Int((etude.resultats.NombrePoints + 8) / 61.0);
-    ImprimeRapportTable(TirageCames(), etude.donnees.NomFichier, Texte(titre), table, static_cast<int>(pages));
+    const double pages = Int((table.lignes - 1 + 8) / 61.0);
+    ImprimeRapportTable(TirageCames(), etude.donnees.NomFichier, TitreCame(titre), table, static_cast<int>(pages),
+                        note);
 }
 
 } // namespace
@@ -88,8 +95,22 @@ TableTexte PointsMouvementOscillation() {
     return TablePoints(colonnesOscillation);
 }
 
+TableTexte PointsConjugues() {
+    const TypeEtude& type = LeTypeEtude();
+    TableTexte table;
+    for (const ColonneRapport& c : colonnesConjugues)
+        table.colonnes.push_back(ColonneNombres(Texte(c.titre), c.unite, DeCame(0, c.valeur), c.masque, c.largeur));
+    for (std::size_t rang = 0; rang < type.passes.size(); ++rang)
+        table.colonnes.push_back(ColonneNombres(Texte(type.passes[rang].distance), "mm",
+                                                DeCame(rang, DuPoint<&Point::Rayon>), MasqueConjugues, 12));
+    table.lignes = etude.passes.at(0).resultats.NombrePoints + 1;
+    return table;
+}
+
 void ImprimePointsMouvement() {
-    ImprimePoints(LeTypeEtude().rapports.pointsMouvement(), TitrePointsMouvement);
+    const RapportsEtude& rapports = LeTypeEtude().rapports;
+    ImprimePoints(rapports.pointsMouvement(), TitrePointsMouvement,
+                  rapports.notePoints == 0 ? std::string() : Texte(rapports.notePoints));
 }
 
 void ImprimePointsForces() {

@@ -1,11 +1,15 @@
 #include "studies/TypesEtude.h"
 
+#include "conjugate/DessinPaire.h"
+#include "conjugate/DonneesPaire.h"
+#include "conjugate/FermeturePaire.h"
+#include "conjugate/PaireOscillante.h"
+#include "conjugate/TextesPaire.h"
 #include "cylindrical/CamesCylindriques.h"
 #include "cylindrical/DessinProfilCyl.h"
 #include "cylindrical/DeveloppeeCyl.h"
 #include "cylindrical/DonneesCyl.h"
 #include "data/Textes.h"
-#include "data/Unites.h"
 #include "planecams/CamesPlates.h"
 #include "planecams/DonneesPlates.h"
 #include "studies/DessinCame.h"
@@ -18,24 +22,6 @@ namespace {
 
 constexpr const char* M2 = "###.##";
 constexpr const char* M2Large = "####.##";
-constexpr const char* M3 = "###.###";
-constexpr const char* M3Large = "####.###";
-
-/// A pair of cams, which is known by its files only.
-constexpr ChampEtude champsConjuguees[] = {
-    {"CoteA", nullptr, 152, UniteMm, &DonneesEtude::CoteA, M3},
-    {"CoteB", nullptr, 153, UniteMm, &DonneesEtude::CoteB, M3},
-    {"RayonBrasR1", nullptr, 470, UniteMm, &DonneesEtude::RayonBrasR1, M3},
-    {"RayonGaletG1", nullptr, 471, UniteMm, &DonneesEtude::RayonGaletG1, M3},
-    {"RayonBrasR2", nullptr, 472, UniteMm, &DonneesEtude::RayonBrasR2, M3},
-    {"RayonGaletG2", nullptr, 473, UniteMm, &DonneesEtude::RayonGaletG2, M3},
-    {"VitesseCame", nullptr, 157, UniteTours, &DonneesEtude::VitesseCame, M3},
-    {"AngleBras", nullptr, 474, UniteDegres, &DonneesEtude::AngleBras, M3},
-    {"InertieO1", nullptr, 475, UniteKgM2, &DonneesEtude::InertieO1, M3Large},
-};
-
-constexpr DescriptionZones zonesConjuguees{
-    &Zone::AngleDepart, &Zone::AngleFinal, 478, 479, 177, UniteDegres, false, false};
 
 constexpr RapportsEtude rapportsAngulaire{ImprimeDonneesAngulaire, ImprimeProfilPlat, PointsMouvementAngulaire};
 constexpr RapportsEtude rapportsLineaire{ImprimeDonneesLineaire, ImprimeProfilPlat, PointsMouvementLineaire};
@@ -43,6 +29,8 @@ constexpr RapportsEtude rapportsCylindrique{ImprimeDonneesCylindrique, ImprimePr
                                             PointsMouvementCylindrique};
 constexpr RapportsEtude rapportsOscillation{ImprimeDonneesOscillation, ImprimeProfilCylindre,
                                             PointsMouvementOscillation};
+constexpr RapportsEtude rapportsConjuguees{ImprimeDonneesConjuguees, ImprimeProfilConjugue, PointsConjugues,
+                                           TexteNoteDistances};
 
 const TypeEtude types[] = {
     {.nom = "Angulaire",
@@ -113,13 +101,18 @@ const TypeEtude types[] = {
      .extension = "Cjg",
      .titre = 642,
      .suffixeTitre = " : Cjg",
-     .champs = champsConjuguees,
-     .groupes = {},
-     .masqueNombreZones = M3Large,
-     .zones = &zonesConjuguees,
+     .champs = ChampsPaire,
+     .groupes = GroupesPaire,
+     .masqueNombreZones = MasquePaireLarge,
+     .zones = &ZonesPaire,
      .masqueValeur = M2,
      .masqueAngleCame = M2,
      .conjuguees = true,
+     .calcule = CalculeCamesConjuguees,
+     .passes = PassesPaire,
+     .controle = {LignesFermeture, TexteFermeture, TexteNoteFermeture, EcartsFermeture, TexteEcart},
+     .dessine = DessinePaire,
+     .rapports = rapportsConjuguees,
      .ecranSaisie = "CamesConjugeesOscillation",
      .ecranResultats = "CamesConjugeesOscillation"},
 };

@@ -4,20 +4,32 @@
 
 #include "cams/DescriptionZones.h"
 #include "cams/GroupesDonnees.h"
+#include "cams/Passes.h"
 #include "core/Etude.h"
 #include "core/TableTexte.h"
 #include "platform/Dessin.h"
 #include "platform/Dialogues.h"
 
 #include <filesystem>
+#include <functional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 /// The reports that only some kinds have; none where a kind has no such report.
 struct RapportsEtude {
     void (*donnees)() = nullptr;
     void (*profil)() = nullptr;
     TableTexte (*pointsMouvement)() = nullptr; ///< its motion point by point, as it is printed
+    int notePoints = 0;                        ///< text number of what is said below it
+};
+
+/// A check of several cams together, told in lines and point by point.
+struct ControleEtude {
+    std::vector<LigneControle> (*lignes)() = nullptr; ///< none: nothing is checked
+    int titre = 0, note = 0;                          ///< text numbers of its caption, and of what must be known of it
+    std::vector<double> (*ecarts)() = nullptr;        ///< what is checked, mm, for the points 0..`NombrePoints`
+    int titreEcarts = 0;                              ///< text number of their heading
 };
 
 struct TypeEtude {
@@ -31,8 +43,10 @@ struct TypeEtude {
     const DescriptionZones* zones;
     const char* masqueValeur;
     const char* masqueAngleCame;
-    bool conjuguees = false;     ///< a pair of cams, whose laws stand with the second
-    void (*calcule)() = nullptr; ///< the pipeline; none while this kind cannot be calculated
+    bool conjuguees = false;                       ///< a pair of cams, whose laws stand with the second
+    void (*calcule)() = nullptr;                   ///< the pipeline; none while this kind cannot be calculated
+    std::span<const DescriptionPasse> passes = {}; ///< the cams of a study of several; none of a single cam
+    ControleEtude controle = {};                   ///< what is checked of several cams together
     /// Cut on a cylinder: heights for radii, and extreme values that keep the subscript of their point.
     bool developpee = false;
     void (*dessine)(Dessin& dessin, double angle) = nullptr; ///< the cam at a cam angle, degrees
@@ -72,6 +86,24 @@ int DernierAngleDessin(const TypeEtude& type);
 /// Cam angle at which an extreme value of the present study stands, in whole degrees.
 /// @param place the angle that a maximum of the record keeps
 double AngleExtreme(std::int16_t place);
+
+/// Calls `traite` for each cam of the present study with its results in the record: for a single cam once, with none.
+template <class Traite> void PourChaqueCame(const TypeEtude& type, Traite traite) {
+    if (type.passes.empty()) return traite(static_cast<const DescriptionPasse*>(nullptr));
+    for (std::size_t rang = 0; rang < type.passes.size(); ++rang) {
+        if (rang >= etude.passes.size()) return;
+        const PasseEnVue vue(etude.passes[rang]);
+        traite(&type.passes[rang]);
+    }
+}
+
+/// A number of one of several cams, point by point. @param rang of the cam in `etude.passes`
+inline std::function<double(long)> DeCame(std::size_t rang, double (*valeur)(long point)) {
+    return [rang, valeur](long point) {
+        const PasseEnVue vue(etude.passes.at(rang));
+        return valeur(point);
+    };
+}
 
 /// Runs the pipeline of the present study's kind.
 /// @throws ErreurExecution whatever stops the pipeline; the zones are back in degrees.

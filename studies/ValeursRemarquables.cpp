@@ -19,6 +19,10 @@ template <auto membre> std::int16_t Repere() {
 template <int texte> int Toutes(const TypeEtude&) {
     return texte;
 }
+/// Several cams have no thickness: nothing is known of their mass.
+template <int texte> int SiPesee(const TypeEtude& type) {
+    return type.passes.empty() ? texte : 0;
+}
 template <int texte> int SiDeveloppee(const TypeEtude& type) {
     return type.developpee ? texte : 0;
 }
@@ -60,8 +64,8 @@ const ValeurRemarquable valeurs[] = {
      "(Nm) : ", nullptr, 705, " 0.25 sec"},
     {GroupeCame, "AngleDemarrage", SiDeveloppee<243>, De<&ResultatsEtude::AngleDemarrage>, M2, UniteDegres, M2,
      nullptr},
-    {GroupeCame, "MasseCame", Toutes<234>, De<&ResultatsEtude::MasseCame>, M2Court, UniteKg, M2Court, "(Kg) : "},
-    {GroupeCame, "InertieCame", Toutes<233>, De<&ResultatsEtude::InertieCame>, M2Court, UniteKgM2, MInertie,
+    {GroupeCame, "MasseCame", SiPesee<234>, De<&ResultatsEtude::MasseCame>, M2Court, UniteKg, M2Court, "(Kg) : "},
+    {GroupeCame, "InertieCame", SiPesee<233>, De<&ResultatsEtude::InertieCame>, M2Court, UniteKgM2, MInertie,
      "(Kgm²) : "},
     {GroupeGalet, "VitesseRayonMax", Toutes<225>, De<&ResultatsEtude::VitesseRayonMax>, M2Court, UniteMS, M2,
      "(m/sec) : ", Repere<&ResultatsEtude::VitesseRayonMaxAngle>},

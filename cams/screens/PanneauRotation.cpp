@@ -27,6 +27,7 @@
 namespace {
 
 constexpr int PasRotation = 10; ///< degrees a step
+constexpr int DelaiPas = 40;    ///< ms between steps whose size the slider sets, from 1 degree on
 constexpr int VitesseMax = 10, VitesseInitiale = 8;
 
 constexpr Legende legendes[] = {
@@ -37,9 +38,10 @@ constexpr Legende legendes[] = {
 
 } // namespace
 
-PanneauRotation::PanneauRotation(QWidget* parent) : QWidget(parent), pas_(new QTimer(this)) {
+PanneauRotation::PanneauRotation(const char* dessin, bool pasRegle, QWidget* parent)
+    : QWidget(parent), pas_(new QTimer(this)), pasRegle_(pasRegle) {
     auto* disposition = new QVBoxLayout(this);
-    dessin_ = Nomme(new ZoneDessin, "Picture6");
+    dessin_ = Nomme(new ZoneDessin, dessin);
     dessin_->setMinimumSize(420, 320);
     disposition->addWidget(dessin_, 1);
 
@@ -68,7 +70,7 @@ PanneauRotation::~PanneauRotation() {
 void PanneauRotation::FaitCommandes(QBoxLayout& disposition) {
     auto* commandes = new QGridLayout;
     texteAngle_ = AjouteLigneChamp(*commandes, 0, "Text1", 295, 19);
-    pression_ = FaitValeur("Label42", "-000.00 ");
+    pression_ = FaitValeur("Label42", pasRegle_ ? "-000.00 / -000.00 " : "-000.00 ");
     commandes->addWidget(Nomme(new QLabel, "EtiquettePression"), 1, 0);
     commandes->addWidget(pression_, 1, 1);
     commandes->addWidget(FaitUnite(QTexte(19)), 1, 2);
@@ -89,9 +91,9 @@ void PanneauRotation::FaitCommandes(QBoxLayout& disposition) {
     tourner_ = Nomme(new QPushButton, "Tourner");
     arret_ = Nomme(new QPushButton, "Arret");
     vitesse_ = Nomme(new QSlider(Qt::Horizontal), "Slider1");
-    vitesse_->setRange(0, VitesseMax);
+    vitesse_->setRange(pasRegle_ ? 1 : 0, VitesseMax);
     vitesse_->setPageStep(1);
-    vitesse_->setValue(VitesseInitiale);
+    vitesse_->setValue(pasRegle_ ? 2 : VitesseInitiale);
     vitesse_->setFixedWidth(140);
 
     commandes->addWidget(sens, 0, 4, 2, 1);
@@ -118,7 +120,10 @@ void PanneauRotation::MontreAngle(int angle) {
     etude.resultats.AngleRotation = vue_.couchee ? 0.0 : angle / RadDeg;
     const long point = static_cast<long>(etude.donnees.PointsParDegre) * angle;
     const bool present = point <= etude.resultats.Profil.BorneHaute();
-    pression_->setText(present ? Q(Format(Pente(etude.resultats.Profil[point].AngleTangent), "0.00")) : QString());
+    if (vue_.pente != nullptr)
+        pression_->setText(Q(vue_.pente(point)));
+    else
+        pression_->setText(present ? Q(Format(Pente(etude.resultats.Profil[point].AngleTangent), "0.00")) : QString());
     dessin_->Peint([dessine = vue_.dessine, angle](Dessin& dessin) { dessine(dessin, angle); });
 }
 
@@ -144,17 +149,22 @@ void PanneauRotation::Tourne() {
 
 void PanneauRotation::ArmePas() {
     // The right end is the fastest: the next step follows as soon as the drawing is done.
+    if (pasRegle_) return pas_->start(DelaiPas);
     const double delaiRotation = (vitesse_->maximum() - vitesse_->value()) / 10.0;
     pas_->start(static_cast<int>(std::lround(delaiRotation * 1000.0)));
+}
+
+int PanneauRotation::Pas() const {
+    return pasRegle_ ? vitesse_->value() : PasRotation;
 }
 
 void PanneauRotation::Avance() {
     if (!RotationEnCours()) return;
     const int angle = angle_->value();
     if (!sensTrigo_) {
-        angle_->setValue(angle < angle_->maximum() - PasRotation ? angle + PasRotation : angle_->minimum());
+        angle_->setValue(angle < angle_->maximum() - Pas() ? angle + Pas() : angle_->minimum());
     } else {
-        angle_->setValue(angle > angle_->minimum() + PasRotation ? angle - PasRotation : angle_->maximum());
+        angle_->setValue(angle > angle_->minimum() + Pas() ? angle - Pas() : angle_->maximum());
     }
     ArmePas();
 }

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <string>
+
 class ChampNombre;
 class QLabel;
 class QPushButton;
@@ -18,7 +20,9 @@ class PanneauRotation : public QWidget {
     Q_OBJECT
 
 public:
-    explicit PanneauRotation(QWidget* parent = nullptr);
+    /// @param dessin control name of the drawing
+    /// @param pasRegle the slider sets the step and not the delay between steps
+    explicit PanneauRotation(const char* dessin = "Picture6", bool pasRegle = false, QWidget* parent = nullptr);
     ~PanneauRotation() override;
 
     /// What turns: its drawing at a cam angle in degrees, and how far it can be brought.
@@ -26,6 +30,8 @@ public:
         void (*dessine)(Dessin& dessin, double angle);
         int dernierAngle;
         bool couchee; ///< a developed cam lies still: what moves over it is the roller
+        /// The slope of the profile at a point, as it is shown, where the record does not hold it.
+        std::string (*pente)(long point) = nullptr;
     };
 
     /// Shows the present results, at the angle shown before.
@@ -41,6 +47,7 @@ private:
     void Tourne();
     void Avance();
     void ArmePas();
+    int Pas() const;
 
     Vue vue_{};
     ZoneDessin* dessin_;
@@ -51,4 +58,5 @@ private:
     QSlider* vitesse_;
     QTimer* pas_;
     bool sensTrigo_ = false;
+    bool pasRegle_;
 };

@@ -37,7 +37,6 @@ constexpr Legende legendes[] = {
     {"EtiquetteCombo2", 0, 174},
     {"EtiquetteCombo1", 0, 105},
     {"TitreGrille", 0, 179},
-    {"Suivante", 0, 14},
 };
 
 /// The text of a list that can be typed into: selected whole when it is entered, by the mouse too.
@@ -95,6 +94,7 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     somme_ = Nomme(new QLabel, "SommeAngles");
     disposition->addWidget(somme_);
     AppliqueLegendes(*this, legendes);
+    suivante_->setText(QTexte(champs.suivante));
     RelieChamps();
 
     // A study taken back may have zones that were not entered yet: they have no law.

@@ -18,6 +18,7 @@ class Remarques;
 /// The control names of the fields.
 struct ChampsZones {
     const char *nombre, *depart, *finale, *came, *symetrie;
+    int suivante = 14; ///< text number of the caption of `Suivante`
 };
 
 class PanneauZones : public QGroupBox {

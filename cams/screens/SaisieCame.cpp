@@ -19,6 +19,7 @@
 #include <QBoxLayout>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QTabWidget>
 
 #include <stdexcept>
 #include <utility>
@@ -62,7 +63,7 @@ QLineEdit* SaisieCame::ChampDe(std::string_view nom) const {
     return nullptr;
 }
 
-void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
+void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, QTabWidget* feuilles) {
     zones_ =
         new PanneauZones(description_.zones, description_.champsZones, [this](Zone& zone) { return AcheveZone(zone); });
     auto* contenu = new QWidget;
@@ -79,9 +80,11 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes) {
     boutons->addStretch();
     boutons->addWidget(calculer_);
     auto* disposition = new QVBoxLayout(this);
-    disposition->addWidget(new ZoneDefilante(contenu), 1);
+    QWidget* saisie = new ZoneDefilante(contenu);
+    if (feuilles != nullptr) feuilles->insertTab(0, saisie, {});
+    disposition->addWidget(feuilles != nullptr ? feuilles : saisie, 1);
     disposition->addLayout(boutons);
-    const Legende legendes[] = {{description_.nom, 0, 384}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
+    const Legende legendes[] = {{description_.nom, 0, description_.titre}, {"Retour", 0, 13}, {"Calculer", 0, 11}};
     AppliqueLegendes(*this, legendes);
     for (auto* panneau : panneaux_) PoseLimites(*panneau, LimiteNombre);
     zones_->LaisseAller(retour_);
@@ -139,9 +142,13 @@ void SaisieCame::LitDonnees() {
 bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
     const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
     if (faute == nullptr) return false;
-    LesDialogues().Message(Icone::Avertissement, Texte(faute->texteFaute));
-    if (auto* champ = ChampDe(faute->nom)) ReprendSaisie(*champ);
+    RefuseDonnee(faute->nom, faute->texteFaute);
     return true;
+}
+
+void SaisieCame::RefuseDonnee(const char* nom, int texte) {
+    LesDialogues().Message(Icone::Avertissement, Texte(texte));
+    if (auto* champ = ChampDe(nom)) champ->setFocus();
 }
 
 void SaisieCame::showEvent(QShowEvent* evenement) {
@@ -192,7 +199,7 @@ void SaisieCame::Calculer() {
 
 /// Calculates what the record holds; false after a box that says why it cannot be.
 bool SaisieCame::Calcule() {
-    if (!zones_->ControlePoints() || FauteDeDonnee(description_.champs)) return false;
+    if (!zones_->ControlePoints() || FauteDeDonnee(description_.champs) || !ControleDonnees()) return false;
     ProposeDonnees();
     // Geometry and speed may have changed since a zone was accepted.
     CompleteZones(description_.zones.rayonsBras);

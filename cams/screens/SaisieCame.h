@@ -14,6 +14,7 @@ class PanneauChamps;
 class PanneauPesanteur;
 class QLineEdit;
 class QPushButton;
+class QTabWidget;
 
 struct DescriptionSaisie {
     const char* nom; ///< of the screen
@@ -23,6 +24,7 @@ struct DescriptionSaisie {
     std::span<const GroupeDonnees> groupes; ///< in the order of entry
     const char* champDuree;                 ///< the one scalar that a zone cannot be completed without; none for all
     void (*calcule)();
+    int titre = 384; ///< text number of its caption
 };
 
 class SaisieCame : public FenetreEnfant {
@@ -47,10 +49,20 @@ protected:
     QLineEdit* ChampDe(std::string_view nom) const;
 
     /// Lays out the screen: the columns from the left, the entry of the zones behind them, the buttons below.
-    void Compose(const std::vector<QWidget*>& colonnes);
+    /// @param feuilles the screen has sheets, of which this is put before all others
+    void Compose(const std::vector<QWidget*>& colonnes, QTabWidget* feuilles = nullptr);
+
+    /// Says what is wrong with a scalar, and gives its field the focus.
+    void RefuseDonnee(const char* champ, int texte);
 
     /// What this kind of cam asks of a zone besides its law; false after a box.
     virtual bool ControleZone(const Zone&) { return true; }
+
+    /// What this kind of cam asks of its data besides the limits of their rows; false after a box.
+    virtual bool ControleDonnees() { return true; }
+
+    /// Results of other data are neither printed nor saved.
+    virtual void PerimeResultats();
 
     /// What this kind of cam asks the user about its data before it is calculated.
     virtual void ProposeDonnees() {}
@@ -63,7 +75,6 @@ protected:
 private:
     bool Calcule();
     bool AcheveZone(Zone& zone);
-    void PerimeResultats();
     void RelieChamps();
     void LitPanneau(PanneauChamps& panneau);
     void LitDonnees();

@@ -21,7 +21,8 @@
 namespace {
 
 /// A worked example of each kind that can be calculated.
-constexpr const char* Exemples[] = {"Exemple.Ang", "Translation.Lin", "Barillet.Cyl", "Balancier.Osc"};
+constexpr const char* Exemples[] = {"Exemple.Ang", "Translation.Lin", "Barillet.Cyl", "Balancier.Osc",
+                                    "Conjuguees.Cjg"};
 
 void Cherche(QWidget& ecran, const char* langue) {
     LaisseFaire();

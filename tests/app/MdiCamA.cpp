@@ -75,10 +75,10 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
         if (!action->isEnabled() && !action->menu()) inactives.insert(S(action->objectName()));
     for (const char* nom : {"FichierLanguesModification", "FichierGenerateursCroixMalte"})
         EXPECT_TRUE(inactives.contains(nom)) << nom;
-    for (const char* nom : {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso",
-                            "NouveauCylindre", "NouveauGlobiqueIndexeur", "NouveauGlobiqueOscillateur", "NouveauConjug",
-                            "ProfilCylindriqueOsc", "ProfilConjugueesOsc", "Quitter", "FichierClasiquesInerties",
-                            "Inerties"})
+    for (const char* nom :
+         {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso", "NouveauCylindre",
+          "NouveauGlobiqueIndexeur", "NouveauGlobiqueOscillateur", "NouveauConjug", "ProfilCylindriqueOsc",
+          "ProfilConjugueesOsc", "Quitter", "FichierClasiquesInerties", "Inerties"})
         EXPECT_FALSE(inactives.contains(nom)) << nom;
     for (const QAction* action : Controle<QToolBar>(mdi_, "Toolbar1")->actions())
         if (!action->isSeparator()) {

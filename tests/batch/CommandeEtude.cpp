@@ -194,3 +194,36 @@ TEST_F(CommandeEtude, ForeignFilesAreRefused) {
         EXPECT_TRUE(passe.Objet()["Mouvement"]["Course"].empty()) << fichier;
     }
 }
+
+TEST_F(CommandeEtude, APairOfCamsHasItsResultsByCam) {
+    const std::string paire = VELORIN_SOURCES "/Profils/Conjuguees.Cjg";
+    const std::string points = (dossier.Chemin() / "p.Pnt").string(), base = (dossier.Chemin() / "paire").string();
+    const auto passe = LancePasse({"etude", paire, "--points", points, "--scripts", base, "--langue", "Français"});
+    ASSERT_EQ(passe.statut, 0) << passe.erreurs;
+    const auto& o = passe.Objet();
+    EXPECT_EQ(Membres(o), (std::vector<std::string>{"fichier", "TypeCame", "Erreur", "messages", "donnees", "Zones",
+                                                    "Guide", "Suiveur"}));
+    EXPECT_EQ(o["donnees"].size(), 11u);
+    EXPECT_EQ(o["Zones"][1]["AngleFinal"], 74) << "as entered";
+    for (const char* came : {"Guide", "Suiveur"}) {
+        EXPECT_EQ(Membres(o[came]), (std::vector<std::string>{"resume", "Mouvement", "Points", "Profil"}));
+        EXPECT_EQ(o[came]["resume"]["NombrePoints"], 720);
+        EXPECT_EQ(o[came]["Points"]["Rayon"].size(), 721u);
+        EXPECT_EQ(o[came]["resume"]["CoupleMax"], o["Guide"]["resume"]["CoupleMax"]);
+    }
+    EXPECT_EQ(o["Suiveur"]["Mouvement"]["Course"][0], 62 - 74);
+    EXPECT_TRUE(std::filesystem::exists(points));
+    EXPECT_TRUE(std::filesystem::exists(base + "_Came guide.Scr"));
+    EXPECT_TRUE(std::filesystem::exists(base + "_Came suiveuse.Scr"));
+    const auto court = LancePasse({"etude", paire, "--resume"});
+    EXPECT_EQ(Membres(court.Objet()["Guide"]), (std::vector<std::string>{"resume"}));
+
+    std::string texte = LitBrut(paire);
+    texte.replace(texte.rfind("2\r\n"), 1, "3");
+    const auto refus = LancePasse({"etude", dossier.Ecrit("Trois.Cjg", texte)});
+    EXPECT_EQ(refus.statut, 1);
+    EXPECT_EQ(refus.Objet()["Erreur"], -1);
+    EXPECT_EQ(refus.Objet()["messages"][0]["icone"], "avertissement");
+    EXPECT_TRUE(refus.Objet()["Guide"]["resume"]["RayonMax"].is_null());
+    EXPECT_TRUE(refus.Objet()["Suiveur"]["Points"]["Rayon"].empty());
+}

@@ -1,0 +1,19 @@
+// What the screen refuses of the numbers of a pair of conjugate cams. A file and the batch companion are calculated as
+// they stand.
+#pragma once
+
+#include "core/Etude.h"
+
+#include <optional>
+
+/// A number at fault: the name of its row, and the text number of what is said.
+struct FautePaire {
+    const char* champ;
+    int texte;
+};
+
+/// The cam must turn: zones have no duration otherwise.
+std::optional<FautePaire> ChercheFauteVitesse(const DonneesEtude& donnees);
+
+/// Pivot, arms, rollers and inertia.
+std::optional<FautePaire> ChercheFautePaire(const DonneesEtude& donnees);

@@ -1,0 +1,140 @@
+#include "studies/ListagesCames.h"
+
+#include "cams/Pente.h"
+#include "core/ValeurPoint.h"
+#include "data/Textes.h"
+#include "data/Unites.h"
+#include "studies/ValeursRemarquables.h"
+
+#include <memory>
+#include <span>
+
+namespace {
+
+constexpr const char* M3 = "###.###";
+constexpr const char* M3Court = "##.###";
+constexpr const char* M2 = "###.##";
+
+struct Colonne {
+    int texte, unite; ///< text numbers of heading and unit
+    double (*valeur)(long point);
+    const char* masque;
+};
+
+double AnglePression(long i) {
+    return Pente(etude.resultats.Profil[i].AngleTangent);
+}
+
+constexpr Colonne angle = {245, UniteDegres, DuPoint<&Point::Angle>, "##0"};
+constexpr Colonne mouvement[] = {
+    {246, UniteDegres, DuMouvement<&PointLoi::Course>, M3},
+    {248, UniteRadS, DuMouvement<&PointLoi::Vitesse>, M3Court},
+    {249, UniteRadS2, DuMouvement<&PointLoi::Accel>, M2},
+};
+constexpr Colonne galet[] = {
+    {247, UniteMm, DuPoint<&Point::Rayon>, M3},
+    {225, UniteMS, DuPoint<&Point::VitesseRayon>, M3Court},
+    {226, UniteMS2, DuPoint<&Point::AccelRayon>, M2},
+    {261, UniteTours, DuPoint<&Point::VitesseGalet>, M2},
+};
+constexpr Colonne efforts[] = {
+    {251, UniteN, DuPoint<&Point::ForceGalet>, M2},
+    {252, UniteNm, DuPoint<&Point::Couple>, M3},
+    {253, UniteDegres, AnglePression, M2},
+    {254, UniteMm, DuProfil<&PointProfil::RayonCourbure>, M2},
+    {255, UniteMm, DuProfil<&PointProfil::RayonCourbureInterieur>, M2},
+};
+
+/// @param nom what stands over the heading: the short name of a cam, or nothing
+ColonneTexte FaitColonne(const Colonne& c, std::size_t rang, const std::string& nom) {
+    return ColonneNombres(
+        nom + Texte(c.texte), Texte(c.unite),
+        [valeur = DeCame(rang, c.valeur)](int ligne) {
+            return valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre);
+        },
+        c.masque);
+}
+
+void AjouteColonnes(TableTexte& table, const TypeEtude& type, std::span<const Colonne> colonnes) {
+    for (std::size_t rang = 0; rang < type.passes.size(); ++rang)
+        for (const Colonne& c : colonnes)
+            table.colonnes.push_back(FaitColonne(c, rang, Texte(type.passes[rang].nomCourt) + "\n"));
+}
+
+TableTexte CommenceTable(const TypeEtude& type) {
+    TableTexte table;
+    if (!type.passes.empty() && !etude.passes.empty())
+        table.lignes = etude.passes.front().resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
+    table.colonnes.push_back(FaitColonne(angle, 0, {}));
+    return table;
+}
+
+/// A column of texts that stand already.
+ColonneTexte ColonneTextes(const std::string& titre, std::vector<std::string> textes, Cote cote) {
+    auto gardes = std::make_shared<std::vector<std::string>>(std::move(textes));
+    return {titre, "", [gardes](int ligne) { return gardes->at(static_cast<std::size_t>(ligne)); }, cote};
+}
+
+} // namespace
+
+TableTexte TableMouvementCames(const TypeEtude& type) {
+    TableTexte table = CommenceTable(type);
+    for (const Colonne& c : mouvement) table.colonnes.push_back(FaitColonne(c, 0, {}));
+    AjouteColonnes(table, type, galet);
+    if (type.controle.ecarts != nullptr) {
+        auto ecarts = std::make_shared<std::vector<double>>(type.controle.ecarts());
+        table.colonnes.push_back(ColonneNombres(
+            Texte(type.controle.titreEcarts), Texte(UniteMm),
+            [ecarts](int ligne) {
+                return ecarts->at(static_cast<std::size_t>(ligne) *
+                                  static_cast<std::size_t>(etude.donnees.PointsParDegre));
+            },
+            "0.000"));
+    }
+    return table;
+}
+
+TableTexte TableEffortsCames(const TypeEtude& type) {
+    TableTexte table = CommenceTable(type);
+    AjouteColonnes(table, type, efforts);
+    return table;
+}
+
+TableTexte TableRemarquablesCames(const TypeEtude& type) {
+    std::vector<std::string> noms, unites;
+    for (const ValeurRemarquable& valeur : LesValeursRemarquables()) {
+        if (valeur.texte(type) == 0) continue;
+        noms.push_back(Texte(valeur.groupe) + " : " + Texte(valeur.texte(type)));
+        unites.push_back(Texte(valeur.unite));
+    }
+    TableTexte table{{}, static_cast<int>(noms.size())};
+    table.colonnes.push_back(ColonneTextes(Texte(216), noms, Cote::Gauche));
+    PourChaqueCame(type, [&](const DescriptionPasse* came) {
+        std::vector<std::string> textes, angles;
+        for (const ValeurRemarquable& valeur : LesValeursRemarquables()) {
+            if (valeur.texte(type) == 0) continue;
+            textes.push_back(EcritValeur(valeur, valeur.masque));
+            angles.push_back(valeur.repere == nullptr ? std::string()
+                                                      : Format(AngleExtreme(valeur.repere()), "##0") + "°");
+        }
+        table.colonnes.push_back(ColonneTextes(Texte(came->titre), textes, Cote::Droite));
+        table.colonnes.push_back(ColonneTextes(Texte(227), angles, Cote::Droite));
+    });
+    table.colonnes.push_back(ColonneTextes("", unites, Cote::Gauche));
+    return table;
+}
+
+TableTexte TableControle(const TypeEtude& type) {
+    TableTexte table;
+    if (type.controle.lignes == nullptr) return table;
+    std::vector<std::string> noms, valeurs, unites;
+    for (const LigneControle& ligne : type.controle.lignes()) {
+        noms.push_back(ligne.libelle);
+        valeurs.push_back(ligne.valeur);
+        unites.push_back(ligne.unite);
+    }
+    table.lignes = static_cast<int>(noms.size());
+    table.colonnes = {ColonneTextes(Texte(type.controle.titre), noms, Cote::Gauche),
+                      ColonneTextes("", valeurs, Cote::Gauche), ColonneTextes("", unites, Cote::Gauche)};
+    return table;
+}

@@ -1,0 +1,234 @@
+#include "conjugate/PaireOscillante.h"
+
+#include "conjugate/DonneesPaire.h"
+#include "conjugate/ExemplePaire.h"
+#include "conjugate/FermeturePaire.h"
+#include "conjugate/LimitesPaire.h"
+#include "outils/DialoguesScript.h"
+#include "planecams/CamesPlates.h"
+
+#include <cmath>
+
+namespace {
+
+class PaireOscillante : public AvecCatalogue {
+protected:
+    DialoguesScript dialogues;
+
+    PaireOscillante() { PosePaire(); }
+    /// What the stage that failed said, and what was said of its cam.
+    std::string DernieresBoites() const {
+        const auto& boites = dialogues.boites;
+        return boites.size() < 2 ? std::string() : boites[boites.size() - 2].texte + "|" + boites.back().texte;
+    }
+    static const ResultatsEtude& Guide() { return etude.passes.at(CameGuide).resultats; }
+    static const ResultatsEtude& Suiveuse() { return etude.passes.at(CameSuiveuse).resultats; }
+};
+
+template <class T> void Compare(const Tableau<T>& a, const Tableau<T>& b, std::initializer_list<double T::*> membres) {
+    ASSERT_EQ(a.BorneHaute(), b.BorneHaute());
+    for (long i = 0; i <= a.BorneHaute(); ++i)
+        for (const auto membre : membres) ASSERT_EQ(a[i].*membre, b[i].*membre) << i;
+}
+
+void CompareMouvement(const Tableau<PointLoi>& a, const Tableau<PointLoi>& b) {
+    Compare(a, b, {&PointLoi::Course, &PointLoi::Vitesse, &PointLoi::Accel});
+}
+
+/// The numbers of a plane arm cam that a pair has too.
+void CompareCames(const ResultatsEtude& a, const ResultatsEtude& b) {
+    CompareMouvement(a.Mouvement, b.Mouvement);
+    Compare(a.Points, b.Points,
+            {&Point::Angle, &Point::AngleBras, &Point::Rayon, &Point::VitesseRayon, &Point::AccelRayon, &Point::XA,
+             &Point::VyA, &Point::AA, &Point::VitesseGalet});
+    Compare(a.Profil, b.Profil,
+            {&PointProfil::AngleTangent, &PointProfil::Derivee2Rayon, &PointProfil::RayonCourbure,
+             &PointProfil::XInterieur, &PointProfil::YInterieur2, &PointProfil::RayonCourbureInterieur,
+             &PointProfil::XExterieur, &PointProfil::YExterieur1});
+    EXPECT_EQ(a.RayonMax, b.RayonMax);
+    EXPECT_EQ(a.RayonMin, b.RayonMin);
+    EXPECT_EQ(a.AccelRayonMax, b.AccelRayonMax);
+    EXPECT_EQ(a.AccelRayonMaxAngle, b.AccelRayonMaxAngle);
+    EXPECT_EQ(a.VitesseGaletMoyenne, b.VitesseGaletMoyenne);
+    EXPECT_EQ(a.AngleTangentMax, b.AngleTangentMax);
+    EXPECT_EQ(a.RayonCourbureMin, b.RayonCourbureMin);
+}
+
+} // namespace
+
+TEST_F(PaireOscillante, EachCamIsTheArmCamOfItsNumbers) {
+    CalculeCamesConjuguees();
+    ASSERT_TRUE(SansErreur());
+    EXPECT_TRUE(dialogues.boites.empty());
+    const std::vector<PasseEtude> passes = etude.passes;
+    etude.donnees.TypeCame = "Angulaire";
+    for (const int came : {CameGuide, CameSuiveuse}) {
+        const bool guide = came == CameGuide;
+        etude.donnees.RayonO1P = guide ? etude.donnees.RayonBrasR1 : etude.donnees.RayonBrasR2;
+        etude.donnees.RayonGalet = guide ? etude.donnees.RayonGaletG1 : etude.donnees.RayonGaletG2;
+        const double decalage = guide ? 0 : etude.donnees.AngleBras;
+        for (Zone& zone : etude.donnees.Zones) {
+            zone.AngleDepart -= decalage;
+            zone.AngleFinal -= decalage;
+        }
+        etude.durables = {};
+        CalculeCameAngulaire();
+        const PasseEtude& passe = passes[static_cast<std::size_t>(came)];
+        CompareCames(passe.resultats, etude.resultats);
+        EXPECT_EQ(passe.durables.LoiCourseMax, etude.durables.LoiCourseMax);
+        EXPECT_EQ(passe.durables.VitesseGaletMax, etude.durables.VitesseGaletMax);
+        EXPECT_FALSE(passe.resultats.ProfilExterieur);
+    }
+}
+
+TEST_F(PaireOscillante, WithoutAngleBothArmsMoveAlikeAndTheSecondCalculationIsTheFirst) {
+    etude.donnees.AngleBras = 0;
+    const Tableau<Zone> zones = etude.donnees.Zones;
+    CalculeCamesConjuguees();
+    CompareMouvement(Guide().Mouvement, Suiveuse().Mouvement);
+    EXPECT_NE(Guide().RayonMax, Suiveuse().RayonMax);
+    const std::vector<PasseEtude> premiere = etude.passes;
+    CalculeCamesConjuguees();
+    for (const std::size_t came : {CameGuide, CameSuiveuse}) {
+        CompareCames(etude.passes[came].resultats, premiere[came].resultats);
+        EXPECT_EQ(etude.passes[came].resultats.ForceGaletMax, premiere[came].resultats.ForceGaletMax);
+        EXPECT_EQ(etude.passes[came].durables.VitesseGaletMax, premiere[came].durables.VitesseGaletMax);
+    }
+    for (long z = 1; z <= 4; ++z) {
+        EXPECT_EQ(etude.donnees.Zones[z].AngleCame, zones[z].AngleCame) << "back in degrees";
+        EXPECT_EQ(etude.donnees.Zones[z].AngleDepart, zones[z].AngleDepart);
+    }
+}
+
+TEST_F(PaireOscillante, ForcesAreThoseOfTheInertiaAndTheirMaximaAreCommon) {
+    CalculeCamesConjuguees();
+    double force = 0.1, couple = 0.1;
+    for (const PasseEtude& passe : etude.passes) {
+        const auto& r = passe.resultats;
+        for (long i = 0; i < r.NombrePoints; ++i) {
+            // Newton about the pivot with the dynamic factor 1.4, and the power of the force through the roller.
+            EXPECT_NEAR(r.Points[i].ForceGalet * passe.RayonO1P / 1000, 1.4 * 0.352 * r.Mouvement[i].Accel, 1e-9);
+            const double pente = (r.Points[i].Rayon - r.Points[i + 1].Rayon) * 2 * RadDeg / 1000;
+            ASSERT_NEAR(r.Points[i].Couple, r.Points[i].ForceGalet * pente, 1e-9) << i;
+            force = std::max(force, std::abs(r.Points[i].ForceGalet));
+            couple = std::max(couple, std::abs(r.Points[i].Couple));
+        }
+    }
+    for (const PasseEtude& passe : etude.passes) {
+        EXPECT_EQ(passe.resultats.ForceGaletMax, force);
+        EXPECT_EQ(passe.resultats.CoupleMax, couple);
+        EXPECT_EQ(passe.resultats.CoupleMaxAngle, etude.passes[0].resultats.CoupleMaxAngle);
+    }
+    etude.donnees.InertieO1 = 0;
+    CalculeCamesConjuguees();
+    EXPECT_EQ(Guide().ForceGaletMax, 0.1) << "what the maxima start from";
+    EXPECT_EQ(Guide().ForceGaletMaxAngle, 0);
+}
+
+TEST_F(PaireOscillante, ACustomLawServesBothCamsAsItWasForTheFirst) {
+    etude.donnees.AngleBras = 0;
+    // Row 2 of the catalogue is overwritten by the custom law of zone 2: zone 1 has had its harmonic law by then.
+    PoseZones({{61.7, 73.4, 120, "SHM"}, {73.4, 61.7, 120, "MS_Spe_ 40"}, {61.7, 65.1, 120, "SHM"}});
+    CalculeCamesConjuguees();
+    ASSERT_TRUE(SansErreur());
+    CompareMouvement(Guide().Mouvement, Suiveuse().Mouvement);
+    EXPECT_GT(Guide().Mouvement[0].Accel, 1) << "the harmonic law starts with its full acceleration";
+    CalculeCamesConjuguees();
+    EXPECT_NEAR(Guide().Mouvement[0].Accel, 0, 1e-12) << "the row stays overwritten";
+}
+
+TEST_F(PaireOscillante, AFailingCamIsNamedAndNothingIsStored) {
+    CalculeCamesConjuguees();
+    ASSERT_EQ(etude.passes.size(), 2u);
+    // The line to the pivot lies at some 31 degrees: the guide arm crosses it.
+    etude.donnees.Zones[1].AngleFinal = etude.donnees.Zones[2].AngleDepart = etude.donnees.Zones[2].AngleFinal = 20;
+    CalculeCamesConjuguees();
+    EXPECT_FALSE(SansErreur());
+    EXPECT_TRUE(etude.passes.empty());
+    EXPECT_EQ(DernieresBoites(), Texte(427) + "|Calcul impossible pour la Came guide");
+    EXPECT_EQ(dialogues.boites.back().icone, Icone::Information);
+
+    dialogues.boites.clear();
+    PosePaire();
+    etude.donnees.AngleBras = 37;
+    CalculeCamesConjuguees();
+    EXPECT_TRUE(etude.passes.empty());
+    EXPECT_EQ(DernieresBoites(), Texte(427) + "|Calcul impossible pour la Came suiveuse");
+
+    dialogues.boites.clear();
+    PosePaire();
+    etude.donnees.Zones[2].AngleCame = -20.5;
+    EXPECT_THROW(CalculeCamesConjuguees(), ErreurExecution);
+    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_TRUE(etude.passes.empty());
+    EXPECT_EQ(etude.donnees.Zones[2].AngleCame, -20.5);
+    EXPECT_EQ(etude.donnees.Zones[1].AngleDepart, 61.7) << "the zones are those that were entered";
+
+    PosePaire();
+    etude.donnees.PointsParDegre = 3;
+    CalculeCamesConjuguees();
+    EXPECT_FALSE(SansErreur());
+    ASSERT_EQ(dialogues.boites.size(), 1u);
+    EXPECT_EQ(dialogues.boites[0].texte, Texte(519) + "\n" + Texte(520));
+    EXPECT_EQ(dialogues.boites[0].icone, Icone::Avertissement);
+}
+
+TEST_F(PaireOscillante, ClosureComparesWhatTheProfilesOfferWithTheDoubleArm) {
+    CalculeCamesConjuguees();
+    const FermeturePaire f = CalculeFermeture();
+    const double a = etude.donnees.AngleBras / RadDeg, r1 = etude.donnees.RayonBrasR1, r2 = etude.donnees.RayonBrasR2;
+    EXPECT_NEAR(f.entraxe, std::sqrt(r1 * r1 + r2 * r2 - 2 * r1 * r2 * std::cos(a)), 1e-9);
+    ASSERT_EQ(f.ecarts.size(), 721u);
+    EXPECT_NEAR(f.ecarts[0], 0, 1e-9) << "keyed at the start";
+    EXPECT_NEAR(f.ecarts[719], 0, 1e-9) << "and back there";
+    // The law of cosines about the cam centre, with the angle that the rollers stand at from each other at the start.
+    const auto& g = Guide().Points;
+    const auto& s = Suiveuse().Points;
+    const double angle0 = std::acos((g[0].Rayon * g[0].Rayon + s[0].Rayon * s[0].Rayon - f.entraxe * f.entraxe) /
+                                    (2 * g[0].Rayon * s[0].Rayon));
+    const long i = 150;
+    const double offert =
+        std::sqrt(g[i].Rayon * g[i].Rayon + s[i].Rayon * s[i].Rayon - 2 * g[i].Rayon * s[i].Rayon * std::cos(angle0));
+    EXPECT_NEAR(f.ecarts[i], offert - f.entraxe, 1e-9);
+    EXPECT_GT(std::abs(f.ecartMax.valeur), ToleranceFermeture);
+    EXPECT_FALSE(f.ouvertes.empty());
+    EXPECT_GT(f.ouvertes.front().debut, 0) << "the start closes";
+    for (const auto& jeu : f.jeux) EXPECT_GT(jeu.valeur, 0);
+    EXPECT_TRUE(f.heurtees.empty());
+
+    // Rollers that overlap where the cams touch them.
+    etude.donnees.AngleBras = 0.5;
+    CalculeCamesConjuguees();
+    const FermeturePaire serree = CalculeFermeture();
+    EXPECT_LT(serree.jeux[CameGuide].valeur, 0);
+    ASSERT_EQ(serree.heurtees.size(), 1u) << "one range, the whole turn";
+    EXPECT_EQ(serree.heurtees[0].fin, 360);
+    // A resting arm closes everywhere.
+    PoseZones({{61.7, 61.7, 360, "MS"}});
+    CalculeCamesConjuguees();
+    EXPECT_TRUE(CalculeFermeture().ouvertes.empty());
+    EXPECT_EQ(LignesFermeture()[4].valeur, "nulle part");
+    EXPECT_TRUE(dialogues.boites.empty()) << "the closure is told on the sheet only";
+}
+
+TEST_F(PaireOscillante, LimitsOfTheScreen) {
+    const auto faute = [] {
+        const auto f = ChercheFautePaire(etude.donnees);
+        return f ? std::string(f->champ) + " " + std::to_string(f->texte) : std::string();
+    };
+    EXPECT_EQ(faute(), "");
+    etude.donnees.CoteA = 0;
+    EXPECT_EQ(faute(), "CoteA 197");
+    etude.donnees.CoteB = 0;
+    EXPECT_EQ(faute(), "CoteA 657");
+    PosePaire();
+    etude.donnees.RayonGaletG2 = 0;
+    EXPECT_EQ(faute(), "InertieO1 498");
+    etude.donnees.RayonGaletG2 = -8;
+    EXPECT_EQ(faute(), "InertieO1 498");
+    etude.donnees.RayonBrasR1 = -8;
+    EXPECT_EQ(faute(), "RayonBrasR1 498") << "two wrongs make no right";
+    EXPECT_FALSE(ChercheFauteVitesse(etude.donnees));
+    etude.donnees.VitesseCame = 0;
+    EXPECT_TRUE(ChercheFauteVitesse(etude.donnees));
+}

@@ -17,7 +17,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* SortieStandard = "-";
+/// The names of the standard output: opened a second time it would be written over itself.
+bool EstSortieStandard(const fs::path& chemin) {
+    return chemin == "-" || chemin == "/dev/stdout" || chemin == "/dev/fd/1" || chemin == "/proc/self/fd/1";
+}
 
 std::string ComposeRapport(const std::string& titre) {
     // Fonts need an application object; it shows nothing, and what the toolkit has to say concerns windows.
@@ -51,8 +54,8 @@ std::vector<Sortie> SortiesDemandees(const LigneCommande& ligne) {
     if (!ligne.scripts.empty()) {
         Sortie sortie;
         for (const FichierScript& script : LesScripts())
-            sortie.chemins.push_back(ligne.scripts == SortieStandard ? ligne.scripts
-                                                                     : ligne.scripts + script.suite + ".Scr");
+            sortie.chemins.push_back(EstSortieStandard(ligne.scripts) ? ligne.scripts
+                                                                      : ligne.scripts + script.suite + ".Scr");
         sortie.compose = [] {
             std::vector<std::string> contenus;
             for (const FichierScript& script : LesScripts()) contenus.push_back(script.compose());
@@ -70,7 +73,7 @@ std::vector<Sortie> SortiesDemandees(const LigneCommande& ligne) {
 /// Two names of one file, which need not exist yet.
 bool MemeFichier(const fs::path& a, const fs::path& b) {
     std::error_code echec;
-    if (fs::equivalent(a, b, echec)) return true;
+    if ((EstSortieStandard(a) && EstSortieStandard(b)) || fs::equivalent(a, b, echec)) return true;
     return fs::weakly_canonical(a, echec) == fs::weakly_canonical(b, echec);
 }
 
@@ -91,7 +94,7 @@ void EcritSorties(const LigneCommande& ligne) {
         const std::vector<std::string> contenus = sortie.compose();
         std::vector<FichierAEcrire> fichiers;
         for (std::size_t i = 0; i < contenus.size(); ++i) {
-            if (sortie.chemins[i] == SortieStandard)
+            if (EstSortieStandard(sortie.chemins[i]))
                 std::cout << contenus[i];
             else
                 fichiers.push_back({sortie.chemins[i], contenus[i]});

@@ -84,11 +84,11 @@ private:
     QLayout* FaitBoutons(const Composition& composition);
     void Relie(const Composition& composition);
     void RelieOrdre(const std::vector<QWidget*>& ordre);
-    void LitSaisie();
+    void LitSaisie() override;
     void Calculer();
     void MontreEtat();
 
-    bool calcule_ = false, derouleVide_ = false;
+    bool calcule_ = false;
     bool ouvertes_ = false; ///< the sheets, without a result
     bool derouleVide_ = false;
     std::vector<PanneauSaisie*> panneaux_;

@@ -6,6 +6,7 @@
 #include "laws/ChoixLois.h"
 #include "outils/DialoguesScript.h"
 #include "outils/Ecrans.h"
+#include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 #include "widgets/Chaines.h"
 #include "widgets/FenetreEnfant.h"
@@ -77,14 +78,15 @@ TEST_F(Accueil, AKindOfStudyIsOneClickAway) {
         Clique(image);
         ASSERT_NE(mdi_.EcranOuvert(choix.Ecran()), nullptr) << choix.image;
         EXPECT_FALSE(Page().isVisible());
-        CliqueSur(*mdi_.EcranOuvert(choix.Ecran()), "Retour");
+        mdi_.FermeEcrans();
+        LaisseFaire();
         EXPECT_TRUE(Page().isVisible()) << "the page is back when the desk is empty";
     }
 }
 
 TEST_F(Accueil, ExamplesAndRecentFilesAreOneClickAway) {
-    EXPECT_EQ(Liens("Exemple"),
-              (QStringList{"Balancier.Osc", "Barillet.Cyl", "Deux-tours.Cyl", "Exemple.Ang", "Translation.Lin"}));
+    EXPECT_EQ(Liens("Exemple"), (QStringList{"Balancier.Osc", "Barillet.Cyl", "Conjuguees.Cjg", "Deux-tours.Cyl",
+                                             "Exemple.Ang", "Translation.Lin"}));
     EXPECT_TRUE(Liens("Recent").isEmpty());
     Clique(Page().findChildren<QPushButton*>("Exemple")[1]);
     EXPECT_EQ(etude.donnees.NomFichier, "Barillet.Cyl");
@@ -139,11 +141,11 @@ TEST_F(Accueil, LawStudiesAndResultsFitOnASmallDisplay) {
             mdi_.OuvreAutre(exemple);
             mdi_.resize(1280, 690);
             LaisseFaire();
-            mdi_.EcranOuvert("Resultat")
-                ->parentWidget()
-                ->setGeometry(Controle<QMdiArea>(mdi_, "Bureau")->viewport()->rect());
+            const char* ecran = TrouveTypeFichier(exemple)->ecranResultats;
+            mdi_.EcranOuvert(ecran)->parentWidget()->setGeometry(
+                Controle<QMdiArea>(mdi_, "Bureau")->viewport()->rect());
             LaisseFaire();
-            AttendTient("Resultat", langue + exemple.filename().string());
+            AttendTient(ecran, langue + exemple.filename().string());
         }
     }
 }

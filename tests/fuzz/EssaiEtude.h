@@ -39,10 +39,16 @@ inline std::optional<std::string> Anomalie(const EssaiEtude& essai, const std::v
     std::size_t z = 0;
     for (const Zone& zone : etude.donnees.Zones)
         if (z < degres.size() && zone.AngleCame != degres[z++]) return "a zone is not back in degrees";
-    const long derniers[] = {etude.resultats.Points.BorneHaute(), etude.resultats.Profil.BorneHaute()};
-    for (const long dernier : derniers)
-        if (dernier != (essai.lue && !essai.erreur ? etude.resultats.NombrePoints : -1))
+    const auto autreTaille = [](const ResultatsEtude& resultats, long dernier) {
+        return resultats.Points.BorneHaute() != dernier || resultats.Profil.BorneHaute() != dernier;
+    };
+    const bool calculee = essai.lue && !essai.erreur;
+    // A study of several cams keeps the tables of each, and none of its own.
+    for (const PasseEtude& passe : etude.passes)
+        if (!calculee || autreTaille(passe.resultats, passe.resultats.NombrePoints))
             return "a table of another size is left";
+    if (autreTaille(etude.resultats, calculee && etude.passes.empty() ? etude.resultats.NombrePoints : -1))
+        return "a table of another size is left";
     return {};
 }
 

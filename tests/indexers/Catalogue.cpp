@@ -65,7 +65,7 @@ TEST_F(CalculatorCatalogue, ANewRowIsCheckedInOrder) {
 
 TEST_F(CalculatorCatalogue, ADatabaseThatIsHeldIsTold) {
     try {
-        BaseDonnees::Ouvre(base.Chemin(), MotDePasseBase, BaseDonnees::Usage::Lecture);
+        BaseDonnees::Ouvre(base.Chemin(), MotDePasseBase, BaseDonnees::Usage::Exclusif);
         FAIL() << "held for one program alone";
     } catch (const ErreurExecution& erreur) {
         EXPECT_EQ(erreur.numero, NumeroErreur::BaseOccupee);

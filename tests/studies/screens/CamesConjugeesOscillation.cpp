@@ -83,13 +83,14 @@ TEST_F(EcranPaire, APairIsTypedCalculatedAndShown) {
     EXPECT_EQ(Controle<Grille>(*ecran, "Fermeture")->NombreLignes(), 6);
     EXPECT_GT(Controle<QLabel>(*ecran, "Echelle")->text().toDouble(), 0);
 
-    // An edit after the calculation: its results are no longer shown, printed or saved.
+    // An edit after the calculation: its results are no longer shown, and are calculated anew before they are used.
     Feuilles().setCurrentIndex(0);
     Tape({{"Text5", "17.5"}});
-    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
+    EXPECT_TRUE(etude.resultats.Perimes);
     EXPECT_FALSE(Feuilles().isTabEnabled(2));
     Clique("Calculer");
     EXPECT_EQ(calculee.count(), 2);
+    EXPECT_FALSE(etude.resultats.Perimes);
     EXPECT_EQ(etude.passes[1].RayonGalet, 17.5);
 }
 

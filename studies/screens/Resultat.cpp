@@ -89,7 +89,7 @@ constexpr Legende legendes[] = {
 
 // All values stand without a scroll bar on a display of 1280 x 720, with room for four zones.
 constexpr int EcartLignes = 2;
-constexpr int HauteurZones = 64;
+constexpr int HauteurZones = 58;
 
 /// Room for the widest of the values.
 constexpr const char* Gabarit = "-00000.00";

@@ -47,7 +47,9 @@ inline std::optional<std::string> Anomalie(const EssaiEtude& essai, const std::v
     for (const PasseEtude& passe : etude.passes)
         if (!calculee || autreTaille(passe.resultats, passe.resultats.NombrePoints))
             return "a table of another size is left";
-    if (autreTaille(etude.resultats, calculee && etude.passes.empty() ? etude.resultats.NombrePoints : -1))
+    const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
+    const bool seule = type != nullptr && type->passes.empty();
+    if (autreTaille(etude.resultats, calculee && seule ? etude.resultats.NombrePoints : -1))
         return "a table of another size is left";
     return {};
 }

@@ -36,7 +36,8 @@ std::optional<std::string> ImprimeEtude() {
     etude.donnees.NomFichier = "Essai";
     ImprimanteNotee imprimante;
     ImprimeRapportsCames(imprimante, marques);
-    const auto points = static_cast<std::size_t>(etude.resultats.NombrePoints);
+    auto points = static_cast<std::size_t>(etude.resultats.NombrePoints);
+    for (const PasseEtude& passe : etude.passes) points += static_cast<std::size_t>(passe.resultats.NombrePoints);
     if (imprimante.pages.size() > 12 + points / 20 + static_cast<std::size_t>(etude.donnees.NombreZones) / 4)
         return "too many pages";
     for (const auto& page : imprimante.pages) {

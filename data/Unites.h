@@ -5,7 +5,7 @@ enum NumeroUnite {
     UniteMm = 18,
     UniteDegres = 19,
     UniteDegresMajuscule = 20, ///< as the indexers write it
-    UniteTours = 21, ///< turns a minute
+    UniteTours = 21,           ///< turns a minute
     UniteKg = 24,
     UniteN = 25,
     UniteNm = 26,

@@ -29,6 +29,6 @@ void LitLoi(std::string_view contenu);
 /// them.
 std::string AvecLoisRemplacees(const std::string& message);
 
-/// The three numbers of a line, cut at its first two ";", speed and acceleration without their signs. A line without ";"
-/// reads as zeros.
+/// The three numbers of a line, cut at its first two ";", speed and acceleration without their signs. A line without
+/// ";" reads as zeros.
 PointLoi LitPointLoi(std::string_view ligne);

@@ -38,7 +38,7 @@ Etat EtatDe(const fs::path& chemin) {
 } // namespace
 
 fs::path CopieBase(const fs::path& chemin) {
-    const fs::path copie = fs::temp_directory_path() / ("velorin-" + std::to_string(std::random_device{}()) + ".Mdb");
+    fs::path copie = fs::temp_directory_path() / ("velorin-" + std::to_string(std::random_device{}()) + ".Mdb");
     const auto fin = std::chrono::steady_clock::now() + Attente;
     do {
         if (!EcritureEnCours(chemin)) {

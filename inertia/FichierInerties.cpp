@@ -21,7 +21,7 @@ public:
     std::string Suivante() {
         if (fini_) throw ErreurExecution(NumeroErreur::ContenuInvalide);
         const auto fin = reste_.find(Separateur);
-        const std::string cellule = Trim(reste_.substr(0, fin));
+        std::string cellule = Trim(reste_.substr(0, fin));
         fini_ = fin == std::string_view::npos;
         if (!fini_) reste_.remove_prefix(fin + 1);
         return cellule;
@@ -35,7 +35,7 @@ private:
 
 /// A text as a field holds it: a number, or the beginning of one.
 std::string LitNombre(Cellules& cellules) {
-    const std::string texte = cellules.Suivante();
+    std::string texte = cellules.Suivante();
     if (texte.find_first_not_of("0123456789+-.,eE") != std::string::npos)
         throw ErreurExecution(NumeroErreur::ContenuInvalide);
     return texte;

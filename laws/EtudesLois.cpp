@@ -118,10 +118,10 @@ std::optional<FauteLoi> ChercheFauteMouv() {
     if (S < 0.0 || S > 1.0) return FauteLoi{Texte(522) + " 0 <= C <=1", &DonneesEtude::SymetrieLoi};
     if (etude.donnees.ValeurDepart <= 0.0 && etude.donnees.ValeurFin <= 0.0)
         return FauteLoi{Texte(101) + " " + Texte(102), &DonneesEtude::ValeurDepart};
-    const auto incomplet =
-        LoiChoisieSpe() ? ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree,
-                                                        &DonneesEtude::PourcentageLoi})
-                        : ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree});
+    auto incomplet = LoiChoisieSpe()
+                         ? ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree,
+                                                         &DonneesEtude::PourcentageLoi})
+                         : ChercheIncomplet(champsMouv, {&DonneesEtude::AngleIndexage, &DonneesEtude::VitesseEntree});
     if (incomplet) return incomplet;
     if (LoiChoisieSpe() && etude.donnees.PourcentageLoi >= 100.0)
         return DonneesIncompletes(champsMouv, &DonneesEtude::AngleIndexage, &DonneesEtude::PourcentageLoi);
@@ -209,9 +209,9 @@ AvanceRapide AvanceDemandee() {
 }
 
 std::optional<FauteLoi> ChercheFauteRapide() {
-    const auto incomplet = ChercheIncomplet(
-        champsRapide, {&DonneesEtude::AngleIndexage, &DonneesEtude::AngleAvanceRapide, &DonneesEtude::ValeurFin,
-                       &DonneesEtude::SortieAvanceRapide, &DonneesEtude::VitesseEntree});
+    auto incomplet = ChercheIncomplet(champsRapide, {&DonneesEtude::AngleIndexage, &DonneesEtude::AngleAvanceRapide,
+                                                     &DonneesEtude::ValeurFin, &DonneesEtude::SortieAvanceRapide,
+                                                     &DonneesEtude::VitesseEntree});
     if (incomplet) return incomplet;
     if (!(etude.donnees.AngleAvanceRapide < etude.donnees.AngleIndexage))
         return DonneesIncompletes(champsRapide, &DonneesEtude::AngleIndexage, &DonneesEtude::AngleAvanceRapide);
@@ -247,9 +247,8 @@ constexpr ValeurLoi valeursLiquide[] = {
 };
 
 std::optional<FauteLoi> ChercheFauteLiquide() {
-    const auto incomplet =
-        ChercheIncomplet(champsLiquide, {&DonneesEtude::AngleIndexage, &DonneesEtude::ValeurFin,
-                                         &DonneesEtude::VitesseEntree, &DonneesEtude::ExcentriciteLiq});
+    auto incomplet = ChercheIncomplet(champsLiquide, {&DonneesEtude::AngleIndexage, &DonneesEtude::ValeurFin,
+                                                      &DonneesEtude::VitesseEntree, &DonneesEtude::ExcentriciteLiq});
     if (incomplet) return incomplet;
     // At 0.5 nothing is left for the deceleration.
     if (!(etude.donnees.ExcentriciteLiq < 0.5)) return FauteLoi{Texte(382), &DonneesEtude::ExcentriciteLiq};
@@ -276,8 +275,8 @@ constexpr ValeurLoi valeursDissyme[] = {coefAccel, coefVitesse, vitesseMaxi, acc
 constexpr double DonneesEtude::*deuxAngles[] = {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente};
 
 std::optional<FauteLoi> ChercheFauteDissyme() {
-    const auto incomplet = ChercheIncomplet(champsDissyme, {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente,
-                                                            &DonneesEtude::ValeurFin, &DonneesEtude::VitesseEntree});
+    auto incomplet = ChercheIncomplet(champsDissyme, {&DonneesEtude::AngleMontee, &DonneesEtude::AngleDescente,
+                                                      &DonneesEtude::ValeurFin, &DonneesEtude::VitesseEntree});
     if (incomplet) return incomplet;
     if (!PrepareMSHDissyme(etude.donnees.AngleDescente / etude.donnees.AngleMontee).existe)
         return FauteLoi{Texte(389), &DonneesEtude::AngleDescente};

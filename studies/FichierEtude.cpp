@@ -118,11 +118,10 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
 std::optional<std::filesystem::path> DonneesDepart() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
-    const auto chemin =
-        LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
-                                       CheminAppli / NomDossierEtudes,
-                                       NomSansExtension(etude.donnees.NomFichier) + "." + type->extension,
-                                       {FiltreEtude(*type)}});
+    auto chemin = LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
+                                                 CheminAppli / NomDossierEtudes,
+                                                 NomSansExtension(etude.donnees.NomFichier) + "." + type->extension,
+                                                 {FiltreEtude(*type)}});
     if (!chemin || chemin->empty()) return {};
     EcritFichierEntier(*chemin, ComposeFichierEtude(*type, SeparateurRegional()));
     etude.donnees.NomFichier = chemin->filename().string();

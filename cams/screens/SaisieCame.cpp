@@ -5,6 +5,7 @@
 #include "cams/screens/PanneauPesanteur.h"
 #include "data/Textes.h"
 #include "data/TextesSaisie.h"
+#include "data/Unites.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/CesseEcoute.h"
@@ -61,6 +62,17 @@ QLineEdit* SaisieCame::ChampDe(std::string_view nom) const {
     for (const auto* panneau : panneaux_)
         if (auto* champ = panneau->ChampDe(nom)) return champ;
     return nullptr;
+}
+
+bool SaisieCame::PrendInertie(double inertie) {
+    for (const ChampEtude& champ : description_.champs) {
+        QLineEdit* zone = champ.unite == UniteKgM2 ? ChampDe(champ.nom) : nullptr;
+        if (zone == nullptr) continue;
+        zone->setText(Q(StrTrim(inertie)));
+        zone->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    return false;
 }
 
 void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, QTabWidget* feuilles) {

@@ -36,6 +36,8 @@ public:
     bool PrendSaisie() override;
     bool MetAJour() override;
     void LitSaisie() override { LitDonnees(); }
+    /// Into the field of the first scalar that is an inertia.
+    bool PrendInertie(double inertie) override;
 
 protected:
     /// @param description must outlive the screen (a constant).

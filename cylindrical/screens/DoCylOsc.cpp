@@ -27,13 +27,6 @@ DoCylOsc::DoCylOsc(QWidget* parent) : SaisieCame(description, parent) {
     Compose({EmpilePanneaux({Panneau("Picture2"), Panneau("Picture3"), schema}, 2)});
 }
 
-bool DoCylOsc::PrendInertie(double inertie) {
-    QLineEdit* champ = ChampDe("InertieMasseA");
-    champ->setText(Q(StrTrim(inertie)));
-    champ->setFocus(Qt::OtherFocusReason);
-    return true;
-}
-
 void DoCylOsc::ProposeDonnees() {
     const double proposee = ProposeCoteA();
     if (etude.donnees.CoteA == proposee) return;

@@ -10,8 +10,6 @@ public:
     /// Opens on the study record: empty for a new study, filled with the data of one that was read.
     explicit DoCylOsc(QWidget* parent = nullptr);
 
-    bool PrendInertie(double inertie) override;
-
 protected:
     /// Offers the distance a that suits the arm and its swing.
     void ProposeDonnees() override;

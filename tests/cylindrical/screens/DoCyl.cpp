@@ -122,3 +122,12 @@ TEST_F(SaisieCylOsc, TheDistanceThatSuitsTheArmIsOffered) {
     EXPECT_NEAR(etude.resultats.Points[90].Rayon, 0, 1e-12);
     EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(0, 3), "180") << "angles, and no radii";
 }
+
+TEST_F(SaisieCylOsc, AnInertiaThatIsHandedOverStandsInItsField) {
+    etude.donnees.TypeCame = "Oscillation";
+    SuitReturn({"Text1", "Text2"});
+    EXPECT_TRUE(ecran->PrendInertie(0.0345));
+    EXPECT_TRUE(AFocus("Text6"));
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(etude.donnees.InertieMasseA, 0.0345);
+}

@@ -1,10 +1,18 @@
 #include "studies/TypesEtude.h"
 
+#include "outils/Catalogue.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 
-TEST(TypesEtude, NumbersAtFaultAreToldOneAfterTheOther) {
+namespace {
+
+class TypesEtudes : public AvecCatalogue {};
+
+} // namespace
+
+TEST_F(TypesEtudes, NumbersAtFaultAreToldOneAfterTheOther) {
     const std::pair<const char*, std::vector<std::pair<std::string, int>>> cas[] = {
         {"Angulaire", {{"CoteA", 197}, {"RayonO1P", 202}, {"RayonGalet", 201}, {"VitesseCame", 200}}},
         {"Lineaire", {{"RayonGalet", 201}, {"VitesseCame", 200}}},
@@ -29,7 +37,7 @@ TEST(TypesEtude, NumbersAtFaultAreToldOneAfterTheOther) {
     etude = Etude{};
 }
 
-TEST(TypesEtude, FiltersOfTheFileDialogues) {
+TEST_F(TypesEtudes, FiltersOfTheFileDialogues) {
     for (const auto& [nom, montre, motif] :
          {std::array{"Angulaire", "*.ang", "*.Ang"}, {"Oscillation", "*.Osc", "*.Osc"}}) {
         const FiltreFichier filtre = FiltreEtude(*TrouveType(nom));

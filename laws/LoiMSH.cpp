@@ -1,8 +1,8 @@
 // The return of the asymmetric law, in its own variable z from 0 (top) to 1, with e = return angle / rise angle:
 // quarter waves of one amplitude k, which is the acceleration -Ca of the rise's end per unit of the return, k = Ca e²,
-// so that it does not jump at the top. Its parts, of 2 r, 1 - 4 r, 3 r / 2 and r / 2 end at b1 = 2 r, b2 = 1 - 2 r, b3
-// = 1
-// - r / 2, 1:
+// so that it does not jump at the top. Four parts, with the lengths 2 r, 1 - 4 r, 3 r / 2 and r / 2, end at
+//
+//     b1 = 2 r,   b2 = 1 - 2 r,   b3 = 1 - r / 2,   1:
 //
 //     0..b1    a = -k cos(Pi z / (4 r))               the speed grows to -V, V = 4 k r / Pi
 //     b1..b2   a = 0                                  constant speed

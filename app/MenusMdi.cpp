@@ -155,7 +155,7 @@ void MdiCamA::ConstruitCommande(QMenu& menu, const EntreeMenu& entree) {
 
 void MdiCamA::ConstruitLangues(QMenu& menu) {
     auto* groupe = new QActionGroup(&menu);
-    for (const std::string& langue : LanguesCompletes(LaBase)) {
+    for (const std::string& langue : LanguesCompletes()) {
         QAction* action = AjouteAction(menu, NomLangueMenu, Q(langue));
         action->setCheckable(true);
         groupe->addAction(action);

@@ -7,8 +7,10 @@
 #include <filesystem>
 #include <vector>
 
+class BoutonImage;
 class QAction;
-class QPushButton;
+class QHBoxLayout;
+class QLabel;
 class QVBoxLayout;
 struct ChoixEtude;
 
@@ -27,11 +29,16 @@ signals:
     void FichierChoisi(const std::filesystem::path& chemin);
 
 private:
-    QWidget* FaitEtudes();
+    void ConstruitEtudes();
     QWidget* FaitFichiers(const std::vector<std::filesystem::path>& exemples,
                           const std::vector<std::filesystem::path>& recents, const std::vector<QAction*>& actions);
     void AjouteFichiers(QVBoxLayout& colonne, const char* nom, int titre,
                         const std::vector<std::filesystem::path>& fichiers);
+
+    QHBoxLayout* rangee_ = new QHBoxLayout;
+    QLabel* titre_;
+    std::vector<BoutonImage*> etudes_; ///< in the order of `LesChoixEtude`
+    QWidget* fichiers_ = nullptr;
 };
 
 /// The study files that are delivered with the program, by name; those that can be calculated.

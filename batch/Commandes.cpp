@@ -64,10 +64,10 @@ void OuvreCatalogue(const LigneCommande& ligne) {
     LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? CheminAppli / NomBase : std::filesystem::path(ligne.base),
                                 MotDePasseBase, BaseDonnees::Usage::Lecture);
     LangueTravail = ligne.langue.empty() ? LitConfiguration(CheminAppli / NomConfiguration).langue : ligne.langue;
-    const auto langues = LanguesCompletes(LaBase);
+    ChargeTextes(LaBase);
+    const auto& langues = LanguesCompletes();
     if (!ligne.langue.empty() && std::find(langues.begin(), langues.end(), ligne.langue) == langues.end())
         throw UsageIncorrect("the catalogue has no language '" + ligne.langue + "'");
-    ChargeTextes(LaBase);
 }
 
 /// One line, though the texts may not be there yet.

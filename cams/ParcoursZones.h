@@ -18,9 +18,12 @@ inline bool LoiDeFichier() {
 
 /// What a zone gives to each of its points.
 struct Parcours {
-    double course; ///< signed travel, degrees or mm
-    double depart; ///< value at its start: the end of the zone before
-    double T;      ///< duration, s
+    double course;  ///< signed travel, degrees or mm
+    double radians; ///< that of an arm
+    double vitesse; ///< travel / 1000 over the duration: of one in mm the mean speed, m/s
+    double accel;   ///< that over the duration
+    double depart;  ///< value at its start: the end of the zone before
+    double T;       ///< duration, s
 };
 
 /// Where a point stands in the tables.
@@ -95,8 +98,10 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
         if (z == 1) etude.donnees.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;
         const double depart = etude.donnees.Zones[z - 1].*marche.valeurFinale;
         const double origine = marche.coursesSuivies ? depart : zone.*marche.valeurDepart;
-        const Parcours parcours{CourseSignee(origine, zone.*marche.valeurFinale), depart, zone.Temps};
+        const double course = CourseSignee(origine, zone.*marche.valeurFinale);
         if (zone.Temps == 0.0) throw ErreurExecution(NumeroErreur::DivisionParZero);
+        const double vitesse = (course / 1000.0) / zone.Temps;
+        const Parcours parcours{course, course * Pi / 180.0, vitesse, vitesse / zone.Temps, depart, zone.Temps};
         // The last point of a zone is written again by the first of the next.
         for (long j = 0; static_cast<double>(j) <= zone.AngleCame; ++j) {
             const long k = decalage + j;

@@ -6,6 +6,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # This compiler sees overlaps in joined strings that are not there.
   target_compile_options(velorin_drapeaux INTERFACE -Wno-restrict)
 endif()
+# A release is small, for a quick start in little memory: what no program calls is left out, and only the calculations,
+# where the time goes, are unrolled (see velorin_calc).
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+target_compile_options(velorin_drapeaux INTERFACE $<$<CONFIG:Release>:-ffunction-sections -fdata-sections>)
+target_link_options(velorin_drapeaux INTERFACE $<$<CONFIG:Release>:-Wl,--gc-sections>)
 if(VELORIN_AVERTISSEMENTS_FATALS)
   target_compile_options(velorin_drapeaux INTERFACE -Werror)
 endif()

@@ -38,7 +38,7 @@ void CalculeFlancs(double L) {
 
 /// Differences per mm of arc, towards the next point; the last point repeats the value of the first.
 void CalculeDifferences(double L) {
-    const auto derive = [L](double ici, double suivant) { return (suivant - ici) / L; };
+    const auto derive = [L](auto ici, auto suivant) { return (suivant - ici) / L; };
     PointProfil& fin = etude.resultats.Profil[etude.resultats.NombrePoints];
     const PointProfil& debut = etude.resultats.Profil[0];
     CalculePremieresDifferences(derive);

@@ -15,31 +15,37 @@ double VitessePeripherique() {
     return 2.0 * etude.donnees.VitesseCame * Pi / 60.0 * etude.donnees.DiametreCame / 2.0 / 1000.0;
 }
 
-/// Roller speed in Tr/min, rounded down. @param V peripheral speed of the cam, m/s
-double VitesseGalet(double V, double vitesseRayon) {
-    const double vitesse = std::sqrt(V * V + vitesseRayon * vitesseRayon);
-    return Int(Divise((60.0 / (2.0 * Pi)) * vitesse, etude.donnees.RayonGalet / 1000.0));
-}
+/// The roller of a study, once for all its points.
+struct Galet {
+    double V = VitessePeripherique();                 ///< m/s
+    double rayon = etude.donnees.RayonGalet / 1000.0; ///< m
+    double toursParMinute = 60.0 / (2.0 * Pi);        ///< of one radian a second
+
+    /// Its speed in Tr/min, rounded down.
+    double Vitesse(double vitesseRayon) const {
+        const double vitesse = std::sqrt(V * V + vitesseRayon * vitesseRayon);
+        return Int(Divise(toursParMinute * vitesse, rayon));
+    }
+};
 
 /// A row of the motion of a zone, from its row of the unit law.
 PointLoi LigneMouvement(const PointLoi& unite, const Parcours& zone) {
-    const double vitesse = (zone.course / 1000.0) / zone.T;
-    return {zone.depart + zone.course * unite.Course, vitesse * unite.Vitesse, vitesse / zone.T * unite.Accel};
+    return {zone.depart + zone.course * unite.Course, zone.vitesse * unite.Vitesse, zone.accel * unite.Accel};
 }
 
 } // namespace
 
 void MouvementCyl() {
     etude.durables.VitesseGaletMax = 0;
-    const double V = VitessePeripherique();
+    const Galet galet;
     DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, LoiDeFichier(), true, true},
-                 [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                 [galet](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      const PointLoi m = LigneMouvement(unite, zone);
                      p.Rayon = m.Course;
                      p.VitesseRayon = m.Vitesse;
                      p.AccelRayon = m.Accel;
-                     p.VitesseGalet = VitesseGalet(V, p.VitesseRayon);
+                     p.VitesseGalet = galet.Vitesse(p.VitesseRayon);
                  });
 }
 
@@ -47,9 +53,9 @@ void MouvementCylOsc() {
     etude.durables.VitesseGaletMax = 0;
     etude.durables.LoiVitesseMax = 0;
     etude.durables.LoiAccelMax = 0;
-    const double V = VitessePeripherique();
+    const Galet galet;
     DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), true, true},
-                 [V](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
+                 [galet](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      PointLoi& m = etude.resultats.Mouvement[lieu.k];
                      m = LigneMouvement(unite, zone);
@@ -59,7 +65,7 @@ void MouvementCylOsc() {
                      p.Rayon = etude.donnees.RayonO1P * std::sin(m.Course * Pi / 180.0);
                      p.VitesseRayon = etude.donnees.RayonO1P * m.Vitesse / 1000.0;
                      p.AccelRayon = etude.donnees.RayonO1P * m.Accel / 1000.0;
-                     p.VitesseGalet = VitesseGalet(V, p.VitesseRayon);
+                     p.VitesseGalet = galet.Vitesse(p.VitesseRayon);
                  });
     // The cam is as thick as the roller's travel and one roller, with 5 mm at either edge.
     const double X = AngleBrasExtreme() * Pi / 180.0;

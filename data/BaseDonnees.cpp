@@ -160,6 +160,7 @@ BaseDonnees BaseDonnees::OuvreFichierBase(const std::filesystem::path& chemin, c
         if (sqlite3_exec(base.base_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) SignaleErreur(base.base_, nom);
     };
     execute(Chiffrement);
+    execute("PRAGMA cache_size = 8");
     if (!exclusif) execute("PRAGMA query_only = ON");
     if (exclusif) {
         if (sqlite3_db_readonly(base.base_, "main") == 1) throw ErreurExecution(NumeroErreur::AccesFichier, nom);
@@ -214,7 +215,7 @@ JeuEnregistrements::JeuEnregistrements(sqlite3* base, const std::string& table) 
         std::vector<Valeur> ligne;
         ligne.reserve(champs_.size());
         for (int c = 0; c < colonnes; ++c) ligne.push_back(LitColonne(lecture, c));
-        index_.emplace(ligne[positionCle_], lignes_.size());
+        index_.emplace_hint(index_.end(), ligne[positionCle_], lignes_.size()); // mostly written in their order
         lignes_.push_back(std::move(ligne));
     }
 }

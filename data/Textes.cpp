@@ -8,6 +8,19 @@ std::string LangueTravail;
 namespace {
 
 std::vector<std::string> textes;
+std::vector<std::string> languesCompletes;
+
+/// Fields without a null in any record.
+std::vector<std::string> ChampsComplets(JeuEnregistrements& idiomas) {
+    std::vector<bool> complets(static_cast<std::size_t>(idiomas.NombreChamps()), true);
+    for (idiomas.VaAuPremier(); !idiomas.FinFichier(); idiomas.VaAuSuivant())
+        for (long champ = PremiereLangue; champ < idiomas.NombreChamps(); ++champ)
+            if (EstNul(idiomas.Champ(champ))) complets[static_cast<std::size_t>(champ)] = false;
+    std::vector<std::string> langues;
+    for (long champ = PremiereLangue; champ < idiomas.NombreChamps(); ++champ)
+        if (complets[static_cast<std::size_t>(champ)]) langues.push_back(idiomas.NomChamp(champ));
+    return langues;
+}
 
 } // namespace
 
@@ -29,6 +42,7 @@ void ChargeTextes(BaseDonnees& base) {
         nouveaux[static_cast<std::size_t>(i)] = EnTexte(idiomas.Champ(colonne));
     }
     textes = std::move(nouveaux);
+    languesCompletes = ChampsComplets(idiomas);
 }
 
 const std::string& Texte(int numero) {
@@ -41,14 +55,6 @@ std::int16_t NombreTextes() {
     return static_cast<std::int16_t>(textes.empty() ? 0 : textes.size() - 1);
 }
 
-std::vector<std::string> LanguesCompletes(BaseDonnees& base) {
-    JeuEnregistrements idiomas = base.OuvreTable("Idiomas");
-    std::vector<std::string> langues;
-    for (long champ = PremiereLangue; champ < idiomas.NombreChamps(); ++champ) {
-        bool complete = true;
-        for (idiomas.VaAuPremier(); complete && !idiomas.FinFichier(); idiomas.VaAuSuivant())
-            complete = !EstNul(idiomas.Champ(champ));
-        if (complete) langues.push_back(idiomas.NomChamp(champ));
-    }
-    return langues;
+const std::vector<std::string>& LanguesCompletes() {
+    return languesCompletes;
 }

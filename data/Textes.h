@@ -26,8 +26,8 @@ std::int16_t NombreTextes();
 /// Name of the working language, which is also the name of its column.
 extern std::string LangueTravail;
 
-/// The languages of which every text is there, in column order.
-std::vector<std::string> LanguesCompletes(BaseDonnees& base);
+/// The languages of which every text was there when the texts were loaded, in column order.
+const std::vector<std::string>& LanguesCompletes();
 
 /// The meaning of a run-time failure in one line, and what it is about.
 std::string SensErreur(const ErreurExecution& erreur);

@@ -10,12 +10,6 @@
 
 namespace {
 
-/// Difference of two neighbours against the cam angle. The division by `PointsParDegre` is required as it stands, so
-/// that this is the true derivative with one point per degree only.
-double Derive(double ici, double suivant) {
-    return (ici - suivant) * 180.0 / etude.donnees.PointsParDegre / Pi;
-}
-
 void CalculeAnglesTangents() {
     etude.resultats.AngleTangentMax = 0;
     const long N = etude.resultats.NombrePoints;
@@ -47,13 +41,18 @@ void CalculeDifferences() {
     // Index of the last degree, not of the last point: with more than one point per degree the closing value lands in
     // mid-table and the last point keeps 0, as required.
     const long M = Entier16(static_cast<double>(etude.resultats.NombrePoints) / etude.donnees.PointsParDegre);
-    CalculePremieresDifferences(Derive);
+    // The division by `PointsParDegre` is required as it stands, so that this is the true derivative against the cam
+    // angle with one point per degree only.
+    const auto derive = [p = static_cast<double>(etude.donnees.PointsParDegre), pi = Pi](auto ici, auto suivant) {
+        return (ici - suivant) * 180.0 / p / pi;
+    };
+    CalculePremieresDifferences(derive);
     PointProfil& fin = etude.resultats.Profil[M];
     const PointProfil& debut = etude.resultats.Profil[0];
     fin.DeriveeRayon = debut.DeriveeRayon;
     fin.YExterieur1 = debut.YExterieur1;
     fin.YInterieur1 = debut.YInterieur1;
-    CalculeSecondesDifferences(Derive);
+    CalculeSecondesDifferences(derive);
     fin.Derivee2Rayon = debut.Derivee2Rayon;
     fin.YExterieur2 = debut.YExterieur2;
     fin.YInterieur2 = debut.YInterieur2;

@@ -30,45 +30,51 @@ void CalculeVitesseGalet(Point& p) {
         Int(Divise((p.Rayon - etude.donnees.RayonGalet) * etude.donnees.VitesseCame, etude.donnees.RayonGalet));
 }
 
+/// The arm of a study, once for all its points.
+struct Bras {
+    double a = etude.donnees.CoteA / 1000.0, b = etude.donnees.CoteB / 1000.0; ///< its pivot, m
+    double L = etude.donnees.RayonO1P / 1000.0;                                ///< pivot to roller centre, m
+    double A = 0.001 * etude.donnees.CoteA; ///< to the force point, m: CoteA in place of an arm length, on purpose
+};
+
 /// Speed and acceleration of the radius, from those of the arm. phi is the direction of O1-P; metres and seconds.
-void CalculeVitesseRayon(Point& p, const PointLoi& m) {
+void CalculeVitesseRayon(Point& p, const PointLoi& m, const Bras& bras) {
     const double phi = (etude.donnees.AnglePO1A + p.AngleBras) * Pi / 180.0;
-    const double a = etude.donnees.CoteA / 1000.0, b = etude.donnees.CoteB / 1000.0;
-    const double L = etude.donnees.RayonO1P / 1000.0, R = p.Rayon / 1000.0;
+    const double a = bras.a, b = bras.b, L = bras.L, R = p.Rayon / 1000.0;
     const double s = std::sin(phi), c = std::cos(phi);
     const double V = m.Vitesse, A = m.Accel;
     p.VitesseRayon = V * ((c * b - s * a) * (-Divise(L, R)));
     p.AccelRayon = (L / R) * (s * (V * V * b + A * a) + c * (V * V * a - A * b)) - p.VitesseRayon * p.VitesseRayon / R;
 }
 
-/// The point on the arm, its speed and its acceleration. CoteA stands here in place of an arm length, on purpose.
-void CalculePointA(Point& p, const PointLoi& m) {
+/// The point on the arm, its speed and its acceleration.
+void CalculePointA(Point& p, const PointLoi& m, const Bras& bras) {
     const double phi2 = p.AngleBras * Pi / 180.0;
     const double s2 = std::sin(phi2), c2 = std::cos(phi2);
     const double V = m.Vitesse, A = m.Accel;
     p.XA = c2 * etude.donnees.CoteA;
     p.YA = s2 * etude.donnees.CoteA;
-    p.VxA = -0.001 * etude.donnees.CoteA * V * s2;
-    p.VyA = 0.001 * etude.donnees.CoteA * V * c2;
-    p.VA = 0.001 * etude.donnees.CoteA * V;
-    p.AxA = -0.001 * etude.donnees.CoteA * (s2 * A + c2 * V * V);
-    p.AyA = 0.001 * etude.donnees.CoteA * (c2 * A - s2 * V * V);
-    p.AA = 0.001 * etude.donnees.CoteA * std::sqrt(A * A + V * V * V * V);
+    p.VxA = -bras.A * V * s2;
+    p.VyA = bras.A * V * c2;
+    p.VA = bras.A * V;
+    p.AxA = -bras.A * (s2 * A + c2 * V * V);
+    p.AyA = bras.A * (c2 * A - s2 * V * V);
+    p.AA = bras.A * std::sqrt(A * A + V * V * V * V);
 }
 
-void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcours& zone) {
-    const double course = zone.course, T = zone.T;
-    m.Course = course * unite.Course + zone.depart;
-    m.Vitesse = unite.Vitesse * (course * Pi / 180.0) / T;
-    m.Accel = unite.Accel * (course * Pi / 180.0) / (T * T);
+void CalculePointBras(Point& p, PointLoi& m, const PointLoi& unite, const Parcours& zone, const Bras& bras) {
+    const double T = zone.T;
+    m.Course = zone.course * unite.Course + zone.depart;
+    m.Vitesse = unite.Vitesse * zone.radians / T;
+    m.Accel = unite.Accel * zone.radians / (T * T);
     if (std::abs(m.Course) > etude.durables.LoiCourseMax) etude.durables.LoiCourseMax = std::abs(m.Course);
     SuitMaximum(m.Vitesse, p.Angle, etude.durables.LoiVitesseMax, etude.durables.LoiVitesseMaxAngle);
     SuitMaximum(m.Accel, p.Angle, etude.durables.LoiAccelMax, etude.durables.LoiAccelMaxAngle);
     p.AngleBras = m.Course;
     p.Rayon = RayonGaletCentre(etude.donnees.CoteA, etude.donnees.CoteB, etude.donnees.RayonO1P, p.AngleBras,
                                etude.donnees.AnglePO1A);
-    CalculeVitesseRayon(p, m);
-    CalculePointA(p, m);
+    CalculeVitesseRayon(p, m, bras);
+    CalculePointA(p, m, bras);
 }
 
 void CalculePointLineaire(Point& p, const PointLoi& unite, const Parcours& zone) {
@@ -110,11 +116,12 @@ namespace {
 
 void DerouleBras(LoisZones* lois) {
     const MaximaDurables maxima;
+    const Bras bras;
     PointsTropPetits tropPetits;
     DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false, lois},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
-                     CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone);
+                     CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone, bras);
                      tropPetits.Controle(p.Rayon, lieu.k);
                      CalculeVitesseGalet(p);
                  });

@@ -27,6 +27,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setStyle(QStringLiteral("Fusion")); // the same on every desktop; its palette is light or dark as the system's
     setWindowIcon(IconeBarre(applicationName()));
     installEventFilter(this);
+    // Listing the fonts of the system takes as long as opening the catalogue: they go side by side.
+    polices_ = std::async(std::launch::async, [] { QFontDatabase::hasFamily(QString()); });
 }
 
 bool Application::eventFilter(QObject* objet, QEvent* evenement) {

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QFont>
 
+#include <future>
+
 class Application : public QApplication {
     Q_OBJECT
 
@@ -16,6 +18,9 @@ public:
 protected:
     /// The wheel scrolls the page under a list or a bar for entries that has no focus, and leaves what stands there.
     bool eventFilter(QObject* objet, QEvent* evenement) override;
+
+private:
+    std::future<void> polices_;
 };
 
 /// `base` when all its figures have one width, otherwise the fixed-pitch font of the system in the same size: numbers

@@ -4,8 +4,8 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPixmap>
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -30,31 +30,40 @@ QSize BoutonImage::sizeHint() const {
             taille_.height() + 2 * fontMetrics().lineSpacing() + 3 * Marge + 2 * Souleve};
 }
 
-void BoutonImage::DessineImage(QPainter& peintre, const QRectF& cadre) {
-    if (isEnabled()) {
-        DessinQt dessin(peintre, cadre, palette());
-        dessine_(dessin);
-        return;
-    }
-    // Faded as a whole: shapes faded one by one would show through each other.
-    QPixmap image((cadre.size() * devicePixelRatioF()).toSize());
-    image.setDevicePixelRatio(devicePixelRatioF());
-    image.fill(palette().color(QPalette::Base));
-    QPainter surImage(&image);
+const QPixmap& BoutonImage::Image(const QSizeF& taille) {
+    const double finesse = devicePixelRatioF();
+    if (taille == tailleImage_ && image_.devicePixelRatio() == finesse) return image_;
+    QImage surface(QSize(static_cast<int>(std::ceil(taille.width() * finesse)),
+                         static_cast<int>(std::ceil(taille.height() * finesse))),
+                   QImage::Format_RGB32);
+    surface.setDevicePixelRatio(finesse);
+    surface.fill(palette().color(QPalette::Base));
     {
-        DessinQt dessin(surImage, QRectF(QPointF(0, 0), cadre.size()), palette());
+        QPainter peintre(&surface);
+        DessinQt dessin(peintre, QRectF(QPointF(0, 0), taille), palette());
         dessine_(dessin);
     }
-    surImage.end();
-    peintre.save();
-    peintre.setOpacity(OpaciteInactif);
-    peintre.drawPixmap(cadre.topLeft(), image);
-    peintre.restore();
+    // A copy: what was painted on keeps the painter's buffers, larger than the picture itself.
+    image_ = QPixmap::fromImage(surface.copy());
+    tailleImage_ = taille;
+    return image_;
+}
+
+QRectF BoutonImage::Carte(const QSize& taille) {
+    return QRectF(QPointF(0, 0), taille).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
+}
+
+QRectF BoutonImage::CadreImage(const QRectF& carte) const {
+    return {carte.x() + Marge, carte.y() + Marge, carte.width() - 2 * Marge, taille_.height() - 1.0 * Marge};
+}
+
+void BoutonImage::Prepare() {
+    Image(CadreImage(Carte({taille_.width() + 2 * Souleve, taille_.height()})).size());
 }
 
 void BoutonImage::paintEvent(QPaintEvent*) {
     const bool leve = isEnabled() && hasFocus() && !isDown();
-    QRectF carte = QRectF(rect()).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
+    QRectF carte = Carte(size());
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     if (leve) {
@@ -69,9 +78,10 @@ void BoutonImage::paintEvent(QPaintEvent*) {
     peintre.setBrush(palette().color(QPalette::Base));
     peintre.drawRoundedRect(carte, RayonCoin, RayonCoin);
 
-    DessineImage(peintre,
-                 QRectF(carte.x() + Marge, carte.y() + Marge, carte.width() - 2 * Marge, taille_.height() - Marge));
+    // Faded as a whole: shapes faded one by one would show through each other.
     if (!isEnabled()) peintre.setOpacity(OpaciteInactif);
+    const QRectF cadre = CadreImage(carte);
+    peintre.drawPixmap(cadre.topLeft(), Image(cadre.size()));
     const double haut = carte.y() + taille_.height() + Marge;
     peintre.setPen(palette().color(QPalette::Active, QPalette::Text));
     peintre.drawText(QRectF(carte.x() + Marge, haut, carte.width() - 2 * Marge, carte.bottom() - haut),
@@ -104,4 +114,9 @@ void BoutonImage::focusInEvent(QFocusEvent* evenement) {
 void BoutonImage::focusOutEvent(QFocusEvent* evenement) {
     QAbstractButton::focusOutEvent(evenement);
     emit Leve(false);
+}
+
+void BoutonImage::changeEvent(QEvent* evenement) {
+    QAbstractButton::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange || evenement->type() == QEvent::FontChange) tailleImage_ = {};
 }

@@ -4,6 +4,7 @@
 #include "platform/Dessin.h"
 
 #include <QAbstractButton>
+#include <QPixmap>
 
 #include <functional>
 
@@ -13,6 +14,9 @@ class BoutonImage : public QAbstractButton {
 public:
     /// @param taille room of the drawing, pixels; the text stands below it
     BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent = nullptr);
+
+    /// Draws the picture ahead of its first showing, in the size that the button asks for.
+    void Prepare();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -27,10 +31,17 @@ protected:
     void leaveEvent(QEvent* evenement) override;
     void focusInEvent(QFocusEvent* evenement) override;
     void focusOutEvent(QFocusEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
 private:
-    void DessineImage(QPainter& peintre, const QRectF& cadre);
+    /// The card of a button of this size, lying down.
+    static QRectF Carte(const QSize& taille);
+    QRectF CadreImage(const QRectF& carte) const;
+    /// The drawing on the sheet's colour; drawn anew only when its size or the colours have changed.
+    const QPixmap& Image(const QSizeF& taille);
 
     std::function<void(Dessin&)> dessine_;
     QSize taille_;
+    QPixmap image_;
+    QSizeF tailleImage_;
 };

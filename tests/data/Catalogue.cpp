@@ -51,7 +51,8 @@ TEST(Catalogue, EveryTextIsThereInThreeLanguagesAndWithinItsLength) {
     const DossierTemporaire dossier;
     FabriqueBase(tables, dossier / NomBase);
     BaseDonnees base = BaseDonnees::Ouvre(dossier / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture);
-    EXPECT_EQ(LanguesCompletes(base), (std::vector<std::string>{"Français", "Español", "English"}));
+    ChargeTextes(base);
+    EXPECT_EQ(LanguesCompletes(), (std::vector<std::string>{"Français", "Español", "English"}));
     JeuEnregistrements idiomas = base.OuvreTable("Idiomas");
     EXPECT_GE(idiomas.NombreEnregistrements(), 684);
     for (long numero = 1; !idiomas.FinFichier(); idiomas.VaAuSuivant(), ++numero) {

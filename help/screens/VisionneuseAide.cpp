@@ -30,6 +30,7 @@ namespace {
 
 constexpr QSize TailleFenetre(1080, 780);
 constexpr int LargeurSommaire = 300;
+constexpr int MargeTitre = 18;  // pixels
 constexpr int MargePage = 14;   // pixels
 constexpr int MargeCellule = 5; // pixels
 constexpr int RoleNom = Qt::UserRole;
@@ -39,6 +40,25 @@ constexpr QColor CouleurTrouve(255, 200, 0, 120);
 QColor Melange(const QColor& a, const QColor& b, double partB) {
     const auto mele = [partB](int x, int y) { return static_cast<int>(x + (y - x) * partB); };
     return {mele(a.red(), b.red()), mele(a.green(), b.green()), mele(a.blue(), b.blue())};
+}
+
+void HabilleTable(QTextTable& table, const QColor& lignes, const QColor& tete) {
+    QTextTableFormat format = table.format();
+    format.setBorder(1);
+    format.setBorderCollapse(true);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderBrush(lignes);
+    format.setCellPadding(MargeCellule);
+    format.setCellSpacing(0);
+    format.setTopMargin(MargeCellule);
+    format.setBottomMargin(MargePage);
+    table.setFormat(format);
+    for (int colonne = 0; colonne < table.columns(); ++colonne) {
+        QTextTableCell cellule = table.cellAt(0, colonne);
+        QTextCharFormat formatTete = cellule.format();
+        formatTete.setBackground(tete);
+        cellule.setFormat(formatTete);
+    }
 }
 
 } // namespace
@@ -66,6 +86,7 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     connect(page_, &QTextBrowser::sourceChanged, this, &VisionneuseAide::PageChangee);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     RemplitSommaire();
+    page_->setFocus();
     TientSurEcran(*this, TailleFenetre);
 }
 
@@ -188,42 +209,50 @@ void VisionneuseAide::PageChangee() {
         if ((*entree)->data(0, RoleNom).toString() == Page()) sommaire_->setCurrentItem(*entree);
 }
 
-/// Tables get lines and a head of their own, pictures a size that fits: the marks of a page say neither.
+/// What the marks of a page do not say: lines and a head for tables, room around headings, formulas set off, pictures
+/// that fit.
 void VisionneuseAide::Habille() {
     const QColor fond = palette().color(QPalette::Base), encre = palette().color(QPalette::Text);
-    for (QTextFrame* cadre : page_->document()->rootFrame()->childFrames()) {
-        auto* table = qobject_cast<QTextTable*>(cadre);
-        if (table == nullptr) continue;
-        QTextTableFormat format = table->format();
-        format.setBorder(1);
-        format.setBorderCollapse(true);
-        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-        format.setBorderBrush(Melange(fond, encre, 0.35));
-        format.setCellPadding(MargeCellule);
-        format.setCellSpacing(0);
-        table->setFormat(format);
-        for (int colonne = 0; colonne < table->columns(); ++colonne) {
-            QTextTableCell cellule = table->cellAt(0, colonne);
-            QTextCharFormat tete = cellule.format();
-            tete.setBackground(Melange(fond, encre, 0.08));
-            cellule.setFormat(tete);
+    const QColor teinte = Melange(fond, encre, 0.08);
+    for (QTextFrame* cadre : page_->document()->rootFrame()->childFrames())
+        if (auto* table = qobject_cast<QTextTable*>(cadre)) HabilleTable(*table, Melange(fond, encre, 0.35), teinte);
+    for (QTextBlock bloc = page_->document()->begin(); bloc.isValid(); bloc = bloc.next()) {
+        QTextBlockFormat format = bloc.blockFormat();
+        if (format.headingLevel() > 1) {
+            format.setTopMargin(MargeTitre);
+            format.setBottomMargin(MargeCellule);
+        } else if (format.hasProperty(QTextFormat::BlockCodeFence)) {
+            format.setBackground(teinte);
+            format.setLeftMargin(MargePage);
+        } else {
+            continue;
         }
+        QTextCursor(bloc).setBlockFormat(format);
     }
     AjusteImages();
 }
 
+/// Gives each picture the width of the page where it is wider: drawn anew by it, since the page itself would leave
+/// pixels out.
 void VisionneuseAide::AjusteImages() {
+    QTextDocument& document = *page_->document();
     const int place = page_->viewport()->width() - 2 * MargePage;
-    for (QTextBlock bloc = page_->document()->begin(); bloc.isValid(); bloc = bloc.next())
+    for (QTextBlock bloc = document.begin(); bloc.isValid(); bloc = bloc.next())
         for (auto morceau = bloc.begin(); !morceau.atEnd(); ++morceau) {
             QTextImageFormat format = morceau.fragment().charFormat().toImageFormat();
             if (!format.isValid()) continue;
-            const auto image = page_->loadResource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
+            const QString nom = format.name().section('?', 0, 0);
+            const auto image = document.resource(QTextDocument::ImageResource, QUrl(nom)).value<QPixmap>();
             const int largeur = std::min(image.width(), place);
             if (image.isNull() || qRound(format.width()) == largeur) continue;
+            const QString reduite = nom + "?" + QString::number(largeur);
+            const QPixmap pixels = image.scaledToWidth(std::min(image.width(), qRound(largeur * devicePixelRatioF())),
+                                                       Qt::SmoothTransformation);
+            document.addResource(QTextDocument::ImageResource, document.baseUrl().resolved(QUrl(reduite)), pixels);
+            format.setName(reduite);
             format.setWidth(largeur);
             format.setHeight(static_cast<double>(image.height()) * largeur / image.width());
-            QTextCursor curseur(bloc);
+            QTextCursor curseur(&document);
             curseur.setPosition(morceau.fragment().position());
             curseur.setPosition(morceau.fragment().position() + morceau.fragment().length(), QTextCursor::KeepAnchor);
             curseur.setCharFormat(format);

@@ -200,13 +200,14 @@ QString VisionneuseAide::Page() const {
     return LivreAide::NomPage(page_->source());
 }
 
-void VisionneuseAide::PageChangee() {
+/// @param adresse of the new page: it is not yet the source while its change is told
+void VisionneuseAide::PageChangee(const QUrl& adresse) {
     Habille();
     Surligne(trouver_->text());
     const QSignalBlocker sansRetour(sommaire_);
     sommaire_->setCurrentItem(nullptr);
     for (QTreeWidgetItemIterator entree(sommaire_); *entree != nullptr; ++entree)
-        if ((*entree)->data(0, RoleNom).toString() == Page()) sommaire_->setCurrentItem(*entree);
+        if ((*entree)->data(0, RoleNom).toString() == LivreAide::NomPage(adresse)) sommaire_->setCurrentItem(*entree);
 }
 
 /// What the marks of a page do not say: lines and a head for tables, room around headings, formulas set off, pictures

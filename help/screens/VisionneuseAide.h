@@ -40,7 +40,7 @@ private:
     QAction* AjouteCommande(class QToolBar& barre, const char* nom, int texte,
                             const std::vector<QKeySequence>& touches);
     void RemplitSommaire();
-    void PageChangee();
+    void PageChangee(const QUrl& adresse);
     void Habille();
     void AjusteImages();
     void Cherche(const QString& saisie);

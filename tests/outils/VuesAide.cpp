@@ -23,6 +23,7 @@
 #include <QCryptographicHash>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabBar>
@@ -170,6 +171,14 @@ Fenetre OuvreInerties() {
     return fenetre;
 }
 
+/// The language editor, with a language chosen.
+Fenetre OuvrePersona() {
+    Fenetre fenetre = OuvreEcran("Persona");
+    Controle<QListWidget>(*fenetre, "List2")->setCurrentRow(0);
+    LaisseFaire();
+    return fenetre;
+}
+
 /// The page with the profile of the cam, in the preview of its reports.
 Fenetre OuvreApercu() {
     CalculeExemple("Exemple.Ang");
@@ -224,6 +233,7 @@ constexpr VueAide vues[] = {
     {"GlobiqueOscillateur-resultats", OuvreOscillateurGlobique<1>},
     {"Inerties", OuvreInerties},
     {"Propos", OuvreBoite<Propos>},
+    {"Persona", OuvrePersona, "Persona"},
 };
 // clang-format on
 
@@ -261,6 +271,10 @@ void Decrit(const QWidget& controle, const QWidget& ecran, int niveau, QByteArra
 std::string VueAide::Page() const {
     const std::string nom = image;
     return nom.substr(0, nom.find('-'));
+}
+
+bool VueAide::Disponible() const {
+    return ecran == nullptr || TrouveEcran(ecran) != nullptr;
 }
 
 std::span<const VueAide> LesVuesAide() {

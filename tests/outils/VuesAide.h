@@ -12,9 +12,11 @@
 struct VueAide {
     const char* image; ///< name of its picture: the screen's page, "-" and what of it is shown
     std::unique_ptr<QWidget> (*ouvre)();
+    const char* ecran = nullptr; ///< the screen that must be built for it
 
     /// Name of the page that is about the screen.
     std::string Page() const;
+    bool Disponible() const;
 };
 
 std::span<const VueAide> LesVuesAide();

@@ -90,14 +90,14 @@ int main(int argc, char** argv) {
     for (const auto& [langue, dossier] : LesLanguesAide)
         for (const VueAide& vue : LesVuesAide()) {
             const std::string nom = std::string(dossier) + "/images/" + vue.image + ".png";
-            if (voulues.isEmpty() || voulues.contains(QString::fromLatin1(vue.image))) {
+            if (vue.Disponible() && (voulues.isEmpty() || voulues.contains(QString::fromLatin1(vue.image)))) {
                 CommenceVue(langue);
                 const std::unique_ptr<QWidget> ecran = vue.ouvre();
                 EcritFichierEntier(docs / nom, Png(ecran->grab().toImage().convertToFormat(QImage::Format_RGB32)));
                 empreintes[nom] = S(Empreinte(*ecran));
                 std::printf("%s\n", nom.c_str());
             }
-            table += nom + "\t" + empreintes[nom] + "\n";
+            if (empreintes.contains(nom)) table += nom + "\t" + empreintes[nom] + "\n";
         }
     EcritFichierEntier(docs / "images.tsv", table);
     return 0;

@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QImageWriter>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <stdexcept>
@@ -33,32 +34,51 @@ public:
     }
 };
 
-constexpr int CouleursMax = 256;
+constexpr qsizetype CouleursMax = 256;
 
-/// The picture with a palette of its own: as many bits of each colour are left as make no more colours than it can
-/// hold.
-QImage AvecPalette(const QImage& image) {
-    for (int perdus = 0;; ++perdus) {
-        const QRgb masque = 0x010101U * ((0xFFU << perdus) & 0xFFU);
-        QHash<QRgb, int> places;
-        QList<QRgb> couleurs;
-        QImage palette(image.size(), QImage::Format_Indexed8);
-        for (int y = 0; y < image.height() && couleurs.size() <= CouleursMax; ++y) {
-            const auto* ligne = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-            uchar* indices = palette.scanLine(y);
-            for (int x = 0; x < image.width() && couleurs.size() <= CouleursMax; ++x) {
-                auto place = places.constFind(ligne[x] & masque);
-                if (place == places.constEnd()) {
-                    place = places.insert(ligne[x] & masque, static_cast<int>(couleurs.size()));
-                    couleurs.append(ligne[x] | 0xFF000000U); // the first colour seen stands for those like it
-                }
-                indices[x] = static_cast<uchar>(place.value());
-            }
-        }
-        if (couleurs.size() > CouleursMax) continue;
-        palette.setColorTable(couleurs);
-        return palette;
+/// The colours of a picture, the most frequent first.
+QList<QRgb> CouleursParNombre(const QImage& image) {
+    QHash<QRgb, int> nombres;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) ++nombres[image.pixel(x, y)];
+    QList<QRgb> couleurs = nombres.keys();
+    std::sort(couleurs.begin(), couleurs.end(), [&](QRgb a, QRgb b) {
+        return std::pair(nombres[b], a) < std::pair(nombres[a], b); // of equal ones always the same first
+    });
+    return couleurs;
+}
+
+int Ecart(QRgb a, QRgb b) {
+    const int r = qRed(a) - qRed(b), v = qGreen(a) - qGreen(b), c = qBlue(a) - qBlue(b);
+    return r * r + v * v + c * c;
+}
+
+/// Those that no more frequent one comes near to: as few as a palette can hold, as near as that allows.
+QList<QRgb> Palette(const QList<QRgb>& couleurs) {
+    for (int proche = 1;; proche *= 2) {
+        QList<QRgb> gardees;
+        for (const QRgb couleur : couleurs)
+            if (gardees.size() <= CouleursMax &&
+                std::none_of(gardees.begin(), gardees.end(), [&](QRgb g) { return Ecart(g, couleur) < proche; }))
+                gardees.append(couleur);
+        if (gardees.size() <= CouleursMax) return gardees;
     }
+}
+
+/// The picture with a palette of its own, each colour the nearest there.
+QImage AvecPalette(const QImage& image) {
+    const QList<QRgb> couleurs = CouleursParNombre(image), gardees = Palette(couleurs);
+    QHash<QRgb, uchar> places;
+    for (const QRgb couleur : couleurs)
+        places[couleur] = static_cast<uchar>(
+            std::min_element(gardees.begin(), gardees.end(),
+                             [couleur](QRgb a, QRgb b) { return Ecart(a, couleur) < Ecart(b, couleur); }) -
+            gardees.begin());
+    QImage palette(image.size(), QImage::Format_Indexed8);
+    palette.setColorTable(gardees);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) palette.scanLine(y)[x] = places[image.pixel(x, y)];
+    return palette;
 }
 
 std::string Png(const QImage& image) {

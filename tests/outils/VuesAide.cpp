@@ -237,7 +237,8 @@ constexpr VueAide vues[] = {
 };
 // clang-format on
 
-/// The caption of a control, without the numbers that it shows: results are no layout. Empty for a control without one.
+/// The caption of a control, without its access key and the numbers that it shows: results are no layout. Empty for a
+/// control without one.
 QString Legende(const QWidget& controle) {
     QString legende;
     if (const auto* etiquette = qobject_cast<const QLabel*>(&controle)) legende = etiquette->text();
@@ -249,6 +250,7 @@ QString Legende(const QWidget& controle) {
     if (const auto* table = qobject_cast<const QTableView*>(&controle))
         for (int i = 0; table->model() != nullptr && i < table->model()->columnCount(); ++i)
             legende += table->model()->headerData(i, Qt::Horizontal).toString() + "|";
+    legende.remove('&');
     static const QRegularExpression nombres("[0-9.,-]+"), lettre("\\p{L}");
     return lettre.match(legende).hasMatch() ? legende.replace(nombres, "#") : QString();
 }

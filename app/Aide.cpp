@@ -96,6 +96,7 @@ QString Aide::PageDe(const QWidget* controle) const {
 void Aide::Montre(const QWidget* controle) {
     if (!Ouvre()) return;
     fenetre_->MontrePage(PageDe(controle));
+    while (QWidget* liste = QApplication::activePopupWidget()) liste->close(); // an open list or menu keeps the keys
     MetDevant();
 }
 

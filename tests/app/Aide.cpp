@@ -10,7 +10,9 @@
 #include "widgets/Chaines.h"
 #include "widgets/FenetreEnfant.h"
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
@@ -84,6 +86,12 @@ TEST_F(AideDuProgramme, F1OpensThePageOfTheScreen) {
     EXPECT_EQ(Page(), "DoCyl");
     EXPECT_TRUE(Le<QTextBrowser>("Page")->toPlainText().contains("Diamètre Came"));
     EXPECT_EQ(S(Le<QTreeWidget>("Sommaire")->currentItem()->text(0)), Texte(87));
+    auto* lois = Controle<QComboBox>(*saisie, "Combo1");
+    lois->showPopup();
+    LaisseFaire();
+    F1(*lois->view());
+    EXPECT_EQ(Page(), "DoCyl");
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     Controle<QAction>(mdi_, "FichierAide")->trigger();
     EXPECT_EQ(Page(), "DoCyl");
     QTest::keyClick(Fenetre(), Qt::Key_Escape);

@@ -3,6 +3,7 @@
 #include "app/CameType.h"
 #include "app/MdiCamA.h"
 #include "data/Demarrage.h"
+#include "help/TextesAide.h"
 #include "help/screens/VisionneuseAide.h"
 #include "outils/Clavier.h"
 #include "outils/DialoguesScript.h"
@@ -146,7 +147,7 @@ TEST_F(AideDuProgramme, WordsAreFoundWithoutTheirAccents) {
     }
     EXPECT_EQ(page->textCursor().position(), premier);
     QTest::keyClicks(Le<QLineEdit>("Recherche"), " xyzzy");
-    EXPECT_EQ(S(trouvailles->item(0)->text()), Texte(955));
+    EXPECT_EQ(S(trouvailles->item(0)->text()), Texte(TexteAucunePage));
     Le<QLineEdit>("Recherche")->clear();
     EXPECT_TRUE(Le<QTreeWidget>("Sommaire")->isVisible());
 }
@@ -179,7 +180,7 @@ TEST_F(AideDuProgramme, AnotherLanguageBringsItsOwnPages) {
     for (const char* langue : {"English", "Español"}) {
         mdi_.ChangeLangue(langue);
         EXPECT_EQ(Page(), "zones") << langue;
-        EXPECT_EQ(Le<QTreeWidget>("Sommaire")->topLevelItem(0)->text(0), QTexte(951));
+        EXPECT_EQ(Le<QTreeWidget>("Sommaire")->topLevelItem(0)->text(0), QTexte(TexteGroupePriseEnMain));
     }
     EXPECT_TRUE(Le<QTextBrowser>("Page")->toPlainText().startsWith("Las zonas"));
     mdi_.close();

@@ -33,9 +33,6 @@ public:
     /// Another file was chosen: what is open of the old one is shown from it.
     void ChangeFichier();
 
-    /// The help window; none before help was asked for.
-    VisionneuseAide* Fenetre() const { return fenetre_.get(); }
-
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
 

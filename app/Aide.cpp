@@ -2,13 +2,15 @@
 
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "help/screens/VisionneuseAide.h"
 #include "platform/Dialogues.h"
 #include "widgets/Chaines.h"
 
-#include <QDesktopServices>
-#include <QShortcut>
-#include <QUrl>
-#include <QWidget>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QWindow>
 
 namespace {
 
@@ -56,16 +58,71 @@ const std::filesystem::path& FichierAide() {
     return fichierAide;
 }
 
-void MontreAide() {
-    std::error_code sansImportance;
-    const bool ouvert = std::filesystem::is_regular_file(fichierAide, sansImportance) &&
-                        QDesktopServices::openUrl(QUrl::fromLocalFile(QChemin(fichierAide)));
-    if (!ouvert)
-        LesDialogues().Message(Icone::Avertissement,
-                               Texte(TexteAideAbsente) + " " + S(QChemin(fichierAide.filename())));
+Aide::Aide(const QMdiArea& bureau) : bureau_(bureau) {
+    qApp->installEventFilter(this);
 }
 
-void AjouteAide(QWidget& fenetre) {
-    auto* raccourci = new QShortcut(QKeySequence(Qt::Key_F1), &fenetre);
-    QObject::connect(raccourci, &QShortcut::activated, &fenetre, [] { MontreAide(); });
+Aide::~Aide() = default;
+
+bool Aide::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() != QEvent::KeyPress || !objet->isWidgetType()) return false;
+    const auto* touche = static_cast<QKeyEvent*>(evenement);
+    if (touche->key() != Qt::Key_F1 || touche->modifiers() != Qt::NoModifier) return false;
+    Montre(static_cast<QWidget*>(objet));
+    return true;
+}
+
+bool Aide::Ouvre() {
+    if (fenetre_ != nullptr) return true;
+    auto fenetre = std::make_unique<VisionneuseAide>(fichierAide);
+    if (fenetre->Livre().Pages().empty()) {
+        LesDialogues().Message(Icone::Avertissement,
+                               Texte(TexteAideAbsente) + " " + S(QChemin(fichierAide.filename())));
+        return false;
+    }
+    fenetre_ = std::move(fenetre);
+    fenetre_->setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window
+    return true;
+}
+
+QString Aide::PageDe(const QWidget* controle) const {
+    const auto connue = [this](const QWidget& w) { return fenetre_->Livre().Trouve(w.objectName()) != nullptr; };
+    for (const QWidget* w = controle; w != nullptr; w = w->parentWidget())
+        if (connue(*w)) return w->objectName();
+    const QMdiSubWindow* devant = bureau_.currentSubWindow();
+    return devant != nullptr && devant->isVisible() ? devant->widget()->objectName() : QString();
+}
+
+void Aide::Montre(const QWidget* controle) {
+    if (!Ouvre()) return;
+    fenetre_->MontrePage(PageDe(controle));
+    while (QWidget* liste = QApplication::activePopupWidget()) liste->close(); // an open list or menu keeps the keys
+    MetDevant();
+}
+
+/// A modal box blocks every window but its own: there the help window becomes one of them.
+void Aide::MetDevant() {
+    fenetre_->winId(); // makes the window that the system knows
+    QWidget* boite = QApplication::activeModalWidget();
+    QWindow* proprietaire = boite == nullptr ? nullptr : boite->windowHandle();
+    if (fenetre_->windowHandle()->transientParent() != proprietaire) {
+        fenetre_->hide();
+        fenetre_->windowHandle()->setTransientParent(proprietaire);
+    }
+    if (fenetre_->isMinimized()) fenetre_->showNormal();
+    fenetre_->show();
+    fenetre_->raise();
+    fenetre_->activateWindow();
+}
+
+void Aide::ChangeFichier() {
+    if (fenetre_ == nullptr) return;
+    const bool montree = fenetre_->isVisible();
+    const QString page = fenetre_->Page();
+    const QRect place = fenetre_->geometry();
+    fenetre_.reset();
+    if (!montree || !Ouvre()) return;
+    fenetre_->setGeometry(place);
+    fenetre_->MontrePage(page);
+    MetDevant();
 }

@@ -1,6 +1,5 @@
 #include "app/CameType.h"
 
-#include "app/Aide.h"
 #include "app/Ecrans.h"
 #include "drawing/DessinsCames.h"
 #include "studies/TypesEtude.h"
@@ -76,7 +75,6 @@ CameType::CameType(QWidget* parent) : QDialog(parent) {
     colonne->addLayout(boutons);
     colonne->setSizeConstraint(QLayout::SetFixedSize);
     AppliqueLegendes(*this, LesLegendes);
-    AjouteAide(*this);
     findChild<BoutonImage*>(QString::fromLatin1(LesChoix.front().image))->setFocus();
 }
 

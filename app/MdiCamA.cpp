@@ -53,7 +53,8 @@ constexpr QSize TailleFenetre(1320, 900);
 } // namespace
 
 MdiCamA::MdiCamA(const Configuration& configuration)
-    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel), travaux_(FichierReprise(CheminAppli)) {
+    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel), travaux_(FichierReprise(CheminAppli)),
+      aide_(*bureau_) {
     setObjectName(QStringLiteral("MdiCamA"));
     ChargeTextesQt(LangueTravail);
     setCentralWidget(bureau_);
@@ -66,7 +67,6 @@ MdiCamA::MdiCamA(const Configuration& configuration)
     statusBar()->addWidget(etat_, 1);
     ConstruitMenus();
     ConstruitBarre();
-    AjouteAide(*this);
     AppliqueTextes();
     const std::vector<QAction*> marques = EntreesMarques();
     for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
@@ -145,6 +145,10 @@ void MdiCamA::ConfigureImpression() {
     ConfigureImprimante(this);
 }
 
+void MdiCamA::MontreAide() {
+    aide_.Montre(QApplication::focusWidget());
+}
+
 void MdiCamA::MontrePropos() {
     Propos(this).exec();
 }
@@ -160,7 +164,6 @@ void MdiCamA::MontreLoisSpeciales() {
 void MdiCamA::MontreLois(const char* chooser) {
     if (RotationEmpeche()) return;
     QuelLoi choix(chooser, this);
-    AjouteAide(choix);
     if (choix.exec() == QDialog::Accepted) EtudieLoi(*choix.Choisi());
 }
 
@@ -191,6 +194,7 @@ void MdiCamA::ChangeLangue(const std::string& langue) {
     FermeEcrans();
     bureau_->Dit(&FenetreEnfant::AppliqueTextes);
     ChoisitAide();
+    aide_.ChangeFichier();
     Annonce(Texte(TextePret));
 }
 

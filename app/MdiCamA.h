@@ -2,6 +2,7 @@
 // windows by their base only; where they stand is the matter of their desk.
 #pragma once
 
+#include "app/Aide.h"
 #include "app/Commandes.h"
 #include "app/TravauxRepris.h"
 #include "data/Configuration.h"
@@ -101,6 +102,7 @@ private:
     void ImprimeFenetre(FenetreEnfant& fenetre);
     std::array<bool, NombreImpressions> MarquesCochees() const;
     void ConfigureImpression();
+    void MontreAide();
     void MontrePropos();
     void MontreLoisUsuelles();
     void MontreLoisSpeciales();
@@ -138,6 +140,7 @@ private:
     QToolBar* barre_;
     QLabel* etat_;
     TravauxRepris travaux_;
+    Aide aide_;
     std::map<std::string, std::string, std::less<>> sauves_; ///< what each window held when it was opened or last saved
     std::vector<std::filesystem::path> recents_;             ///< opened or saved in this run, the last first
     QTimer garde_;                                           ///< brings the recovery file up to date

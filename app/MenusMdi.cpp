@@ -86,6 +86,7 @@ std::span<const EntreeMenu> MdiCamA::LeMenu() {
         {"FichierLanguesModification", 2, 44, E::Ordre, {.ecran = "Persona"}},
         {"FichierConfigImpresora", 1, 45, E::Ordre, {.fait = &M::ConfigureImpression}},
         {"", 1, 0, E::Trait},
+        {"FichierAide", 1, 78, E::Ordre, {.fait = &M::MontreAide, .raccourci = "F1"}},
         {"FichierPropos", 1, 46, E::Ordre, {.fait = &M::MontrePropos, .aide = 84, .cle = "Propos"}},
         {"", 1, 0, E::Trait},
         {"FichierQuitte", 1, 47, E::Ordre, {.fait = &M::Quitter, .aide = 91, .raccourci = "Ctrl+Q", .cle = "Quitter"}},

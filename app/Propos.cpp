@@ -1,6 +1,5 @@
 #include "app/Propos.h"
 
-#include "app/Aide.h"
 #include "app/Version.h"
 #include "drawing/DessinsCames.h"
 #include "widgets/Chaines.h"
@@ -59,6 +58,5 @@ Propos::Propos(QWidget* parent) : QDialog(parent) {
     grille->addWidget(ok, 5, 1, Qt::AlignRight);
     grille->setHorizontalSpacing(18);
     AppliqueLegendes(*this, LesLegendes);
-    AjouteAide(*this);
     grille->setSizeConstraint(QLayout::SetFixedSize);
 }

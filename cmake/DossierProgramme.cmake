@@ -15,7 +15,9 @@ function(velorin_dossier_programme)
     COMMENT "Building the catalogue database"
     VERBATIM)
 
-  set(ACCOMPAGNEMENT ${BASE})
+  velorin_aide(AIDES)
+
+  set(ACCOMPAGNEMENT ${BASE} ${AIDES})
   file(GLOB EXEMPLES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} Profils/*)
   foreach(FICHIER IN LISTS EXEMPLES ITEMS CameAng.cfg)
     add_custom_command(
@@ -43,6 +45,6 @@ function(velorin_dossier_programme)
   add_custom_target(dossier_programme ALL DEPENDS ${ACCOMPAGNEMENT})
 
   install(TARGETS velorin velorin-batch RUNTIME DESTINATION .)
-  install(FILES ${BASE} CameAng.cfg DESTINATION .)
+  install(FILES ${BASE} ${AIDES} CameAng.cfg DESTINATION .)
   install(DIRECTORY Profils ${VELORIN_DOSSIER}/translations DESTINATION .)
 endfunction()

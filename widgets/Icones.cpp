@@ -54,6 +54,13 @@ constexpr DessinIcone LesIcones[] = {
     // turning arrows
     {"SensTrigo", "A 12 12 8 40 280 M 14.4 18.5 L 18.1 17.1 L 17.4 21.1 F O 12 12 1.5"},
     {"SensHorloge", "A 12 12 8 140 -280 M 9.6 18.5 L 5.9 17.1 L 6.6 21.1 F O 12 12 1.5"},
+    // the help window: to and fro, larger and smaller letters, up and down
+    {"Arriere", "M 20 12 L 4 12 M 10.5 5.5 L 4 12 L 10.5 18.5"},
+    {"Avant", "M 4 12 L 20 12 M 13.5 5.5 L 20 12 L 13.5 18.5"},
+    {"Agrandir", "O 10.5 10.5 6.5 M 15.3 15.3 L 21 21 M 10.5 7.5 L 10.5 13.5 M 7.5 10.5 L 13.5 10.5"},
+    {"Reduire", "O 10.5 10.5 6.5 M 15.3 15.3 L 21 21 M 7.5 10.5 L 13.5 10.5"},
+    {"TrouvePrecedent", "M 5 15.5 L 12 8.5 L 19 15.5"},
+    {"TrouveSuivant", "M 5 8.5 L 12 15.5 L 19 8.5"},
     {"Tourner", "F M 7 4 L 19.5 12 L 7 20 Z"},
     {"Arret", "F M 6 6 L 18 6 L 18 18 L 6 18 Z"},
 };

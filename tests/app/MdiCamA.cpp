@@ -129,12 +129,6 @@ TEST_F(Fenetre, RaccourcisClavier) {
     ASSERT_EQ(dialogues_.boites.size(), 1U);
     EXPECT_EQ(dialogues_.boites[0].texte, Texte(23));
     EXPECT_EQ(dialogues_.boites[0].icone, Icone::Information);
-    // F1 without the help file names it.
-    ChoisitAide();
-    EXPECT_EQ(FichierAide().filename(), "CamesFr.chm");
-    QTest::keyClick(&mdi_, Qt::Key_F1);
-    ASSERT_EQ(dialogues_.boites.size(), 2U);
-    EXPECT_EQ(dialogues_.boites[1].texte, Texte(138) + " CamesFr.chm");
 }
 
 TEST_F(Fenetre, MarquesEtConfiguration) {

@@ -280,6 +280,7 @@ TEST_F(Fenetre, LesEnfantsTiennentDansLeBureau) {
 
 TEST(Langues, UneLangueIncompleteNEstPasOfferte) {
     const BaseProvisoire provisoire;
+    ChargeTextes(LaBase);
     DialoguesScript dialogues;
     MdiCamA mdi{Marques()};
     std::vector<std::string> offertes;

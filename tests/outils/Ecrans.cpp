@@ -5,14 +5,37 @@
 #include "widgets/Chaines.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QTest>
+
+namespace {
+
+/// Width of a list whose present entry stands whole.
+int LargeurTexte(const QComboBox& liste) {
+    QStyleOptionComboBox option;
+    option.initFrom(&liste);
+    const QSize texte = liste.fontMetrics().size(Qt::TextSingleLine, liste.currentText());
+    return liste.style()->sizeFromContents(QStyle::CT_ComboBox, &option, texte, &liste).width();
+}
+
+/// The heading of a visible section that does not fit into it; empty for one that does.
+QString EnTeteCoupe(const QHeaderView& entetes, int section) {
+    const QString titre = entetes.model()->headerData(section, entetes.orientation()).toString();
+    if (entetes.isSectionHidden(section) || entetes.orientation() == Qt::Vertical) return {};
+    const QSize besoin = entetes.fontMetrics().size(0, titre);
+    return besoin.width() > entetes.sectionSize(section) || besoin.height() > entetes.height() ? titre : QString();
+}
+
+} // namespace
 
 QObject* ControleNomme(QObject& racine, const QString& nom, const QMetaObject& classe) {
     QList<QObject*> tous = racine.findChildren<QObject*>();
@@ -68,6 +91,11 @@ std::vector<std::string> LegendesCoupees(QWidget& ecran) {
             if (groupe->fontMetrics().horizontalAdvance(groupe->title()) > place.width()) note(widget, groupe->title());
         } else if (auto* onglets = qobject_cast<QTabBar*>(widget)) {
             if (onglets->sizeHint().width() > place.width()) note(widget, onglets->tabText(0));
+        } else if (auto* liste = qobject_cast<QComboBox*>(widget)) {
+            if (!liste->isEditable() && LargeurTexte(*liste) > place.width()) note(widget, liste->currentText());
+        } else if (auto* entetes = qobject_cast<QHeaderView*>(widget); entetes && entetes->model()) {
+            for (int section = 0; section < entetes->count(); ++section)
+                if (const QString titre = EnTeteCoupe(*entetes, section); !titre.isEmpty()) note(widget, titre);
         }
     }
     return coupees;

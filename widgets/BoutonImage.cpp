@@ -23,6 +23,7 @@ constexpr int Cadrage = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap; ///<
 BoutonImage::BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent)
     : QAbstractButton(parent), dessine_(std::move(dessine)), taille_(taille) {
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum); // as high as its neighbour with the longer name
     setAttribute(Qt::WA_Hover);
 }
 

@@ -330,23 +330,43 @@ void JeuEnregistrements::Ecrit(const std::string& nom, const Valeur& valeur) {
 
 void JeuEnregistrements::Update() {
     if (nouveau_.empty()) throw ErreurExecution(NumeroErreur::AppelIncorrect, table_);
-    std::string places;
-    for (const std::string& champ : champs_)
-        places += (places.empty() ? "" : ", ") + (modifie_ ? Entoure(champ) + " = ?" : std::string("?"));
-    const std::string sql =
-        modifie_ ? "UPDATE " + Entoure(table_) + " SET " + places + " WHERE " + Entoure(champs_[positionCle_]) + " = ?"
-                 : "INSERT INTO " + Entoure(table_) + " VALUES (" + places + ")";
-    const Requete requete = PrepareRequete(base_, sql, table_);
-    int place = 0;
-    for (const Valeur& valeur : nouveau_) LieValeur(requete, ++place, valeur);
-    if (modifie_) LieValeur(requete, ++place, lignes_[*modifie_][positionCle_]);
-    if (sqlite3_step(requete.get()) != SQLITE_DONE) SignaleErreur(base_, table_);
-    position_ = modifie_.value_or(lignes_.size());
     if (modifie_)
-        index_.erase(lignes_[position_][positionCle_]);
+        Remplace();
     else
-        lignes_.emplace_back();
+        Ajoute();
     index_.emplace(nouveau_[positionCle_], position_);
     lignes_[position_] = std::exchange(nouveau_, {});
     modifie_.reset();
+}
+
+void JeuEnregistrements::Ajoute() {
+    std::string places;
+    for (std::size_t i = 0; i < nouveau_.size(); ++i) places += i == 0 ? "?" : ", ?";
+    Execute("INSERT INTO " + Entoure(table_) + " VALUES (" + places + ")", nouveau_);
+    position_ = lignes_.size();
+    lignes_.emplace_back();
+}
+
+void JeuEnregistrements::Remplace() {
+    const std::vector<Valeur>& ancien = lignes_[*modifie_];
+    std::string places;
+    std::vector<Valeur> valeurs;
+    for (std::size_t i = 0; i < nouveau_.size(); ++i) {
+        if (nouveau_[i] == ancien[i]) continue;
+        places += (valeurs.empty() ? "" : ", ") + Entoure(champs_[i]) + " = ?";
+        valeurs.push_back(nouveau_[i]);
+    }
+    valeurs.push_back(ancien[positionCle_]);
+    if (!places.empty())
+        Execute("UPDATE " + Entoure(table_) + " SET " + places + " WHERE " + Entoure(champs_[positionCle_]) + " = ?",
+                valeurs);
+    index_.erase(ancien[positionCle_]);
+    position_ = *modifie_;
+}
+
+void JeuEnregistrements::Execute(const std::string& sql, const std::vector<Valeur>& valeurs) {
+    const Requete requete = PrepareRequete(base_, sql, table_);
+    int place = 0;
+    for (const Valeur& valeur : valeurs) LieValeur(requete, ++place, valeur);
+    if (sqlite3_step(requete.get()) != SQLITE_DONE) SignaleErreur(base_, table_);
 }

@@ -132,6 +132,9 @@ private:
     friend class BaseDonnees;
     JeuEnregistrements(sqlite3* base, const std::string& table);
     std::size_t PositionChamp(const std::string& nom) const;
+    void Ajoute();
+    void Remplace();
+    void Execute(const std::string& sql, const std::vector<Valeur>& valeurs);
 
     sqlite3* base_;
     std::string table_;

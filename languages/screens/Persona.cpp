@@ -11,19 +11,20 @@
 #include "languages/screens/AutresLangues.h"
 #include "languages/screens/ChampTraduction.h"
 #include "platform/Dialogues.h"
+#include "widgets/BarreNombre.h"
 #include "widgets/CesseEcoute.h"
 #include "widgets/Chaines.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
 #include "widgets/Remarques.h"
 #include "widgets/ReprendSaisie.h"
+#include "widgets/ZoneDefilante.h"
 
 #include <QBoxLayout>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -45,6 +46,7 @@ constexpr Legende legendes[] = {
     {"Retour", 0, TexteRetourLangues},
 };
 
+constexpr QSize TailleEcran(1040, 590);
 constexpr int LargeurLangues = 230; ///< pixels, at which the names of most languages stand whole
 constexpr int PasPage = 10;         ///< texts
 
@@ -69,7 +71,9 @@ Persona::Persona(QWidget* parent) : FenetreEnfant("Persona", parent), textes_(La
     droite->addLayout(FaitRecherche());
     droite->addWidget(FaitTraduction());
     droite->addWidget(FaitAutres(), 1);
-    auto* rangee = new QHBoxLayout;
+    auto* contenu = new QWidget;
+    auto* rangee = new QHBoxLayout(contenu);
+    rangee->setContentsMargins({});
     rangee->addWidget(FaitLangues());
     rangee->addLayout(droite, 1);
     retour_ = FaitBouton("Retour");
@@ -77,7 +81,7 @@ Persona::Persona(QWidget* parent) : FenetreEnfant("Persona", parent), textes_(La
     boutons->addWidget(retour_);
     boutons->addStretch();
     auto* disposition = new QVBoxLayout(this);
-    disposition->addLayout(rangee, 1);
+    disposition->addWidget(new ZoneDefilante(contenu), 1);
     disposition->addLayout(boutons);
     AppliqueLegendes(*this, legendes);
     Relie();
@@ -87,6 +91,11 @@ Persona::Persona(QWidget* parent) : FenetreEnfant("Persona", parent), textes_(La
 
 Persona::~Persona() {
     CesseEcoute(*this);
+}
+
+/// The other languages take what height is left; they do not ask for more.
+QSize Persona::sizeHint() const {
+    return FenetreEnfant::sizeHint().expandedTo(TailleEcran);
 }
 
 // ---- layout
@@ -110,8 +119,7 @@ QWidget* Persona::FaitLangues() {
 }
 
 QLayout* Persona::FaitNumero() {
-    barre_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
-    barre_->setFocusPolicy(Qt::StrongFocus);
+    barre_ = Nomme(new BarreNombre, "HScroll1");
     barre_->setPageStep(PasPage);
     position_ = Nomme(new QLabel, "Label7");
     position_->setAlignment(Qt::AlignRight);

@@ -9,12 +9,12 @@
 #include <vector>
 
 class AutresLangues;
+class BarreNombre;
 class ChampTraduction;
 class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
-class QScrollBar;
 class QToolButton;
 class Remarques;
 
@@ -24,6 +24,8 @@ class Persona : public FenetreEnfant {
 public:
     explicit Persona(QWidget* parent = nullptr);
     ~Persona() override;
+
+    QSize sizeHint() const override;
 
     /// The wording that is typed and not stored yet.
     std::string Travail() const override;
@@ -67,7 +69,7 @@ private:
 
     QListWidget* liste_;
     QLineEdit *nom_, *cherche_;
-    QScrollBar* barre_;
+    BarreNombre* barre_;
     QLabel *position_, *nombreTrouves_, *longueur_, *aTraduire_;
     ChampTraduction* traduction_;
     Remarques* remarques_;

@@ -6,6 +6,7 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -233,20 +234,18 @@ void BaseDonnees::AjouteChamp(const std::string& table, const DefinitionChamp& c
 
 /// The table is made anew without the field: not every version of the engine can drop one.
 void BaseDonnees::SupprimeChamp(const std::string& table, const std::string& champ) {
-    const std::vector<Champ> champs = LitChamps(base_, table);
-    const std::size_t cle = PositionCle(base_, table);
+    std::vector<Champ> champs = LitChamps(base_, table);
+    const auto supprime = std::find_if(champs.begin(), champs.end(), [&](const Champ& c) { return c.nom == champ; });
+    if (supprime == champs.end()) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, table + "." + champ);
+    if (static_cast<std::size_t>(supprime - champs.begin()) == PositionCle(base_, table))
+        throw ErreurExecution(NumeroErreur::AccesFichier, table + "." + champ);
+    champs.erase(supprime);
     std::string colonnes, noms;
-    bool trouve = false;
-    for (std::size_t i = 0; i < champs.size(); ++i) {
-        const bool supprime = champs[i].nom == champ;
-        if (supprime && i == cle) throw ErreurExecution(NumeroErreur::AccesFichier, table + "." + champ);
-        trouve = trouve || supprime;
-        if (supprime) continue;
+    for (const Champ& reste : champs) {
         const char* separateur = noms.empty() ? "" : ", ";
-        colonnes += separateur + Entoure(champs[i].nom) + " " + champs[i].type;
-        noms += separateur + Entoure(champs[i].nom);
+        colonnes += separateur + Entoure(reste.nom) + " " + reste.type;
+        noms += separateur + Entoure(reste.nom);
     }
-    if (!trouve) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, table + "." + champ);
     const std::string ancienne = Entoure(table), nouvelle = Entoure(table + " sans " + champ);
     Transaction transaction(*this);
     const std::vector<std::string> index = DefinitionsIndex(base_, table);

@@ -26,7 +26,7 @@ void ChampTraduction::Montre(const std::string& texte) {
     const QSignalBlocker muet(this);
     setPlainText(Q(texte));
     longueurAvant_ = Caracteres(texte);
-    selectAll();
+    if (hasFocus()) selectAll();
 }
 
 std::string ChampTraduction::Traduction() const {
@@ -51,6 +51,12 @@ void ChampTraduction::keyPressEvent(QKeyEvent* evenement) {
     if (!retour || evenement->modifiers().testFlag(Qt::ShiftModifier)) return QPlainTextEdit::keyPressEvent(evenement);
     evenement->accept();
     emit Valide();
+}
+
+/// What is typed first replaces what stands there, as in any other field.
+void ChampTraduction::focusInEvent(QFocusEvent* evenement) {
+    QPlainTextEdit::focusInEvent(evenement);
+    if (evenement->reason() == Qt::TabFocusReason || evenement->reason() == Qt::BacktabFocusReason) selectAll();
 }
 
 /// A tab would end the wording in a file.

@@ -27,6 +27,7 @@ AutresLangues::AutresLangues(QWidget* parent) : QScrollArea(parent) {
     grille_->setColumnStretch(1, 1);
     while (paires_.size() < NombrePaires) AjoutePaire();
     setWidget(contenu);
+    for (QWidget* fond : {contenu, viewport()}) fond->setAutoFillBackground(false);
 }
 
 void AutresLangues::AjoutePaire() {

@@ -25,6 +25,7 @@
 #include <QGroupBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -255,6 +256,9 @@ void Persona::ChoisitLangue(const std::string& langue) {
 /// Takes the name in the field: a language of the list is worked on, any other is made after a question.
 /// @return false when it was refused
 bool Persona::EntreNom() {
+    // The field may have been left by the very click that asks already.
+    if (enQuestion_) return false;
+    const QScopedValueRollback question(enQuestion_, true);
     const std::string nom = S(nom_->text().simplified());
     if (nom == langue_) return true;
     if (nom.empty()) {
@@ -356,6 +360,7 @@ void Persona::MontreFautes() {
 void Persona::QuitteTexte() {
     const std::string traduction = traduction_->Traduction();
     if (!Modifiable() || !traduction_->Modifie() || traduction.empty()) return;
+    const QScopedValueRollback question(enQuestion_, true);
     barre_->setEnabled(false); // a button of it that is held down would run on under the question
     const bool garde = LesDialogues().Question(Texte(TexteGarderTraduction) + "\n" + traduction);
     barre_->setEnabled(true);

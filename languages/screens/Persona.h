@@ -64,6 +64,7 @@ private:
     JeuEnregistrements textes_;
     std::string langue_; ///< the one that is worked on; empty for none
     long numero_ = 1;    ///< of the text that is shown
+    bool enQuestion_ = false;
     std::vector<long> trouves_;
     int rangTrouve_ = -1; ///< in `trouves_`, of the text last gone to; -1 before the first
 

@@ -70,6 +70,16 @@ protected:
     bool Actif(const char* nom) { return De<QWidget>(nom).isEnabled(); }
 };
 
+/// Boxes under which the events go on, as on a desktop.
+class DialoguesOuverts : public DialoguesScript {
+public:
+    bool Question(const std::string& texte) override {
+        const bool reponse = DialoguesScript::Question(texte);
+        LaisseFaire();
+        return reponse;
+    }
+};
+
 } // namespace
 
 TEST_F(EcranPersona, ItOpensOnNoLanguageAndTheDeliveredOnesAreReadOnly) {
@@ -140,6 +150,22 @@ TEST_F(EcranPersona, ABadNameIsToldAndNothingIsLost) {
     FrappeDans(*ecran, "Text3", "Nuova");
     Clique("Retour");
     EXPECT_TRUE(dialogues.demandes.empty());
+}
+
+TEST_F(EcranPersona, AClickThatLeavesTheNameAsksOnce) {
+    Cree("Italiano");
+    Choisit("Italiano");
+    TapeTraduction("uno");
+    DialoguesOuverts ouverts;
+    ouverts.reponses = {false, false};
+    FrappeDans(*ecran, "Text3", "");
+    QTest::keySequence(&De<QLineEdit>("Text3"), QKeySequence::SelectAll);
+    Frappe(*ecran, "Nuova");
+    Clique("Sauver");
+    EXPECT_EQ(ouverts.demandes,
+              (std::vector<std::string>{Texte(68) + "\nNuova", Texte(TexteGarderTraduction) + "\nuno"}));
+    EXPECT_EQ(Nom(), "");
+    EXPECT_EQ(SurDisque("Italiano", 1), "");
 }
 
 TEST_F(EcranPersona, ATextIsStoredInItsRow) {

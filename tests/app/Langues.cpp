@@ -8,9 +8,7 @@
 #include "widgets/FenetreEnfant.h"
 
 #include <QAction>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 
 namespace {
 
@@ -43,10 +41,9 @@ TEST_F(RouteLangue, ALanguageIsMadeTranslatedWorkedInAndDeleted) {
         FrappeDans(editeur, "Text3", NomLangueLongue);
         Retour(editeur);
         Touche(editeur, Qt::Key_Space);
-        const auto fichier = base_.Dossier() / "longue.tsv";
         JeuEnregistrements textes = LaBase.OuvreTable(TableTextes);
-        EcritFichierEntier(fichier, FichierLangueLongue(textes));
-        dialogues_.fichiers = {fichier};
+        dialogues_.fichiers = {base_.Dossier() / "longue.tsv"};
+        EcritFichierEntier(*dialogues_.fichiers[0], FichierLangueLongue(textes));
         CliqueSur(editeur, "Importer");
         EXPECT_TRUE(dialogues_.boites.empty());
         EXPECT_FALSE(Offertes(mdi).contains(NomLangueLongue)) << "at the next start";
@@ -54,38 +51,23 @@ TEST_F(RouteLangue, ALanguageIsMadeTranslatedWorkedInAndDeleted) {
     MdiCamA mdi{configuration};
     EXPECT_EQ(Offertes(mdi).back(), NomLangueLongue);
     OuvreEditeur(mdi);
-    dialogues_.saisies = {"U"};
+    dialogues_.saisies = {"U"}; // the help
     mdi.findChildren<QAction*>("FichierLanguesDisponibles").back()->trigger();
     LaisseFaire();
-    EXPECT_EQ(LangueTravail, NomLangueLongue);
     EXPECT_EQ(mdi.EcranOuvert("Persona"), nullptr) << "closed as every screen";
     EXPECT_EQ(S(mdi.windowTitle()), Allonge("Velorin - Calcul de cames et de mécanismes intermittents"));
 
     // Deleted while it is worked in, it is gone at the next start only.
-    QWidget& autre = OuvreEditeur(mdi);
-    Controle<QListWidget>(autre, "List2")->setCurrentRow(3);
-    dialogues_.reponses = {true};
-    CliqueSur(autre, "SupprimeLangue");
-    EXPECT_NE(S(autre.windowTitle()).find("TTr"), std::string::npos);
-    ChargeTextes(LaBase);
-    EXPECT_EQ(LangueTravail, "Español");
-}
-
-TEST_F(RouteLangue, AWordingGivenUpWithItsWindowIsTakenBack) {
-    JeuEnregistrements textes = LaBase.OuvreTable(TableTextes);
-    AjouteLangue(LaBase, textes, "Italiano");
-    MdiCamA mdi{Configuration{{}, LangueTravail}};
     QWidget& editeur = OuvreEditeur(mdi);
     Controle<QListWidget>(editeur, "List2")->setCurrentRow(3);
-    FrappeDans(editeur, "Text4", "Si, certo");
-    mdi.OuvreFichier(CheminAppli / NomDossierEtudes / "Exemple.Ang");
-    EXPECT_EQ(mdi.EcranOuvert("Persona"), nullptr);
-    mdi.Reprendre();
-    LaisseFaire();
-    QWidget* repris = mdi.EcranOuvert("Persona");
-    ASSERT_NE(repris, nullptr);
-    EXPECT_EQ(Controle<QPlainTextEdit>(*repris, "Text4")->toPlainText(), "Si, certo");
-    CliqueSur(*repris, "Sauver");
-    textes = LaBase.OuvreTable(TableTextes);
-    EXPECT_EQ(TexteDeLangue(textes, "Italiano", 1), "Si, certo");
+    dialogues_.reponses = {false, true};
+    CliqueSur(editeur, "SupprimeLangue");
+    EXPECT_EQ(dialogues_.demandes.back(), Texte(66) + "\n" + NomLangueLongue);
+    EXPECT_EQ(Controle<QListWidget>(editeur, "List2")->count(), 4);
+    CliqueSur(editeur, "SupprimeLangue");
+    EXPECT_EQ(Controle<QListWidget>(editeur, "List2")->count(), 3);
+    EXPECT_FALSE(Controle<QWidget>(editeur, "SupprimeLangue")->isEnabled());
+    EXPECT_EQ(Texte(3), "OOK");
+    ChargeTextes(LaBase);
+    EXPECT_EQ(LangueTravail, "Español");
 }

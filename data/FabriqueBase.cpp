@@ -82,7 +82,7 @@ void RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::
 
 void FabriqueBase(const std::filesystem::path& dossier, const std::filesystem::path& destination) {
     BaseDonnees base = BaseDonnees::Cree(destination, MotDePasseBase);
-    base.CommenceTransaction();
+    Transaction transaction(base);
     for (const auto& table : tables) RemplitTable(base, table, dossier / (std::string(table.nom) + ".tsv"));
-    base.ValideTransaction();
+    transaction.Valide();
 }

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -15,19 +16,27 @@ constexpr int Marge = 8;
 constexpr int Souleve = 3; ///< how far it rises
 constexpr double RayonCoin = 4;
 constexpr double OpaciteInactif = 0.35;
+constexpr int Cadrage = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap; ///< of the name
 
 } // namespace
 
 BoutonImage::BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent)
     : QAbstractButton(parent), dessine_(std::move(dessine)), taille_(taille) {
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum); // as high as its neighbour with the longer name
     setAttribute(Qt::WA_Hover);
 }
 
 QSize BoutonImage::sizeHint() const {
-    // Two lines hold every name.
+    // Two lines hold every delivered name; a language that a user has added may take more.
+    const QRect place(0, 0, taille_.width() - 2 * Marge - 1, QWIDGETSIZE_MAX);
+    const int texte = fontMetrics().boundingRect(place, Cadrage, text()).height();
     return {taille_.width() + 2 * Souleve,
-            taille_.height() + 2 * fontMetrics().lineSpacing() + 3 * Marge + 2 * Souleve};
+            taille_.height() + std::max(texte, 2 * fontMetrics().lineSpacing()) + 3 * Marge + 2 * Souleve};
+}
+
+QRectF BoutonImage::PlaceTexte() const {
+    return Carte(size()).adjusted(Marge, taille_.height() + Marge, -Marge, 0);
 }
 
 const QPixmap& BoutonImage::Image(const QSizeF& taille) {
@@ -82,10 +91,8 @@ void BoutonImage::paintEvent(QPaintEvent*) {
     if (!isEnabled()) peintre.setOpacity(OpaciteInactif);
     const QRectF cadre = CadreImage(carte);
     peintre.drawPixmap(cadre.topLeft(), Image(cadre.size()));
-    const double haut = carte.y() + taille_.height() + Marge;
     peintre.setPen(palette().color(QPalette::Active, QPalette::Text));
-    peintre.drawText(QRectF(carte.x() + Marge, haut, carte.width() - 2 * Marge, carte.bottom() - haut),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text());
+    peintre.drawText(PlaceTexte().translated(carte.topLeft() - Carte(size()).topLeft()), Cadrage, text());
 }
 
 void BoutonImage::keyPressEvent(QKeyEvent* evenement) {

@@ -21,6 +21,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Where its name stands, wrapped, pixels.
+    QRectF PlaceTexte() const;
+
 signals:
     void Leve(bool leve); ///< the picture rises, or lies down again
 

@@ -164,7 +164,8 @@ TEST_F(EcranPersona, ATextIsStoredInItsRow) {
     Choisit("Italiano");
     Clique("Sauver");
     EXPECT_TRUE(AFocus("Text4")) << "an empty one is not stored";
-    EXPECT_EQ(LanguesCompletes(LaBase).size(), 3U);
+    ChargeTextes(LaBase);
+    EXPECT_EQ(LanguesCompletes().size(), 3U);
     Frappe(*ecran, "Si");
     Retour(*ecran);
     EXPECT_EQ(SurDisque("Italiano", 1), "Si");
@@ -251,7 +252,8 @@ TEST_F(EcranPersona, FilesGoOutAndComeBackWholeOrNotAtAll) {
     EcritFichierEntier(fichier, contenu);
     Clique("Importer");
     EXPECT_EQ(Traduction(), SurDisque("Español", 1));
-    EXPECT_EQ(LanguesCompletes(LaBase).back(), "Italiano");
+    ChargeTextes(LaBase);
+    EXPECT_EQ(LanguesCompletes().back(), "Italiano");
     // Replacing what is translated is asked for.
     EcritFichierEntier(fichier, "Numero\tItaliano\n1\tuno\n2\t" + SurDisque("Español", 2) + "\n");
     dialogues.reponses = {false};

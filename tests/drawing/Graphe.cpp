@@ -17,22 +17,7 @@ class Graphes : public testing::Test {
 protected:
     ImprimanteNotee imprimante;
     Graphe graphe;
-    PlaceGraphe place{.gauche = 20,
-                      .droite = 110,
-                      .haut = 10,
-                      .bas = 70,
-                      .texte = 3,
-                      .nombres = 2,
-                      .titre = 4,
-                      .sousAxe = 3,
-                      .coteAxe = 2,
-                      .entreAxes = 10,
-                      .legende = {65, 78},
-                      .ancrageLegende = Ancrage::Centre,
-                      .hauteurLegende = 3,
-                      .traitGrille = 0.1,
-                      .traitAxe = 0.2,
-                      .traitCourbe = 0.4};
+    PlaceGraphe place{20, 110, 10, 70, 3, 2, 4, 3, 2, 10, {65, 78}, Ancrage::Centre, 3, 0.1, 0.2, 0.4};
 
     const ImprimanteNotee::Feuillet& Dessine() {
         DessineGraphe(*imprimante.Feuille({0, 0}, 120, 80), graphe, place);

@@ -2,10 +2,8 @@
 #pragma once
 
 #include "core/Etude.h"
-#include "data/Textes.h"
 #include "outils/Clavier.h"
 #include "outils/DialoguesScript.h"
-#include "widgets/Chaines.h"
 
 #include <QComboBox>
 #include <QLabel>

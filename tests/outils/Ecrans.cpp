@@ -1,9 +1,7 @@
 #include "outils/Ecrans.h"
 
 #include "data/Demarrage.h"
-#include "data/Textes.h"
 #include "studies/FichierEtude.h"
-#include "widgets/Chaines.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -13,8 +11,6 @@
 #include <QLineEdit>
 #include <QStyle>
 #include <QTabBar>
-#include <QTest>
-#include <gtest/gtest.h>
 
 #include <sstream>
 

@@ -1,7 +1,12 @@
 // Screens in tests: controls are found by their object names, keys are sent as a user's.
 #pragma once
 
+#include "data/Textes.h"
+#include "widgets/Chaines.h"
+
+#include <QTest>
 #include <QWidget>
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <stdexcept>

@@ -4,11 +4,9 @@
 #include "app/MdiCamA.h"
 #include "core/Etude.h"
 #include "data/Demarrage.h"
-#include "data/Textes.h"
 #include "outils/Clavier.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
-#include "widgets/Chaines.h"
 #include "widgets/FenetreEnfant.h"
 
 #include <QAbstractButton>

@@ -5,7 +5,6 @@
 #include "widgets/Application.h"
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 

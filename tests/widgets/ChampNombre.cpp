@@ -1,16 +1,13 @@
 #include "widgets/ChampNombre.h"
 
 #include "outils/Ecrans.h"
-#include "widgets/Chaines.h"
 
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 namespace {
 

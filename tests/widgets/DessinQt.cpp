@@ -3,7 +3,6 @@
 #include "outils/DialoguesScript.h"
 #include "outils/Ecrans.h"
 #include "widgets/Application.h"
-#include "widgets/Chaines.h"
 #include "widgets/Etiquettes.h"
 #include "widgets/Icones.h"
 #include "widgets/ZoneDessin.h"
@@ -12,7 +11,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <set>
@@ -100,14 +98,11 @@ TEST(DessinQt, UneCourbeAllegeeEstLaMeme) {
     };
     EXPECT_LT(EcartMax(courbe(36000), courbe(1800)), 64);
     EXPECT_GT(EcartMax(courbe(36000), courbe(4)), 128) << "the comparison sees nothing";
-}
-
-TEST(DessinQt, TheLastPointOfATinyCurveIsDrawn) {
-    const QImage image = Dessine([](DessinQt& dessin) {
-        const PointDessin minuscule[] = {{50, 50}, {50.1, 50}, {50.2, 50}};
-        dessin.Polyligne(minuscule, {Couleur::Axe, 4.0});
+    const QImage minuscule = Dessine([](DessinQt& dessin) {
+        const PointDessin points[] = {{50, 50}, {50.1, 50}, {50.2, 50}};
+        dessin.Polyligne(points, {Couleur::Axe, 4.0});
     });
-    EXPECT_LT(qGray(image.pixel(50, 50)), 128);
+    EXPECT_LT(qGray(minuscule.pixel(50, 50)), 128) << "a tiny curve is still a mark";
 }
 
 TEST(ZoneDessin, UneFauteDuDessinEstDiteUneFois) {
@@ -143,18 +138,11 @@ TEST(Application, UneFauteDansUnEvenementEstDiteEtLeProgrammeContinue) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the hourglass is gone";
 }
 
-TEST(Icones, AllDifferAndHaveTheColourOfTheText) {
+TEST(Icones, AllDiffer) {
     std::set<QByteArray> vues;
     for (const QString& cle : ClesIcones()) {
         const QImage image = IconeBarre(cle).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
         vues.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
     }
     EXPECT_EQ(static_cast<qsizetype>(vues.size()), ClesIcones().size());
-
-    const QPalette avant = QApplication::palette();
-    QPalette sombre = avant;
-    sombre.setColor(QPalette::ButtonText, Qt::red);
-    QApplication::setPalette(sombre);
-    EXPECT_EQ(IconeBarre("Arret").pixmap(24, 24).toImage().pixelColor(12, 12), QColor(Qt::red));
-    QApplication::setPalette(avant);
 }

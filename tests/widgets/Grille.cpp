@@ -4,14 +4,12 @@
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
-#include "widgets/Chaines.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLocale>
 #include <QMenu>
-#include <QTest>
 #include <QTimer>
 
 namespace {

@@ -2,14 +2,11 @@
 #include "widgets/ImprimantePoste.h"
 #include "widgets/ImprimanteQt.h"
 
-#include "laws/CalculLois.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
 #include "outils/ImprimanteNotee.h"
-#include "studies/FichierEtude.h"
 #include "studies/RapportsCames.h"
-#include "widgets/Chaines.h"
 
 #include <QBuffer>
 #include <QComboBox>
@@ -18,7 +15,6 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 
@@ -100,34 +96,19 @@ TEST(ImprimanteQt, ColumnsAlignAndAPageTakesItsLines) {
     }
 }
 
-TEST(ImprimanteQt, OnlyTheChosenPagesArePutOut) {
-    QByteArray octets;
-    {
-        QBuffer tampon(&octets);
-        tampon.open(QIODevice::WriteOnly);
-        QPdfWriter support(&tampon);
-        QPageRanges choix;
-        choix.addRange(2, 3);
-        ImprimanteQt imprimante(support, choix);
-        TroisPages(imprimante);
-        EXPECT_EQ(imprimante.Page(), 4) << "the page behind the last one";
-    }
-    EXPECT_EQ(PagesPdf(octets.toStdString()), 2);
-}
-
-TEST(ImprimanteQt, AnAbandonedRunLeavesThePrinterUsable) {
+TEST(ImprimanteQt, ChosenPagesAloneArePutOutAndAnAbandonedRunLeavesThePrinterUsable) {
     const DossierTemporaire dossier;
     QPrinter imprimante(QPrinter::HighResolution);
     imprimante.setOutputFormat(QPrinter::PdfFormat);
     imprimante.setOutputFileName(QChemin(dossier / "papier.pdf"));
-    {
-        ImprimanteQt interrompue(imprimante);
-        interrompue.Ecrit("une page");
+    { ImprimanteQt(imprimante).Ecrit("une page"); }
+    QPageRanges choix;
+    choix.addRange(2, 3);
+    for (const auto& [pages, attendues] : {std::pair{QPageRanges(), 3}, {choix, 2}}) {
+        ImprimanteQt entiere(imprimante, pages);
+        TroisPages(entiere);
+        EXPECT_EQ(PagesPdf(LitBrut(dossier / "papier.pdf")), attendues);
     }
-    ImprimanteQt entiere(imprimante);
-    TroisPages(entiere);
-    EXPECT_EQ(PagesPdf(LitBrut(dossier / "papier.pdf")), 3);
-
     imprimante.setOutputFileName(QChemin(dossier / "absent/papier.pdf"));
     ImprimanteQt enPanne(imprimante);
     EXPECT_THROW(TroisPages(enPanne), ErreurExecution);
@@ -159,34 +140,6 @@ TEST(ApercuImpression, ShowsAndWritesThePagesThatThePrinterGets) {
         EXPECT_TRUE(apercu.isVisible()) << "the pages can still be printed";
         QTest::keyClick(&apercu, Qt::Key_Escape);
         EXPECT_FALSE(apercu.isVisible());
-    }
-}
-
-TEST(ImprimePdf, NumbersOfAnySizeMakeNoEndlessReport) {
-    const struct {
-        const char* exemple;
-        double Zone::*membre;
-        double valeur;
-    } cas[] = {{"Exemple.Ang", &Zone::AngleFinal, 1e9},      {"Exemple.Ang", &Zone::AngleFinal, 1e16},
-               {"Translation.Lin", &Zone::RayonFinal, -1e9}, {"Translation.Lin", &Zone::RayonFinal, 1e100},
-               {"Barillet.Cyl", &Zone::RayonFinal, 1e9},     {"Barillet.Cyl", &Zone::RayonFinal, 1e150},
-               {"Balancier.Osc", &Zone::AngleFinal, 1e9}};
-    for (const auto& c : cas) {
-        SCOPED_TRACE(std::string(c.exemple) + " " + std::to_string(c.valeur));
-        DialoguesScript dialogues;
-        etude = Etude{};
-        ChargeLois();
-        ASSERT_TRUE(LitFichierEtude(Exemple(c.exemple)));
-        etude.donnees.Zones[1].*c.membre = c.valeur;
-        ImprimanteNotee imprimante;
-        try {
-            CalculeEtude();
-            if (SansErreur()) ImprimeTout(imprimante);
-        } catch (const ErreurExecution& erreur) {
-            EXPECT_EQ(erreur.numero, NumeroErreur::ResultatNonFini);
-        }
-        EXPECT_LT(imprimante.pages.size(), 100U);
-        for (const auto& page : imprimante.pages) EXPECT_LT(page.traces.size() + page.etiquettes.size(), 5000U);
     }
 }
 

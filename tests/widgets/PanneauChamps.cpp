@@ -1,9 +1,7 @@
 #include "widgets/PanneauChamps.h"
 
 #include "core/ErreurExecution.h"
-#include "data/Textes.h"
 #include "outils/Ecrans.h"
-#include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Legendes.h"
 
@@ -11,8 +9,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
-#include <QTest>
-#include <gtest/gtest.h>
 
 namespace {
 

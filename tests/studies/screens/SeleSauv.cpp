@@ -1,7 +1,6 @@
 #include "studies/screens/SeleSauv.h"
 
 #include "core/Etude.h"
-#include "data/Textes.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"

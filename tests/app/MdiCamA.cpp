@@ -8,10 +8,8 @@
 #include "app/Version.h"
 #include "outils/FenetrePrincipale.h"
 #include "studies/TypesEtude.h"
-#include "widgets/BoutonImage.h"
 #include "widgets/ChampNombre.h"
 
-#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,8 +18,6 @@
 #include <set>
 
 namespace {
-
-constexpr const char* Langues[] = {"Français", "Español", "English"};
 
 using Fenetre = FenetrePrincipale;
 
@@ -46,7 +42,7 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
 }
 
 TEST_F(Fenetre, MenusInTheThreeLanguages) {
-    for (const char* langue : Langues) {
+    for (const char* langue : {"Français", "Español", "English"}) {
         mdi_->ChangeLangue(langue);
         for (const QAction* action : mdi_->findChildren<QAction*>())
             EXPECT_TRUE(action->objectName().isEmpty() || action->isSeparator() || !action->text().isEmpty())
@@ -133,22 +129,6 @@ TEST_F(Fenetre, UneEtudeQuiNeSeCalculePasSOuvreSurSaSaisie) {
     }
 }
 
-TEST_F(Fenetre, AStudyOutOfAFileGoesBackToItsDataScreen) {
-    for (const auto& [fichier, ecran] : {std::pair{"Barillet.Cyl", "DoCyl"}, {"Balancier.Osc", "DoCylOsc"}}) {
-        Ouvre(fichier);
-        CliqueSur(Ecran("Resultat"), "Quitter");
-        ASSERT_TRUE(Visible(ecran));
-        CliqueSur(Ecran(ecran), "Calculer");
-        EXPECT_TRUE(Visible("Resultat"));
-        EXPECT_FALSE(Visible(ecran));
-        EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
-    }
-    mdi_->FermeEcrans();
-    LaisseFaire();
-    EXPECT_TRUE(mdi_->findChildren<QMdiSubWindow*>().isEmpty());
-    EXPECT_EQ(mdi_->OuvreEcran("Inexistant"), nullptr) << "a screen that is not built";
-}
-
 TEST_F(Fenetre, LaCroixDUnEnfantEstSonRetour) {
     mdi_->CommenceEtude(LesChoixEtude().front());
     etude.donnees.ZoneCourante = 1;
@@ -177,32 +157,6 @@ TEST_F(Fenetre, UneRotationEmpecheDOuvrir) {
     EXPECT_EQ(etude.resultats.Erreur, Faux);
 }
 
-TEST_F(Fenetre, UneNouvelleEtudeEffaceLAncienne) {
-    Ouvre("Exemple.Ang");
-    Lance("Nouveau", [this](QDialog& choix) {
-        EXPECT_TRUE(Visible("Resultat")) << "nothing is lost before the choice";
-        QTest::keyClick(Controle<QAbstractButton>(choix, "Image1"), Qt::Key_Return);
-    });
-    EXPECT_TRUE(Visible("DatoCama"));
-    EXPECT_FALSE(Ouvert("Resultat"));
-    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
-    EXPECT_EQ(etude.donnees.NomFichier, "");
-    EXPECT_EQ(etude.donnees.CoteA, 0);
-    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
-    EXPECT_GT(etude.lois.NombreLois, 10) << "the catalogue of laws stays";
-}
-
-TEST_F(Fenetre, LesEnfantsTiennentDansLeBureau) {
-    for (const char* langue : Langues) {
-        mdi_->ChangeLangue(langue);
-        Ouvre("Exemple.Ang");
-        LaisseFaire();
-        const QMdiSubWindow* enfant = mdi_->findChild<QMdiSubWindow*>();
-        EXPECT_TRUE(Controle<QMdiArea>(*mdi_, "Bureau")->viewport()->rect().contains(enfant->geometry())) << langue;
-        EXPECT_LE(mdi_->width(), mdi_->screen()->availableSize().width());
-    }
-}
-
 TEST(Langues, UneLangueIncompleteNEstPasOfferte) {
     const BaseProvisoire provisoire;
     DialoguesScript dialogues;
@@ -225,21 +179,6 @@ TEST(Langues, UneLangueIncompleteNEstPasOfferte) {
     EXPECT_EQ(LangueTravail, "Italiano");
     EXPECT_TRUE(italien->isChecked());
     EXPECT_EQ(S(mdi.windowTitle()), "testo");
-}
-
-TEST(CameType, ChoixAuClavier) {
-    CameType choix;
-    choix.show();
-    LaisseFaire();
-    for (const ChoixEtude& c : LesChoixEtude())
-        EXPECT_EQ(S(Controle<BoutonImage>(choix, c.image)->text()), Texte(c.Texte()));
-    auto* premiere = Controle<BoutonImage>(choix, "Image1");
-    EXPECT_EQ(choix.focusWidget(), premiere);
-    EXPECT_NE(premiere->grab().toImage(), Controle<BoutonImage>(choix, "Image2")->grab().toImage());
-    QTest::keyClick(premiere, Qt::Key_Space);
-    ASSERT_NE(choix.Choisi(), nullptr);
-    EXPECT_STREQ(choix.Choisi()->typeCame, "Angulaire");
-    EXPECT_EQ(choix.result(), QDialog::Accepted);
 }
 
 TEST(Propos, MontreLaVersionDuProgramme) {

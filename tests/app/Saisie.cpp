@@ -13,8 +13,6 @@
 
 namespace {
 
-using Route = FenetrePrincipale;
-
 class Saisie : public FenetrePrincipale {
 protected:
     Saisie() { Ouvre("Exemple.Ang"); }
@@ -38,10 +36,17 @@ protected:
 
 } // namespace
 
-TEST_F(Route, FromTheChooserToPaper) {
-    Lance("FichierNouveau",
-          [](QDialog& choix) { QTest::keyClick(Controle<QAbstractButton>(choix, "Image1"), Qt::Key_Return); });
+TEST_F(Saisie, FromTheChooserToPaper) {
+    Lance("FichierNouveau", [this](QDialog& choix) {
+        EXPECT_TRUE(Visible("Resultat")) << "nothing is lost before the choice";
+        QTest::keyClick(Controle<QAbstractButton>(choix, "Image1"), Qt::Key_Return);
+    });
+    EXPECT_FALSE(Ouvert("Resultat"));
+    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
+    EXPECT_EQ(etude.donnees.NomFichier, "");
+    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
     QWidget& saisie = Ecran("DatoCama");
+    EXPECT_EQ(TexteDe("DatoCama", "Text1"), "0");
     TapeLigne(saisie, "Text1=80 Text2=30 Text3=100 Text4=70 Text5=40 Text6=10 Text18=300");
     TapeLigne(saisie, "Text7=0,8 Text9=12 Text13=2 Text14=25");
     for (const char* fin : {"40", "25"}) {
@@ -134,6 +139,27 @@ TEST_F(Saisie, AStudyThatWasEditedIsSavedAsItStands) {
     ASSERT_TRUE(LitFichierEtude(dossier_ / "un.Ang"));
     EXPECT_EQ(etude.donnees.MasseA, 9.5);
     EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 61);
+}
+
+TEST_F(Saisie, ChecksOfTheSaveScreenComeBeforeAnyFile) {
+    CalculeDepuisLaSaisie();
+    Lance("FichierSauvegarde", [this](QDialog& ecran) {
+        auto* nom = Controle<QLineEdit>(ecran, "Text1");
+        EXPECT_EQ(S(nom->text()), "Exemple");
+        nom->clear();
+        CliqueSur(ecran, "Sauvegarde");
+        EXPECT_EQ(dialogues_.Derniere(), Texte(518)) << "no name";
+        nom->setText("came");
+        Controle<QCheckBox>(ecran, "Check1")->setChecked(false);
+        CliqueSur(ecran, "Sauvegarde");
+        EXPECT_EQ(dialogues_.Derniere(), Texte(517)) << "nothing chosen";
+        Controle<QCheckBox>(ecran, "Check1")->setChecked(true);
+        dialogues_.fichiers = {dossier_ / "absent/came.Ang"};
+        CliqueSur(ecran, "Sauvegarde");
+        EXPECT_EQ(dialogues_.boites.back().icone, Icone::Critique);
+        EXPECT_TRUE(ecran.isVisible()) << "another place can be chosen";
+    });
+    EXPECT_EQ(etude.donnees.NombreZones, 4);
 }
 
 TEST_F(Saisie, ExportsAndPagesOfDataThatCannotBeCalculatedAreRefused) {

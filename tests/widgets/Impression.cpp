@@ -167,19 +167,6 @@ TEST(ApercuImpression, ALongRunIsShownToBeUnderWayAndStops) {
     EXPECT_LT(pages, 1000);
     EXPECT_TRUE(libelle.starts_with(Texte(840) + " "));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "no preview of half a document";
-
-    // So does the writing of a PDF file, which leaves no file.
-    const DossierTemporaire dossier;
-    DialoguesScript dialogues;
-    dialogues.fichiers = {dossier / "longues.pdf"};
-    bool longue = false;
-    ApercuImpression apercu([&](Imprimante& i) { longue ? longues(i) : TroisPages(i); }, "longues");
-    apercu.show();
-    longue = true;
-    Clique(apercu, "Pdf");
-    EXPECT_LT(pages, 1000);
-    EXPECT_EQ(dossier.NombreFichiers(), 0);
-    EXPECT_TRUE(apercu.isVisible());
 }
 
 TEST(ApercuImpression, AFailureAndAnEmptyDocumentOpenNothing) {

@@ -189,10 +189,9 @@ TEST_F(SaisieExemple, AnEditedEndStartsTheNextZone) {
     FrappeDans(*ecran, "Text16", "60");
     FrappeDans(*ecran, "Text15", "6.25");
     Clique("Calculer");
-    const auto remarques = Remarques();
-    EXPECT_NE(remarques.find(Texte(TextePasUnTour) + " 350 "), std::string::npos) << remarques;
-    EXPECT_NE(remarques.find(Texte(TexteCameOuverte) + " 5 "), std::string::npos) << remarques;
-    EXPECT_NE(remarques.find(Texte(TexteMouvementFinit) + " 6.25 "), std::string::npos) << remarques;
+    for (const auto& [texte, valeur] :
+         {std::pair{TextePasUnTour, " 350 "}, {TexteCameOuverte, " 5 "}, {TexteMouvementFinit, " 6.25 "}})
+        EXPECT_NE(Remarques().find(Texte(texte) + valeur), std::string::npos) << Remarques();
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
 }
 

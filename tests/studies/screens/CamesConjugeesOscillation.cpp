@@ -1,7 +1,5 @@
 #include "studies/screens/CamesConjugeesOscillation.h"
 
-#include "conjugate/ExemplePaire.h"
-#include "conjugate/PaireOscillante.h"
 #include "outils/EcranDeSaisie.h"
 
 #include <QScrollBar>
@@ -112,13 +110,4 @@ TEST_F(EcranPaire, BothCamsTurnTogetherAndTheRotationKeepsTheDataAsTheyAre) {
     EXPECT_EQ(Feuilles().currentIndex(), 2);
     Clique("Arret");
     EXPECT_EQ(etude.resultats.RotationEnCours, Faux);
-}
-
-TEST_F(EcranPaire, AStudyOutOfAFileOpensOnItsResults) {
-    PosePaire();
-    CalculeCamesConjuguees();
-    Ouvre();
-    EXPECT_EQ(Feuilles().currentIndex(), 2);
-    EXPECT_EQ(TexteDe("Text15"), "60.25");
-    EXPECT_NE(ecran->windowTitle().indexOf("Paire"), -1);
 }

@@ -51,15 +51,6 @@ TEST_F(PagesCames, TheColumnHeadingIsRepeatedAndCounted) {
     EXPECT_TRUE(imprimante.pages.back().Vide());
 }
 
-TEST_F(PagesCames, CountersThatOverflowAreAFailure) {
-    EXPECT_THROW(tirage.AnnoncePages(32768), ErreurExecution);
-    FormatPage format;
-    format.lignes = 40000;
-    Tirage longue(imprimante, format);
-    for (int i = 1; i <= 32767; ++i) longue.Ligne();
-    EXPECT_THROW(longue.Ligne("x"), ErreurExecution);
-}
-
 TEST_F(PagesCames, HeadingHasNameDateAndTitle) {
     tirage.Titre("Essai.Ang", "Titre");
     EXPECT_EQ(tirage.NumeroLigne(), 4);

@@ -4,7 +4,6 @@
 #include "outils/Ecrans.h"
 #include "widgets/Application.h"
 #include "widgets/Etiquettes.h"
-#include "widgets/Icones.h"
 #include "widgets/ZoneDessin.h"
 
 #include <QImage>
@@ -13,7 +12,6 @@
 #include <QTimer>
 
 #include <cmath>
-#include <set>
 
 namespace {
 
@@ -136,13 +134,4 @@ TEST(Application, UneFauteDansUnEvenementEstDiteEtLeProgrammeContinue) {
     EXPECT_EQ(dialogues.boites[0].texte, TexteErreur(ErreurExecution(NumeroErreur::Depassement, "NombrePoints")));
     EXPECT_EQ(dialogues.boites[1].texte, "no such control");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the hourglass is gone";
-}
-
-TEST(Icones, AllDiffer) {
-    std::set<QByteArray> vues;
-    for (const QString& cle : ClesIcones()) {
-        const QImage image = IconeBarre(cle).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
-        vues.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
-    }
-    EXPECT_EQ(static_cast<qsizetype>(vues.size()), ClesIcones().size());
 }

@@ -47,8 +47,8 @@ protected:
             auto* menu = Controle<QMenu>(grille, "MenuGrille");
             QAction* action = menu->actions()[entree];
             EXPECT_EQ(action->isEnabled(), possible) << S(action->text());
-            if (possible) action->trigger();
             menu->close();
+            if (possible) action->trigger();
         });
         QContextMenuEvent clic(QContextMenuEvent::Mouse, {5, 5}, grille.mapToGlobal(QPoint(5, 5)));
         QApplication::sendEvent(grille.viewport(), &clic);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::chrono::seconds AttenteMax{60};
+constexpr std::chrono::seconds AttenteMax{30};
 
 /// Every test starts from French and an empty study. One that waits for a box or a menu at which nobody is fails.
 class RetourAuDebut : public testing::EmptyTestEventListener {

@@ -28,7 +28,7 @@ TEST_F(PagesCames, TheSixtyFifthLineTurnsThePage) {
     EXPECT_EQ(tirage.NumeroLigne(), 64);
     tirage.AnnoncePages(7);
     Imprime(1);
-    EXPECT_EQ(imprimante.Page(), 2);
+    ASSERT_EQ(imprimante.Page(), 2);
     EXPECT_EQ(tirage.NumeroLigne(), 0);
     EXPECT_EQ(tirage.NumeroPage(), 1);
     const auto page = imprimante.pages[0].Textes();

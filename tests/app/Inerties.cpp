@@ -1,95 +1,58 @@
 // The inertia calculator beside the studies of the main window.
 #include "inertia/screens/Inerties.h"
-#include "app/MdiCamA.h"
-#include "data/Demarrage.h"
-#include "data/Textes.h"
-#include "inertia/TextesInertie.h"
-#include "outils/DialoguesScript.h"
-#include "outils/DossierTemporaire.h"
-#include "outils/Ecrans.h"
-#include "widgets/Chaines.h"
-#include "widgets/ChampNombre.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QTimer>
-#include <gtest/gtest.h>
+#include "inertia/TextesInertie.h"
+#include "outils/FenetrePrincipale.h"
+#include "widgets/ChampNombre.h"
 
 namespace {
 
-class InertiesAuBureau : public testing::Test {
+class InertiesAuBureau : public FenetrePrincipale {
 protected:
-    DialoguesScript dialogues_;
-    MdiCamA mdi_{Configuration{{}, LangueTravail}};
-
     InertiesAuBureau() {
-        mdi_.show();
-        LaisseFaire();
         Lance("FichierClasiquesInerties");
-        Ecran().OuvreListe(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Plateau.Ine");
+        Calculateur().OuvreListe(Exemple("Plateau.Ine"));
     }
-    ~InertiesAuBureau() override {
-        ChoisitLangue("Français");
-        etude = Etude{};
-    }
-    void Lance(const char* commande) {
-        Controle<QAction>(mdi_, commande)->trigger();
-        LaisseFaire();
-    }
-    Inerties& Ecran() { return dynamic_cast<Inerties&>(*mdi_.EcranOuvert("Inerties")); }
-    std::string Etat() { return S(Controle<QLabel>(mdi_, "Etat")->text()); }
+    Inerties& Calculateur() { return dynamic_cast<Inerties&>(Ecran("Inerties")); }
 };
 
 } // namespace
 
 TEST_F(InertiesAuBureau, TheListOutlivesStudiesLanguagesAndAnotherCallOfTheCommand) {
-    mdi_.OuvreFichier(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Exemple.Ang");
-    mdi_.FermeEcrans();
-    EXPECT_EQ(mdi_.EcranOuvert("Resultat"), nullptr);
-    mdi_.ChangeLangue("English");
-    EXPECT_EQ(S(Ecran().windowTitle()), "Inertia Calculation");
+    Ouvre("Exemple.Ang");
+    mdi_->FermeEcrans();
+    EXPECT_FALSE(Ouvert("Resultat"));
+    mdi_->ChangeLangue("English");
+    EXPECT_EQ(S(Calculateur().windowTitle()), "Inertia Calculation");
     Lance("Inerties");
-    EXPECT_EQ(Ecran().Liste().lignes.size(), 5U);
-    EXPECT_TRUE(Ecran().EnAvant());
-    Controle<QAbstractButton>(Ecran(), "Ok")->click();
-    LaisseFaire();
-    EXPECT_EQ(mdi_.EcranOuvert("Inerties"), nullptr);
+    EXPECT_EQ(Calculateur().Liste().lignes.size(), 5U);
+    EXPECT_TRUE(Calculateur().EnAvant());
+    CliqueSur(Calculateur(), "Ok");
+    EXPECT_FALSE(Ouvert("Inerties"));
 }
 
 TEST_F(InertiesAuBureau, TheTotalGoesIntoTheFieldThatAsksForAnInertia) {
-    Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
+    Lance("ListeTransmettre");
     EXPECT_EQ(Etat(), Texte(TexteAucunChampInertie));
     for (const auto& [ecran, champ] : {std::pair{"DoCylOsc", "Text6"},
                                        {"CylindriqueIndexeur", "Text3"},
                                        {"GlobiqueIndexeur", "Text3"},
                                        {"GlobiqueOscillateur", "Text3"}}) {
-        mdi_.FermeEcrans();
-        FenetreEnfant* calcul = mdi_.OuvreEcran(ecran);
-        Controle<QAction>(Ecran(), "ListeTransmettre")->trigger();
+        mdi_->FermeEcrans();
+        FenetreEnfant* calcul = mdi_->OuvreEcran(ecran);
+        Lance("ListeTransmettre");
         EXPECT_NEAR(Controle<ChampNombre>(*calcul, champ)->Valeur(), 10.5972, 1e-4) << ecran;
         EXPECT_TRUE(calcul->EnAvant()) << ecran;
     }
 }
 
 TEST_F(InertiesAuBureau, SavingAndPrintingAreItsOwnWhileItIsInFront) {
-    DossierTemporaire dossier;
-    dialogues_.fichiers = {dossier / "copie.Ine"};
+    dialogues_.fichiers = {dossier_ / "copie.Ine"};
     Lance("FichierSauvegarde");
-    EXPECT_EQ(LitBrut(dossier / "copie.Ine"),
-              LitBrut(std::filesystem::path(VELORIN_DOSSIER) / NomDossierEtudes / "Plateau.Ine"));
-    bool vu = false;
-    QTimer::singleShot(0, [&vu] {
-        auto* apercu = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        vu = apercu != nullptr;
-        if (vu) apercu->reject();
-    });
-    Lance("FicImprimerImprimer");
-    EXPECT_TRUE(vu);
+    EXPECT_EQ(LitBrut(dossier_ / "copie.Ine"), LitBrut(Exemple("Plateau.Ine")));
+    EXPECT_TRUE(Imprime());
     // Behind a study they are the study's again.
-    mdi_.OuvreEcran("DatoCama");
+    mdi_->OuvreEcran("DatoCama");
     Lance("FichierSauvegarde");
-    EXPECT_EQ(dialogues_.boites.back().texte, Texte(23));
+    EXPECT_EQ(dialogues_.Derniere(), Texte(23));
 }

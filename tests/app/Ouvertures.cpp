@@ -1,60 +1,37 @@
 // A study file is opened as it is named, dropped or chosen again.
-#include "app/MdiCamA.h"
-#include "data/Demarrage.h"
-#include "outils/DialoguesScript.h"
-#include "outils/DossierTemporaire.h"
-#include "outils/Ecrans.h"
-#include "widgets/Chaines.h"
-#include "widgets/FenetreEnfant.h"
+#include "outils/FenetrePrincipale.h"
 
-#include <QAction>
-#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QTest>
-#include <QTimer>
 #include <QUrl>
 
 namespace {
 
-class Ouvertures : public testing::Test {
+class Ouvertures : public FenetrePrincipale {
 protected:
-    DialoguesScript dialogues_;
-    DossierTemporaire dossier_;
-    MdiCamA mdi_{Configuration{{}, LangueTravail}};
-
-    Ouvertures() {
-        mdi_.show();
-        LaisseFaire();
-    }
     /// A worked example under another name.
-    std::filesystem::path Copie(const char* exemple, const char* nom) const {
-        std::filesystem::copy(CheminAppli / NomDossierEtudes / exemple, dossier_ / nom);
-        return dossier_ / nom;
+    std::filesystem::path Copie(const char* exemple, const std::string& nom) const {
+        return dossier_.Ecrit(nom, LitBrut(Exemple(exemple)));
     }
-    std::string Etat() { return S(Controle<QLabel>(mdi_, "Etat")->text()); }
     std::vector<std::string> Recents() {
         std::vector<std::string> noms;
-        for (const QAction* action : Controle<QMenu>(mdi_, "FichierRecents")->actions())
+        for (const QAction* action : Controle<QMenu>(*mdi_, "FichierRecents")->actions())
             noms.push_back(S(action->text()));
         return noms;
     }
     /// Drags over the middle of the window and drops there. @return whether the window took what was dragged
-    bool Glisse(const QList<QUrl>& adresses, const QString& texte = {}) {
+    bool Glisse(const QList<QUrl>& adresses) {
         QMimeData donnees;
-        if (!adresses.isEmpty()) donnees.setUrls(adresses);
-        if (!texte.isEmpty()) donnees.setText(texte);
-        const QPoint milieu = mdi_.rect().center();
+        adresses.isEmpty() ? donnees.setText("texte") : donnees.setUrls(adresses);
+        const QPoint milieu = mdi_->rect().center();
         QDragEnterEvent entree(milieu, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
         entree.ignore();
-        QCoreApplication::sendEvent(&mdi_, &entree);
+        QCoreApplication::sendEvent(mdi_.get(), &entree);
         if (!entree.isAccepted()) return false;
         QDropEvent depose(milieu, Qt::CopyAction, &donnees, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&mdi_, &depose);
+        QCoreApplication::sendEvent(mdi_.get(), &depose);
         LaisseFaire();
         return true;
     }
@@ -63,56 +40,47 @@ protected:
 } // namespace
 
 TEST_F(Ouvertures, ADroppedFileTakesThePlaceOfWhatIsOpen) {
-    mdi_.OuvreFichier(CheminAppli / NomDossierEtudes / "Exemple.Ang");
-    const std::filesystem::path balancier = Copie("Balancier.Osc", "bras & galet.osc");
-    ASSERT_TRUE(Glisse({QUrl::fromLocalFile(QChemin(balancier))}));
-    EXPECT_EQ(etude.donnees.TypeCame, "Oscillation");
-    EXPECT_EQ(Etat(), Texte(122) + " bras & galet.osc");
-    EXPECT_NE(mdi_.EcranOuvert("Resultat"), nullptr);
-
-    // What is no study says so; what is no single file is not taken at all.
-    ASSERT_TRUE(Glisse({QUrl::fromLocalFile(QString::fromStdString(dossier_.Ecrit("notes.doc", "rien")))}));
-    EXPECT_EQ(Etat().find(Texte(128) + " notes.doc : "), 0U) << Etat();
-    EXPECT_FALSE(Glisse({}, "texte"));
-    EXPECT_FALSE(Glisse({QUrl("https://localhost/came.Ang")}));
-    const QUrl un = QUrl::fromLocalFile(QChemin(balancier));
-    EXPECT_FALSE(Glisse({un, un}));
-    EXPECT_TRUE(dialogues_.boites.empty());
-}
-
-TEST_F(Ouvertures, ADroppedFileWaitsForTheTurningCam) {
-    mdi_.OuvreFichier(CheminAppli / NomDossierEtudes / "Exemple.Ang");
+    Ouvre("Exemple.Ang");
+    const QUrl balancier = QUrl::fromLocalFile(QChemin(Copie("Balancier.Osc", "bras & galet.osc")));
     etude.resultats.RotationEnCours = Vrai;
-    ASSERT_TRUE(Glisse({QUrl::fromLocalFile(QChemin(Copie("Balancier.Osc", "b.osc")))}));
-    ASSERT_EQ(dialogues_.boites.size(), 1U);
-    EXPECT_EQ(dialogues_.boites[0].texte, Texte(435));
+    ASSERT_TRUE(Glisse({balancier}));
+    EXPECT_EQ(dialogues_.Derniere(), Texte(435)) << "it waits for the turning cam";
     EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
     etude.resultats.RotationEnCours = Faux;
+    ASSERT_TRUE(Glisse({balancier}));
+    EXPECT_EQ(etude.donnees.TypeCame, "Oscillation");
+    EXPECT_EQ(Etat(), Texte(122) + " bras & galet.osc");
+    EXPECT_TRUE(Ouvert("Resultat"));
+
+    // What is no study says so; what is no single file is not taken at all.
+    ASSERT_TRUE(Glisse({QUrl::fromLocalFile(Q(dossier_.Ecrit("notes.doc", "rien")))}));
+    EXPECT_EQ(Etat().find(Texte(128) + " notes.doc : "), 0U) << Etat();
+    EXPECT_FALSE(Glisse({}));
+    EXPECT_FALSE(Glisse({QUrl("https://localhost/came.Ang")}));
+    EXPECT_FALSE(Glisse({balancier, balancier}));
+    EXPECT_EQ(dialogues_.boites.size(), 1U);
 }
 
 TEST_F(Ouvertures, RecentFilesStandInTheMenuTheLastFirst) {
-    EXPECT_FALSE(Controle<QMenu>(mdi_, "FichierRecents")->isEnabled());
-    const std::filesystem::path bras = Copie("Exemple.Ang", "a&b.Ang"), cylindre = Copie("Barillet.Cyl", "c.Cyl");
-    mdi_.OuvreAutre(bras);
-    mdi_.OuvreAutre(cylindre);
-    mdi_.OuvreAutre(dossier_ / "absent.Ang");
+    EXPECT_FALSE(Controle<QMenu>(*mdi_, "FichierRecents")->isEnabled());
+    mdi_->OuvreAutre(Copie("Exemple.Ang", "a&b.Ang"));
+    mdi_->OuvreAutre(Copie("Barillet.Cyl", "c.Cyl"));
+    mdi_->OuvreAutre(dossier_ / "absent.Ang");
     EXPECT_EQ(Recents(), (std::vector<std::string>{"&1 c.Cyl", "&2 a&&b.Ang"}));
-    Controle<QMenu>(mdi_, "FichierRecents")->actions()[1]->trigger();
+    Controle<QMenu>(*mdi_, "FichierRecents")->actions()[1]->trigger();
     LaisseFaire();
     EXPECT_EQ(etude.donnees.NomFichier, "a&b.Ang");
     EXPECT_EQ(Recents(), (std::vector<std::string>{"&1 a&&b.Ang", "&2 c.Cyl"}));
 
     // A file that was saved stands there too.
-    CliqueSur(*mdi_.EcranOuvert("Resultat"), "Quitter");
-    CliqueSur(*mdi_.EcranOuvert("DatoCama"), "Calculer");
+    CliqueSur(Ecran("Resultat"), "Quitter");
+    CliqueSur(Ecran("DatoCama"), "Calculer");
     dialogues_.fichiers.push_back(dossier_ / "neuf.Ang");
-    QTimer::singleShot(0, &mdi_, [this] { CliqueSur(*Controle<QWidget>(mdi_, "SeleSauv"), "Sauvegarde"); });
-    QTest::keySequence(&mdi_, QKeySequence("Ctrl+S"));
-    LaisseFaire();
+    Lance("FichierSauvegarde", [](QDialog& ecran) { CliqueSur(ecran, "Sauvegarde"); });
     EXPECT_EQ(Recents().front(), "&1 neuf.Ang");
-    mdi_.ChangeLangue("English");
+    mdi_->ChangeLangue("English");
     EXPECT_EQ(Recents().size(), 3U);
-    for (int i = 0; i < 12; ++i) mdi_.OuvreAutre(Copie("Exemple.Ang", ("n" + std::to_string(i) + ".Ang").c_str()));
+    for (int i = 0; i < 12; ++i) mdi_->OuvreAutre(Copie("Exemple.Ang", "n" + std::to_string(i) + ".Ang"));
     EXPECT_EQ(Recents().size(), 9U);
     EXPECT_EQ(Recents().back(), "&9 n3.Ang");
 }

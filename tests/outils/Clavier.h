@@ -5,7 +5,6 @@
 #include "widgets/Grille.h"
 
 #include <QApplication>
-#include <QTest>
 
 inline void Touche(QWidget& ecran, int touche) {
     QTest::keyClick(ecran.focusWidget() != nullptr ? ecran.focusWidget() : &ecran, static_cast<Qt::Key>(touche));

@@ -21,6 +21,9 @@ public:
     std::deque<std::optional<std::string>> saisies;
     std::deque<std::optional<std::filesystem::path>> fichiers;
 
+    /// Text of the last box; empty before the first.
+    std::string Derniere() const { return boites.empty() ? "" : boites.back().texte; }
+
     void Message(Icone icone, const std::string& texte) override { boites.push_back({icone, texte}); }
     bool Question(const std::string& texte) override { return Suivante(reponses, texte); }
     std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,

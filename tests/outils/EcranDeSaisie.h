@@ -1,15 +1,18 @@
 // What the tests of the data screens have in common.
 #pragma once
 
+#include "core/Etude.h"
+#include "outils/Clavier.h"
 #include "outils/DialoguesScript.h"
-#include "outils/Ecrans.h"
 
-#include <QTest>
-#include <gtest/gtest.h>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
 
 #include <memory>
-
-using Saisies = std::vector<std::pair<const char*, const char*>>;
 
 /// A data screen, typed into by control names.
 template <class Ecran> class EcranDeSaisie : public testing::Test {
@@ -24,11 +27,15 @@ protected:
         ecran->activateWindow();
         LaisseFaire();
     }
-    void Tape(const Saisies& saisies) {
-        for (const auto& [champ, texte] : saisies) TapeDans(*ecran, champ, texte);
+    template <class T> T* Le(const char* nom) { return Controle<T>(*ecran, nom); }
+    std::string TexteDe(const char* champ) { return S(Le<QLineEdit>(champ)->text()); }
+    std::string Cellule(int ligne, int colonne, const char* grille = "Grille") {
+        return Le<Grille>(grille)->Cellule(ligne, colonne);
     }
+    void TapeLigne(const std::string& saisies) { ::TapeLigne(*ecran, saisies); }
+    void Tape(const Saisies& saisies) { TapeTout(*ecran, saisies); }
     void Clique(const char* bouton) { CliqueSur(*ecran, bouton); }
-    std::string DerniereBoite() { return dialogues.boites.empty() ? "" : dialogues.boites.back().texte; }
+    std::string DerniereBoite() { return dialogues.Derniere(); }
     bool AFocus(const char* champ) {
         auto* widget = Controle<QWidget>(*ecran, champ);
         return widget->hasFocus() || widget->isAncestorOf(ecran->focusWidget());

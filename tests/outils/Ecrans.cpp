@@ -2,6 +2,7 @@
 
 #include "data/Demarrage.h"
 #include "data/Textes.h"
+#include "studies/FichierEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/DessinQt.h"
 #include "widgets/ZoneDessin.h"
@@ -19,7 +20,8 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
-#include <QTest>
+
+#include <sstream>
 
 namespace {
 
@@ -99,6 +101,16 @@ void TapeDans(QWidget& ecran, const char* champ, const char* texte) {
     LaisseFaire();
 }
 
+void TapeTout(QWidget& ecran, const Saisies& saisies) {
+    for (const auto& [champ, texte] : saisies) TapeDans(ecran, champ, texte);
+}
+
+void TapeLigne(QWidget& ecran, const std::string& saisies) {
+    std::istringstream flux(saisies);
+    std::string champ, texte;
+    while (std::getline(flux >> std::ws, champ, '=') && flux >> texte) TapeDans(ecran, champ.c_str(), texte.c_str());
+}
+
 void CliqueSur(QWidget& ecran, const char* bouton) {
     QTest::mouseClick(Controle<QAbstractButton>(ecran, bouton), Qt::LeftButton);
     LaisseFaire();
@@ -138,4 +150,14 @@ std::vector<std::string> LegendesCoupees(QWidget& ecran) {
 void ChoisitLangue(const char* langue) {
     LangueTravail = langue;
     ChargeTextes(LaBase);
+}
+
+std::filesystem::path Exemple(const std::string& nom) {
+    return CheminAppli / NomDossierEtudes / nom;
+}
+
+void CalculeExemple(const char* nom) {
+    ASSERT_TRUE(LitFichierEtude(Exemple(nom))) << nom;
+    CalculeEtude();
+    ASSERT_TRUE(SansErreur()) << nom;
 }

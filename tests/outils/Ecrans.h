@@ -1,11 +1,17 @@
 // Screens in tests: controls are found by their object names, keys are sent as a user's.
 #pragma once
 
-#include <QWidget>
+#include "data/Textes.h"
+#include "widgets/Chaines.h"
 
+#include <QTest>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+#include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 /// The object of that name and class among `racine` and its children.
@@ -19,6 +25,15 @@ template <class T> T* Controle(QObject& racine, const char* nom) {
 /// Types a text over what a field holds, and presses Return.
 void TapeDans(QWidget& ecran, const char* champ, const char* texte);
 
+/// Texts for fields, by the names of the fields.
+using Saisies = std::vector<std::pair<const char*, const char*>>;
+
+/// Types into one field after the other.
+void TapeTout(QWidget& ecran, const Saisies& saisies);
+
+/// The same for texts without blanks, as "Text1=80 Text2=30,5".
+void TapeLigne(QWidget& ecran, const std::string& saisies);
+
 /// Clicks a button.
 void CliqueSur(QWidget& ecran, const char* bouton);
 
@@ -30,3 +45,9 @@ std::vector<std::string> LegendesCoupees(QWidget& ecran);
 
 /// Loads the texts of a language out of the built database.
 void ChoisitLangue(const char* langue);
+
+/// A study that is delivered with the program.
+std::filesystem::path Exemple(const std::string& nom);
+
+/// Reads one of them into the record and calculates it.
+void CalculeExemple(const char* nom);

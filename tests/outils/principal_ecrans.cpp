@@ -5,13 +5,30 @@
 #include "widgets/Application.h"
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
 
-/// Every test starts from French and an empty study.
+constexpr std::chrono::seconds AttenteMax{30};
+
+/// Every test starts from French and an empty study. One that waits for a box or a menu at which nobody is fails.
 class RetourAuDebut : public testing::EmptyTestEventListener {
+public:
+    RetourAuDebut() {
+        QObject::connect(&attente_, &QTimer::timeout, [] {
+            for (QWidget* attendu : {QApplication::activePopupWidget(), QApplication::activeModalWidget()})
+                if (attendu != nullptr) {
+                    ADD_FAILURE() << "nobody is at " << S(attendu->objectName() + " " + attendu->windowTitle());
+                    attendu->close();
+                }
+        });
+    }
+
+private:
     void OnTestStart(const testing::TestInfo&) override {
+        attente_.start(AttenteMax);
         etude = Etude{};
         std::error_code sansImportance;
         std::filesystem::remove_all(std::filesystem::path(qgetenv("XDG_STATE_HOME").toStdString()) / "velorin",
@@ -19,6 +36,8 @@ class RetourAuDebut : public testing::EmptyTestEventListener {
         ChargeLois();
         ChoisitLangue("Français");
     }
+
+    QTimer attente_;
 };
 
 } // namespace

@@ -3,20 +3,19 @@
 #include "outils/DialoguesScript.h"
 #include "outils/Ecrans.h"
 #include "widgets/Application.h"
-#include "widgets/Chaines.h"
-#include "widgets/Icones.h"
+#include "widgets/Etiquettes.h"
 #include "widgets/ZoneDessin.h"
 
 #include <QImage>
+#include <QLabel>
 #include <QPainter>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <cmath>
-#include <set>
 
 namespace {
+
+const QColor Sombre(0x1E, 0x1F, 0x22);
 
 QPalette Feuille(const QColor& base) {
     QPalette palette;
@@ -59,7 +58,7 @@ int EcartMax(const QImage& a, const QImage& b) {
 } // namespace
 
 TEST(DessinQt, ContrasteSurFeuilleClaireEtSombre) {
-    for (const QColor& base : {QColor(Qt::white), QColor(0x1E, 0x1F, 0x22)}) {
+    for (const QColor& base : {QColor(Qt::white), Sombre}) {
         const QPalette palette = Feuille(base);
         for (const Couleur couleur : Traits)
             EXPECT_GE(Contraste(CouleurTrait(couleur, palette), base), 4.5) << static_cast<int>(couleur);
@@ -67,6 +66,20 @@ TEST(DessinQt, ContrasteSurFeuilleClaireEtSombre) {
         const double grille = Contraste(CouleurTrait(Couleur::Graduation, palette), base);
         EXPECT_GT(grille, 1.2);
         EXPECT_LT(grille, 3.0);
+    }
+}
+
+TEST(Etiquettes, UnitsAreLegibleOnADarkPalette) {
+    for (const auto& [fond, encre] :
+         {std::pair{QColor(50, 50, 50), QColor(Qt::white)}, {QColor(239, 239, 239), QColor(Qt::black)}}) {
+        QWidget ecran;
+        QLabel* unite = FaitUnite("mm");
+        unite->setParent(&ecran);
+        ecran.setPalette(QPalette(encre, fond, fond, fond, fond, encre, encre, fond, fond));
+        QImage melange(1, 1, QImage::Format_RGB32);
+        melange.fill(fond);
+        QPainter(&melange).fillRect(0, 0, 1, 1, unite->palette().color(unite->foregroundRole()));
+        EXPECT_GE(Contraste(melange.pixelColor(0, 0), fond), 4.5) << S(fond.name());
     }
 }
 
@@ -83,15 +96,11 @@ TEST(DessinQt, UneCourbeAllegeeEstLaMeme) {
     };
     EXPECT_LT(EcartMax(courbe(36000), courbe(1800)), 64);
     EXPECT_GT(EcartMax(courbe(36000), courbe(4)), 128) << "the comparison sees nothing";
-}
-
-TEST(DessinQt, LeDernierPointEstGarde) {
-    // The last step is shorter than what is dropped, and the whole of a tiny curve is still a mark.
-    const QImage image = Dessine([](DessinQt& dessin) {
-        const PointDessin minuscule[] = {{50, 50}, {50.1, 50}, {50.2, 50}};
-        dessin.Polyligne(minuscule, {Couleur::Axe, 4.0});
+    const QImage minuscule = Dessine([](DessinQt& dessin) {
+        const PointDessin points[] = {{50, 50}, {50.1, 50}, {50.2, 50}};
+        dessin.Polyligne(points, {Couleur::Axe, 4.0});
     });
-    EXPECT_LT(qGray(image.pixel(50, 50)), 128);
+    EXPECT_LT(qGray(minuscule.pixel(50, 50)), 128) << "a tiny curve is still a mark";
 }
 
 TEST(ZoneDessin, UneFauteDuDessinEstDiteUneFois) {
@@ -125,25 +134,4 @@ TEST(Application, UneFauteDansUnEvenementEstDiteEtLeProgrammeContinue) {
     EXPECT_EQ(dialogues.boites[0].texte, TexteErreur(ErreurExecution(NumeroErreur::Depassement, "NombrePoints")));
     EXPECT_EQ(dialogues.boites[1].texte, "no such control");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the hourglass is gone";
-}
-
-TEST(Icones, ToutesDifferentesEtDeLaCouleurDuTexte) {
-    std::set<QByteArray> vues;
-    for (const QString& cle : ClesIcones()) {
-        const QImage image = IconeBarre(cle).pixmap(24, 24).toImage().convertToFormat(QImage::Format_ARGB32);
-        vues.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
-        int encre = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x) encre += qAlpha(image.pixel(x, y)) > 128;
-        EXPECT_GT(encre, 24) << S(cle);
-    }
-    EXPECT_EQ(static_cast<qsizetype>(vues.size()), ClesIcones().size());
-
-    const QPalette avant = QApplication::palette();
-    QPalette sombre = avant;
-    sombre.setColor(QPalette::ButtonText, Qt::red);
-    QApplication::setPalette(sombre);
-    EXPECT_EQ(IconeBarre("Arret").pixmap(24, 24).toImage().pixelColor(12, 12), QColor(Qt::red));
-    QApplication::setPalette(avant);
-    EXPECT_THROW(IconeBarre("Inconnue"), std::logic_error);
 }

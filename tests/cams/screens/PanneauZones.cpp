@@ -1,23 +1,15 @@
 #include "cams/screens/PanneauZones.h"
 
-#include "core/Etude.h"
 #include "cylindrical/screens/DoCyl.h"
 #include "data/Demarrage.h"
-#include "data/Textes.h"
 #include "data/TextesSaisie.h"
 #include "data/Unites.h"
-#include "outils/Clavier.h"
 #include "outils/EcranDeSaisie.h"
 #include "planecams/screens/DatoCama.h"
 #include "studies/FichierEtude.h"
-#include "widgets/Chaines.h"
-#include "widgets/ChampNombre.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
+#include <QAbstractItemView>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QWheelEvent>
 
 #include <functional>
@@ -27,23 +19,24 @@ namespace {
 /// A study that was read and calculated, on its data screen.
 template <class Ecran> class SaisieLue : public EcranDeSaisie<Ecran> {
 protected:
-    using EcranDeSaisie<Ecran>::ecran;
-
     void Lit(const char* fichier) {
-        ASSERT_TRUE(LitFichierEtude(CheminAppli / "Profils" / fichier));
-        CalculeEtude();
+        CalculeExemple(fichier);
         etude.resultats.ResultatsPrets = Vrai;
         this->Ouvre();
     }
-    std::string TexteDe(const char* champ) { return S(Controle<QLineEdit>(*ecran, champ)->text()); }
-    std::string LoiMontree() { return S(Controle<QComboBox>(*ecran, "Combo1")->currentText()); }
+    std::string LoiMontree() { return S(this->template Le<QComboBox>("Combo1")->currentText()); }
     std::string Remarques() {
-        auto* remarques = Controle<QLabel>(*ecran, "RemarquesZones");
+        auto* remarques = this->template Le<QLabel>("RemarquesZones");
         return remarques->isVisible() ? S(remarques->text()) : "";
     }
     bool Selectionne(const char* champ) {
-        auto* zone = Controle<QLineEdit>(*ecran, champ);
-        return this->AFocus(champ) && zone->selectedText() == zone->text();
+        return this->AFocus(champ) && S(this->template Le<QLineEdit>(champ)->selectedText()) == this->TexteDe(champ);
+    }
+    /// Enters the list of laws, and types a name and Return.
+    void ChoisitLoi(const char* nom) {
+        this->template Le<QWidget>("Combo1")->setFocus(Qt::TabFocusReason);
+        Frappe(*this->ecran, nom);
+        Retour(*this->ecran);
     }
 };
 
@@ -101,7 +94,7 @@ TEST_F(SaisieExemple, ReturnThroughTheZonesChangesNothing) {
 }
 
 TEST_F(SaisieExemple, DigitsReplaceWhatStandsInAFieldEntered) {
-    QTest::mouseClick(Controle<QWidget>(*ecran, "Text13"), Qt::LeftButton);
+    QTest::mouseClick(Le<QWidget>("Text13"), Qt::LeftButton);
     const std::pair<const char*, const char*> saisies[] = {
         {"Text13", "3"}, {"Text14", "5"}, {"Text15", "25"}, {"Text16", "100"}};
     for (const auto& [champ, texte] : saisies) {
@@ -113,11 +106,11 @@ TEST_F(SaisieExemple, DigitsReplaceWhatStandsInAFieldEntered) {
     Frappe(*ecran, "MSC50");
     Retour(*ecran, 2);
     EXPECT_TRUE(AFocus("Suivante"));
-    auto* points = Controle<QComboBox>(*ecran, "Combo2");
+    auto* points = Le<QComboBox>("Combo2");
     QTest::mouseClick(points->lineEdit(), Qt::LeftButton);
     Frappe(*ecran, "8");
     EXPECT_EQ(points->currentText(), "8");
-    Controle<QWidget>(*ecran, "Suivante")->setFocus();
+    Le<QWidget>("Suivante")->setFocus();
     Retour(*ecran);
     EXPECT_EQ(etude.donnees.Zones[1].NomLoi, "MSC50");
     EXPECT_TRUE(Selectionne("Text15")) << "of the next zone";
@@ -127,20 +120,29 @@ TEST_F(SaisieExemple, DigitsReplaceWhatStandsInAFieldEntered) {
 TEST_F(SaisieExemple, EscapeClosesAnOpenListAndNothingElse) {
     QSignalSpy quitte(ecran.get(), &DatoCama::Quitte);
     for (const char* champ : {"Text1", "Text13", "Combo2", "Combo1", "Text19", "Calculer"}) {
-        Controle<QWidget>(*ecran, champ)->setFocus(Qt::TabFocusReason);
+        Le<QWidget>(champ)->setFocus(Qt::TabFocusReason);
         Touche(*ecran, Qt::Key_Escape);
     }
     CliqueCellule(*ecran, "Grille", 0, 1);
     Retour(*ecran, 3);
-    QTest::keyClick(ecran->focusWidget(), Qt::Key_Down, Qt::AltModifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    QTest::keyClick(QApplication::activePopupWidget()->findChild<QAbstractItemView*>(), Qt::Key_Escape);
+    const auto deroule = [this] {
+        QTest::keyClick(ecran->focusWidget(), Qt::Key_Down, Qt::AltModifier);
+        return QApplication::activePopupWidget()->findChild<QAbstractItemView*>();
+    };
+    QTest::keyClick(deroule(), Qt::Key_Escape);
     LaisseFaire();
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_TRUE(AFocus("Combo1"));
     EXPECT_EQ(LoiMontree(), "MS");
     EXPECT_EQ(quitte.count(), 0);
     EXPECT_TRUE(ecran->isVisible());
+    // The opened list shows names beside the keys, and the field holds the key.
+    auto* vue = deroule();
+    EXPECT_GT(vue->viewport()->width(), vue->fontMetrics().horizontalAdvance("MSC15 – " + QTexte(94)));
+    QTest::keyClick(vue, Qt::Key_Home);
+    QTest::keyClick(vue, Qt::Key_Return);
+    LaisseFaire();
+    EXPECT_EQ(LoiMontree(), "CYC");
 }
 
 TEST_F(SaisieExemple, APendingEditOfAZoneIsTakenOverOrRefused) {
@@ -174,8 +176,8 @@ TEST_F(SaisieExemple, AnEditedEndStartsTheNextZone) {
     FrappeDans(*ecran, "Text15", "22.5");
     Clique("Suivante");
     EXPECT_EQ(TexteDe("Text14"), "22.5") << "though that zone was entered before";
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 1), "22.5");
-    EXPECT_EQ(Controle<Grille>(*ecran, "Grille")->Cellule(1, 4), Controle<Grille>(*ecran, "Grille")->Cellule(0, 5));
+    EXPECT_EQ(Cellule(1, 1), "22.5");
+    EXPECT_EQ(Cellule(1, 4), Cellule(0, 5));
     EXPECT_EQ(Remarques(), "") << "the second zone has become a rise that closes";
 
     // A start of its own, an angle short of the turn and an end elsewhere are told, without a box.
@@ -187,10 +189,9 @@ TEST_F(SaisieExemple, AnEditedEndStartsTheNextZone) {
     FrappeDans(*ecran, "Text16", "60");
     FrappeDans(*ecran, "Text15", "6.25");
     Clique("Calculer");
-    const auto remarques = Remarques();
-    EXPECT_NE(remarques.find(Texte(TextePasUnTour) + " 350 "), std::string::npos) << remarques;
-    EXPECT_NE(remarques.find(Texte(TexteCameOuverte) + " 5 "), std::string::npos) << remarques;
-    EXPECT_NE(remarques.find(Texte(TexteMouvementFinit) + " 6.25 "), std::string::npos) << remarques;
+    for (const auto& [texte, valeur] :
+         {std::pair{TextePasUnTour, " 350 "}, {TexteCameOuverte, " 5 "}, {TexteMouvementFinit, " 6.25 "}})
+        EXPECT_NE(Remarques().find(Texte(texte) + valeur), std::string::npos) << Remarques();
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
 }
 
@@ -223,14 +224,11 @@ TEST_F(SaisieExemple, ARefusedEntryStandsSelected) {
 }
 
 TEST_F(SaisieExemple, TheWheelLeavesListsWithoutFocus) {
-    auto* points = Controle<QComboBox>(*ecran, "Combo2");
-    auto* loi = Controle<QComboBox>(*ecran, "Combo1");
-    auto* pesanteur = Controle<QScrollBar>(*ecran, "HScroll1");
-    Controle<QWidget>(*ecran, "Text1")->setFocus();
+    Le<QWidget>("Text1")->setFocus();
+    auto *points = Le<QComboBox>("Combo2"), *loi = Le<QComboBox>("Combo1");
+    auto* pesanteur = Le<QScrollBar>("HScroll1");
     const int angle = pesanteur->value();
-    for (QWidget* widget : {static_cast<QWidget*>(points), static_cast<QWidget*>(loi), static_cast<QWidget*>(pesanteur),
-                            static_cast<QWidget*>(points->lineEdit())})
-        Roule(*widget);
+    for (QWidget* widget : std::initializer_list<QWidget*>{points, points->lineEdit(), loi, pesanteur}) Roule(*widget);
     EXPECT_EQ(points->currentText(), "2");
     EXPECT_EQ(LoiMontree(), "MS");
     EXPECT_EQ(pesanteur->value(), angle);
@@ -250,7 +248,7 @@ TEST_F(SaisieDeuxTours, ZonesBehindABoxAreInDegrees) {
     Clique("Calculer");
     ASSERT_FALSE(guette.boites.empty());
     EXPECT_EQ(pendant, avant);
-    EXPECT_TRUE(Controle<QPushButton>(*ecran, "Calculer")->isVisible());
+    EXPECT_TRUE(Le<QPushButton>("Calculer")->isVisible());
 }
 
 TEST_F(SaisieDeuxTours, AfterALawFileTheListsKeepTheNames) {
@@ -258,28 +256,22 @@ TEST_F(SaisieDeuxTours, AfterALawFileTheListsKeepTheNames) {
     FrappeDans(*ecran, "Text6", "1");
     Retour(*ecran);
     QSignalSpy nouvelle(ecran.get(), &FenetreEnfant::Annonce);
-    dialogues.fichiers = {CheminAppli / "Profils" / "Aller-retour.Lmi"};
-    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
-    Frappe(*ecran, "Fichier");
-    Retour(*ecran);
+    dialogues.fichiers = {Exemple("Aller-retour.Lmi")};
+    ChoisitLoi("Fichier");
     ASSERT_EQ(nouvelle.count(), 1);
     EXPECT_EQ(S(nouvelle[0][0].toString()),
               Texte(TexteLoiDeFichierLue) + " Aller-retour.Lmi. " + Texte(TexteLoisAuDemarrage));
     // Return over "Fichier" does not ask for a file again.
-    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
+    Le<QWidget>("Combo1")->setFocus(Qt::TabFocusReason);
     Retour(*ecran);
     EXPECT_TRUE(AFocus("CoefSymetrie"));
 
     Ouvre();
-    auto* lois = Controle<QComboBox>(*ecran, "Combo1");
-    EXPECT_GE(lois->findText("MSC50"), 0);
-    EXPECT_GE(lois->findText("Fichier"), 0);
-    Controle<QWidget>(*ecran, "Combo1")->setFocus(Qt::TabFocusReason);
-    Frappe(*ecran, "MSC50");
-    Retour(*ecran);
+    EXPECT_GE(Le<QComboBox>("Combo1")->findText("Fichier"), 0);
+    ChoisitLoi("MSC50");
     Clique("Suivante");
     EXPECT_EQ(DerniereBoite(), Texte(511) + "\n" + Texte(TexteLoisAuDemarrage));
     EXPECT_TRUE(AFocus("Combo1"));
-    EXPECT_FALSE(LitFichierEtude(CheminAppli / "Profils" / "Exemple.Ang"));
+    EXPECT_FALSE(LitFichierEtude(Exemple("Exemple.Ang")));
     EXPECT_NE(DerniereBoite().find("\n" + Texte(TexteLoisAuDemarrage)), std::string::npos);
 }

@@ -82,6 +82,8 @@ void ExigeResultatsFinis() {
             throw ErreurExecution(NumeroErreur::ResultatNonFini, Texte(grandeur.texte));
     ExigeFinie(etude.resultats.Points, grandeursPoint);
     ExigeFinie(etude.resultats.Profil, grandeursProfil);
+    for (const Zone& zone : etude.donnees.Zones)
+        if (!std::isfinite(zone.Temps)) throw ErreurExecution(NumeroErreur::ResultatNonFini, Texte(704));
 }
 
 void ExigePointFini(long k) {

@@ -48,6 +48,7 @@ TEST_F(RouteLangue, ALanguageIsMadeTranslatedWorkedInAndDeleted) {
         EXPECT_TRUE(dialogues_.boites.empty());
         EXPECT_FALSE(Offertes(mdi).contains(NomLangueLongue)) << "at the next start";
     }
+    ChargeTextes(LaBase); // the next start
     MdiCamA mdi{configuration};
     EXPECT_EQ(Offertes(mdi).back(), NomLangueLongue);
     OuvreEditeur(mdi);

@@ -82,10 +82,7 @@ TEST(LoiConjugue, OdditiesOfTheLawAreKept) {
     EXPECT_EQ(Fyyo(trapeze, angle - 2.5, ecran), 0);
     EXPECT_EQ(ecran, std::vector<std::string>{"Not yet programmed"}) << "told once";
     EXPECT_EQ(Dms1(sinus, 0.1 * sinus.Flanc(), ecran), -sinus.C[22] / 2);
-    EXPECT_EQ(Dms1(sinus, 0.7 * sinus.Flanc(), ecran), -sinus.C[22] / 2);
-    EXPECT_NEAR(sinus.En(0.2 * sinus.Flanc()).omega, 0.8 * sinus.C[29], 1e-15);
-    EXPECT_NEAR(sinus.En(0).omega, sinus.C[29], 1e-15) << "starts at speed";
-
+    EXPECT_NEAR(sinus.En(0.2 * sinus.Flanc()).omega, 0.8 * sinus.C[29], 1e-15) << "starts at speed";
     ecran.clear();
     EXPECT_EQ(Ams1(trapeze, trapeze.Flanc() * 1.004, ecran), 0);
     EXPECT_EQ(Ams1(trapeze, trapeze.Flanc() * 1.0041, ecran), 0);
@@ -93,9 +90,6 @@ TEST(LoiConjugue, OdditiesOfTheLawAreKept) {
     EXPECT_EQ(ecran, (std::vector<std::string>{
                          "Message from function AMS1 :", "Z not in the range 0<= Z <=0.5", "Z = 0.50",
                          "Message from FUNCTION DMS1 :", "Z not in the range 0.5 <= Z <= 1", "Z = 0.49"}));
-    ecran.clear();
-    EXPECT_EQ(Fqq(sinus, 60, 2, ecran).omega, 0);
-    EXPECT_EQ(ecran, std::vector<std::string>{"This accelerationcurve not yet included"});
 }
 
 TEST(LoiConjugue, WithoutFlankStopOrAngleThereIsNoLaw) {
@@ -103,5 +97,4 @@ TEST(LoiConjugue, WithoutFlankStopOrAngleThereIsNoLaw) {
     EXPECT_THROW(RemplitConstantes(stops, 0, partConstante, 2), ErreurExecution);
     EXPECT_THROW(RemplitConstantes(stops, angle, 1, 2), ErreurExecution);
     EXPECT_THROW(RemplitConstantes(stops, angle, -1, 2), ErreurExecution) << "the mean velocity cannot be reached";
-    EXPECT_EQ(RemplitConstantes(stops, angle, 0, 2).C[34], 0) << "no part at constant velocity";
 }

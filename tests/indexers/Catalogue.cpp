@@ -63,18 +63,6 @@ TEST_F(CalculatorCatalogue, ANewRowIsCheckedInOrder) {
     EXPECT_THROW(AjouteLigne(galets, "G-035", bonnes), ErreurExecution);
 }
 
-TEST_F(CalculatorCatalogue, ADatabaseThatIsHeldIsTold) {
-    try {
-        BaseDonnees::Ouvre(base.Chemin(), MotDePasseBase, BaseDonnees::Usage::Exclusif);
-        FAIL() << "held for one program alone";
-    } catch (const ErreurExecution& erreur) {
-        EXPECT_EQ(erreur.numero, NumeroErreur::BaseOccupee);
-    }
-    base.Ouvre(BaseDonnees::Usage::Lecture);
-    EXPECT_THROW(AjouteLigne(galets, "N", {}), ErreurExecution) << "a reader writes nothing";
-    EXPECT_FALSE(ChercheLigne(galets, "N"));
-}
-
 TEST_F(CalculatorCatalogue, ARowThatWasStoredSurvivesAKill) {
     LaBase = {};
     int dernier = -1;

@@ -1,24 +1,21 @@
 #include "indexers/SourceLoi.h"
 
 #include "outils/Catalogue.h"
+#include "outils/Echec.h"
 
 namespace {
 
 class LawSource : public AvecCatalogue {
 protected:
-    static SourceLoi Speciale(double a, double b, double c) {
-        SourceLoi source;
-        source.NomLoi = NomLoiSpe;
-        source.CoefA = a;
-        source.CoefB = b;
-        source.CoefC = c;
-        source.CoefSymetrie = 0.5;
-        return source;
-    }
     static SourceLoi DuCatalogue(const char* nom) {
         SourceLoi source;
         source.NomLoi = nom;
         source.CoefSymetrie = 0.5;
+        return source;
+    }
+    static SourceLoi Speciale(double a, double b, double c) {
+        SourceLoi source = DuCatalogue(NomLoiSpe);
+        source.CoefA = a, source.CoefB = b, source.CoefC = c;
         return source;
     }
 };
@@ -59,12 +56,7 @@ TEST_F(LawSource, TenthsThatAddUpLeaveNothing) {
 
 TEST_F(LawSource, WhatNoLawCanBeMadeOfFails) {
     const auto numero = [&](const SourceLoi& source) {
-        try {
-            LoiDeSource(source, etude.lois.ListeLois);
-        } catch (const ErreurExecution& erreur) {
-            return erreur.numero;
-        }
-        return NumeroErreur{};
+        return EchecDe([&] { LoiDeSource(source, etude.lois.ListeLois); }).numero;
     };
     EXPECT_EQ(numero(DuCatalogue("ms")), NumeroErreur::IndiceHorsLimites);
     EXPECT_EQ(numero(Speciale(0.5, 0.5, 0)), NumeroErreur::DivisionParZero);

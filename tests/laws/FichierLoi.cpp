@@ -1,7 +1,6 @@
 #include "laws/FichierLoi.h"
 
 #include "outils/Catalogue.h"
-#include "planecams/CamesPlates.h"
 
 #include <algorithm>
 
@@ -49,18 +48,6 @@ TEST_F(FichierLoi, WhatIsReadIsTheLawShiftedAndWithoutSigns) {
     EXPECT_NEAR(etude.lois.ListeLois[1].Cv, 2, 1e-9);
     EXPECT_EQ(ChercheLoi("CYC"), 0) << "the catalogue is gone until the next start";
     EXPECT_EQ(NomsLoisZones().size(), 13U) << "its names are not";
-}
-
-TEST_F(FichierLoi, AFileDrivesTheOneZoneOfAStudy) {
-    Evalue("CYC", 720);
-    LitLoi(ComposeFichierLoi());
-    PoseMecanismeBras();
-    etude.donnees.PointsParDegre = 2;
-    PoseZones({{25, 40, 360, NomLoiFichier}});
-    CalculeCameAngulaire();
-    EXPECT_EQ(etude.resultats.NombrePoints, 720);
-    EXPECT_NEAR(etude.resultats.Mouvement[361].Course, 32.5, 1e-9) << "half of the stroke, one step late";
-    for (const auto& m : etude.resultats.Mouvement) ASSERT_GE(m.Vitesse, 0);
 }
 
 TEST_F(FichierLoi, AShortFileChangesNothing) {

@@ -1,39 +1,19 @@
 // Files, exports and reports of a study of two cams.
 #include "conjugate/DonneesPaire.h"
 #include "conjugate/ExemplePaire.h"
-#include "outils/DialoguesScript.h"
-#include "outils/ImprimanteNotee.h"
+#include "outils/LesLignes.h"
+#include "studies/EtudeImprimee.h"
 #include "studies/Exports.h"
-#include "studies/FichierEtude.h"
-#include "studies/RapportsCames.h"
-
-#include <sstream>
 
 namespace {
 
-class EtudePaire : public AvecCatalogue {
-protected:
-    DialoguesScript dialogues;
-    ImprimanteNotee imprimante;
+using M = MarqueImpression;
 
+class EtudePaire : public EtudeImprimee {
+protected:
     EtudePaire() {
         PosePaire();
         CalculeEtude();
-    }
-    static std::vector<std::string> Lignes(const std::string& texte) {
-        std::vector<std::string> lignes;
-        std::istringstream flux(texte);
-        for (std::string ligne; std::getline(flux, ligne);) lignes.push_back(Trim(ligne));
-        return lignes;
-    }
-    std::string Imprime(MarqueImpression marque) {
-        MarquesImpression marques{};
-        marques.at(static_cast<std::size_t>(marque)) = true;
-        ImprimeRapportsCames(imprimante, marques);
-        std::string texte;
-        for (const auto& page : imprimante.pages)
-            for (const auto& ligne : page.lignes) texte += ligne.Texte() + "\n";
-        return texte;
     }
     static std::size_t Fois(const std::string& texte, const std::string& quoi) {
         std::size_t fois = 0;
@@ -45,13 +25,8 @@ protected:
 } // namespace
 
 TEST_F(EtudePaire, TheWorkedExampleIsReadSavedAndCalculatedWithoutABox) {
-    etude = Etude{};
-    ChargeLois();
-    ASSERT_TRUE(LitFichierEtude(CheminAppli / NomDossierEtudes / "Conjuguees.Cjg"));
-    CalculeEtude();
-    EXPECT_TRUE(SansErreur());
+    Calcule("Conjuguees.Cjg", 2);
     EXPECT_TRUE(dialogues.boites.empty());
-    EXPECT_EQ(etude.passes[CameGuide].resultats.NombrePoints, 720);
     const std::string fichier = ComposeFichierEtude(LeTypeEtude(), '.');
     const std::vector<PasseEtude> passes = etude.passes;
     VideEtude();
@@ -62,15 +37,12 @@ TEST_F(EtudePaire, TheWorkedExampleIsReadSavedAndCalculatedWithoutABox) {
 }
 
 TEST_F(EtudePaire, PointsAndScriptsHoldBothCams) {
-    const auto points = Lignes(ComposeFichierPoints());
+    const auto points = LesLignes(ComposeFichierPoints());
     ASSERT_EQ(points.size(), 2u * (3 + 721) + 1);
     EXPECT_EQ(points[0], "Rayon du galet guide ,15.5");
     EXPECT_EQ(points[1], "Point à point came guide");
-    EXPECT_EQ(points[2], "");
     EXPECT_EQ(points[4], ".5," + Format(etude.passes[CameGuide].resultats.Points[1].Rayon, "###.######"));
-    EXPECT_EQ(points[3 + 721], "");
     EXPECT_EQ(points[4 + 721], "Rayon du galet suiveur ,18.25");
-    EXPECT_EQ(points[5 + 721], "Point à point came suiveuse");
     EXPECT_EQ(points.back(), "360," + Format(etude.passes[CameSuiveuse].resultats.Points[720].Rayon, "###.######"));
 
     const auto scripts = LesScripts();
@@ -82,50 +54,31 @@ TEST_F(EtudePaire, PointsAndScriptsHoldBothCams) {
         EXPECT_EQ(Fois(script, "CERCLE "), 2u) << "both rollers stand in each file";
         EXPECT_NE(script.find(" d 31"), std::string::npos);
         EXPECT_NE(script.find(" d 36.5"), std::string::npos);
-        const auto lignes = Lignes(script);
-        const auto debut = std::find(lignes.begin(), lignes.end(), "_pline");
-        ASSERT_NE(debut, lignes.end());
-        EXPECT_EQ(lignes.end() - debut, 721);
         const auto& p = etude.passes[came].resultats.Profil[720];
-        EXPECT_EQ(lignes.back(), StrTrim(p.XInterieur) + "," + StrTrim(p.YInterieur));
+        EXPECT_EQ(LesLignes(script).back(), StrTrim(p.XInterieur) + "," + StrTrim(p.YInterieur));
     }
 }
 
 TEST_F(EtudePaire, ReportsNameBothCams) {
-    const std::string donnees = Imprime(MarqueImpression::Donnees);
-    EXPECT_NE(donnees.find("Came guide G1 "), std::string::npos);
-    EXPECT_NE(donnees.find("Came suiveuse G2 "), std::string::npos);
-    EXPECT_NE(donnees.find("18.25"), std::string::npos);
-    imprimante = {};
-    const std::string remarquables = Imprime(MarqueImpression::PointsRemarquables);
-    for (const PasseEtude& passe : etude.passes)
-        EXPECT_NE(remarquables.find(Format(passe.resultats.RayonMax, "###.###")), std::string::npos);
-    EXPECT_NE(remarquables.find("Fermeture de la paire"), std::string::npos);
-    EXPECT_EQ(remarquables.find(Texte(234)), std::string::npos) << "nothing is known of the mass of the cams";
-    imprimante = {};
-    const std::string forces = Imprime(MarqueImpression::PointsForces);
-    EXPECT_EQ(Fois(forces, "Point à point Forces : Came guide"), 1u);
-    EXPECT_EQ(Fois(forces, "Point à point Forces : Came suiveuse"), 1u);
-    imprimante = {};
-    const std::string points = Imprime(MarqueImpression::PointsMouvement);
-    const auto& p = etude.passes[CameSuiveuse].resultats.Points[301];
-    EXPECT_NE(points.find("O1 - G2"), std::string::npos);
-    EXPECT_NE(points.find(Format(p.Rayon, "###.000")), std::string::npos);
-    EXPECT_NE(points.find("centre de la came aux centres"), std::string::npos) << "what the headings stand for";
-    imprimante = {};
-    const std::string profil = Imprime(MarqueImpression::Profil);
-    EXPECT_NE(profil.find("Données du profil"), std::string::npos);
-    EXPECT_NE(profil.find("Echelle : "), std::string::npos);
+    Imprime({M::Donnees, M::PointsRemarquables, M::PointsForces});
+    const std::string texte = TexteImprime();
+    for (const std::string& morceau :
+         {std::string("Came guide G1 "), std::string("Came suiveuse G2 "), std::string("18.25"),
+          std::string("Fermeture de la paire"), Format(etude.passes[CameGuide].resultats.RayonMax, "###.###"),
+          Format(etude.passes[CameSuiveuse].resultats.RayonMax, "###.###")})
+        EXPECT_NE(texte.find(morceau), std::string::npos) << morceau;
+    EXPECT_EQ(texte.find(Texte(234)), std::string::npos) << "nothing is known of the mass of the cams";
+    for (const char* came : {"Came guide", "Came suiveuse"})
+        EXPECT_GE(Fois(texte, "Point à point Forces : " + std::string(came)), 1u) << came;
+    Imprime({M::PointsMouvement});
+    EXPECT_NE(TexteImprime().find(Format(etude.passes[CameSuiveuse].resultats.Points[301].Rayon, "###.000")),
+              std::string::npos);
+    Imprime({M::Profil});
     std::size_t contours = 0;
-    for (const auto& page : imprimante.pages)
-        for (const auto& trace : page.traces) contours += trace.points.size() == 721 ? 1 : 0;
+    for (const auto& trace : imprimante.pages[0].traces) contours += trace.points.size() == 721 ? 1 : 0;
     EXPECT_EQ(contours, 4u) << "profile and pitch curve of both";
-}
-
-TEST_F(EtudePaire, GraphsOfTheArmOnceAndOfTheForcesForEachCam) {
-    Imprime(MarqueImpression::GraphiqueMouvement);
-    EXPECT_EQ(imprimante.pages.size(), 1u);
-    imprimante = {};
-    const std::string texte = Imprime(MarqueImpression::GraphiqueForces);
-    EXPECT_EQ(Fois(texte, "Graphiques : Came"), 2u);
+    Imprime({M::GraphiqueMouvement});
+    EXPECT_EQ(imprimante.pages.size(), 1u) << "of the arm once";
+    Imprime({M::GraphiqueForces});
+    EXPECT_EQ(Fois(TexteImprime(), "Graphiques : Came"), 2u) << "of the forces for each cam";
 }

@@ -1,20 +1,15 @@
 #include "studies/Exports.h"
 
-#include "core/Lignes.h"
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/LesLignes.h"
 #include "studies/FichierEtude.h"
 
 #include <cmath>
 #include <sstream>
 
 namespace {
-
-std::vector<std::string> LesLignes(const std::string& contenu) {
-    std::vector<std::string> lignes;
-    for (Lignes reste(contenu); !reste.Fin();) lignes.emplace_back(reste.Suivante());
-    return lignes;
-}
 
 std::pair<double, double> LeCouple(const std::string& texte) {
     return {Val(texte), Val(std::string_view(texte).substr(texte.find(',') + 1))};
@@ -82,15 +77,14 @@ TEST_F(Exports, InnerScriptBearsTheArmOfAnArmCamOnly) {
 }
 
 TEST_F(Exports, FilesAreAskedForOneByOneAndACancelledOneIsSkipped) {
-    const auto dossier = std::filesystem::path(testing::TempDir());
+    const DossierTemporaire dossier;
     dialogues.fichiers = {dossier / "e.Pnt", std::nullopt, dossier / "e_Int.Scr"};
     FichiersPoints();
     FichiersScripts();
-    EXPECT_TRUE(std::filesystem::exists(dossier / "e.Pnt"));
-    EXPECT_FALSE(std::filesystem::exists(dossier / "e_Ext.Scr"));
-    EXPECT_TRUE(std::filesystem::exists(dossier / "e_Int.Scr"));
+    EXPECT_EQ(LitBrut(dossier / "e.Pnt"), ComposeFichierPoints());
+    EXPECT_EQ(LitBrut(dossier / "e_Int.Scr"), ComposeScriptInterieur());
+    EXPECT_EQ(dossier.NombreFichiers(), 2);
     EXPECT_EQ(dialogues.demandes, (std::vector<std::string>{Texte(124), Texte(315), Texte(316)}));
-    for (const char* nom : {"e.Pnt", "e_Int.Scr"}) std::filesystem::remove(dossier / nom);
     EXPECT_EQ(NomSansExtension("came.v2.Ang"), "came.v2");
     EXPECT_EQ(NomSansExtension("came.v2"), "came.v2");
 }

@@ -1,25 +1,16 @@
 #include "studies/NotesEtude.h"
 
 #include "cams/Courbure.h"
-#include "cylindrical/DeveloppeeCyl.h"
 #include "cylindrical/GeometrieCyl.h"
-#include "data/Textes.h"
-#include "outils/Catalogue.h"
-#include "outils/DialoguesScript.h"
-#include "outils/ImprimanteNotee.h"
-#include "planecams/SchemasCames.h"
-#include "studies/DessinCame.h"
-#include "studies/RapportsCames.h"
+#include "studies/EtudeImprimee.h"
 #include "studies/ValeursRemarquables.h"
 
 #include <set>
 
 namespace {
 
-class NotesEtudes : public AvecCatalogue {
+class NotesEtudes : public EtudeImprimee {
 protected:
-    DialoguesScript dialogues;
-
     void Pose(const char* type, std::int16_t pointsParDegre) {
         etude.donnees.TypeCame = type;
         etude.donnees.NomFichier = "Essai";
@@ -42,28 +33,16 @@ protected:
     static bool A(const Notes& notes, const char* valeur, int texte) {
         return notes.Textes(valeur).find(Texte(texte)) != std::string::npos;
     }
-    static ImprimanteNotee Imprime(MarqueImpression marque) {
-        MarquesImpression marques{};
-        marques.at(static_cast<std::size_t>(marque)) = true;
-        ImprimanteNotee imprimante;
-        ImprimeRapportsCames(imprimante, marques);
-        return imprimante;
-    }
-    static std::size_t EnRouge(const ImprimanteNotee& imprimante) {
+    /// Points that the profile is printed with in red.
+    std::size_t EnRouge() {
+        Imprime({MarqueImpression::Profil});
         std::size_t points = 0;
-        for (const auto& page : imprimante.pages)
-            for (const auto& trace : page.traces)
-                if (trace.couleur == Couleur::Repere && trace.points.size() > 2) points += trace.points.size();
+        for (const auto& courbe : Courbes(Couleur::Repere)) points += courbe.size();
         return points;
     }
 };
 
 } // namespace
-
-TEST_F(NotesEtudes, EveryNoteStandsBesideAValue) {
-    for (const NoteValeur& note : LesNotes())
-        EXPECT_NE(TrouveChamp(LesValeursRemarquables(), note.valeur), nullptr) << note.valeur;
-}
 
 TEST_F(NotesEtudes, ADevelopedSlopeIsTrueAtOnePointADegree) {
     // A cycloid climbs at most twice as steep as on the average.
@@ -78,11 +57,9 @@ TEST_F(NotesEtudes, ADevelopedSlopeIsTrueAtOnePointADegree) {
         EXPECT_EQ(notes.Vide(), points == 1);
         const auto* pente = TrouveChamp(LesValeursRemarquables(), "PenteVraie");
         EXPECT_EQ(pente->texte(LeTypeEtude()) != 0, points > 1);
-        std::string page;
-        for (const std::string& ligne : Imprime(MarqueImpression::PointsRemarquables).pages.front().Textes()) {
-            EXPECT_LE(NombreCaracteres(ligne), 78) << ligne;
-            page += ligne + "\n";
-        }
+        Imprime({MarqueImpression::PointsRemarquables});
+        for (const std::string& ligne : Lignes()) EXPECT_LE(NombreCaracteres(ligne), 78) << ligne;
+        const std::string page = TexteImprime();
         EXPECT_EQ(page.find(Texte(223) + " (1)") != std::string::npos, points > 1) << page;
         EXPECT_EQ(page.find("(1) " + Texte(TexteArcDegre).substr(0, 20)) != std::string::npos, points > 1);
     }
@@ -138,7 +115,7 @@ TEST_F(NotesEtudes, UndercutIsToldByCamAnglesAndDrawnInRed) {
     etude.donnees.RayonGalet = 2;
     PoseZones({{0, 30, 40, "MS"}, {30, 30, 140, "MS"}, {30, 0, 180, "MS"}});
     EXPECT_FALSE(A(Calcule(), "RayonCourbureMin", TexteTropCourbe));
-    EXPECT_EQ(EnRouge(Imprime(MarqueImpression::Profil)), 0U);
+    EXPECT_EQ(EnRouge(), 0U);
 
     etude.donnees.RayonGalet = 25;
     const Notes notes = Calcule();
@@ -156,50 +133,5 @@ TEST_F(NotesEtudes, UndercutIsToldByCamAnglesAndDrawnInRed) {
     EXPECT_EQ(angles, annonces);
     EXPECT_TRUE(A(notes, "RayonCourbureMin", TexteTropCourbe));
     EXPECT_NE(notes.Textes("RayonCourbureMin").find("°-"), std::string::npos);
-    EXPECT_GT(EnRouge(Imprime(MarqueImpression::Profil)), 2 * angles.size());
-
-    // Wherever a flank of the groove turns back on itself it is red.
-    etude.donnees.PointsParDegre = 1;
-    Calcule();
-    const Developpee d = CalculeDeveloppee();
-    const TourDeveloppe& tour = d.tours.front();
-    const auto parties = PartiesTropCourbees(tour.interieur, tour.exterieur);
-    for (const auto* flanc : {&tour.interieur, &tour.exterieur}) {
-        int boucles = 0;
-        for (std::size_t i = 0; i + 1 < flanc->size(); ++i) {
-            if ((*flanc)[i + 1].x >= (*flanc)[i].x) continue;
-            ++boucles;
-            EXPECT_TRUE(std::any_of(parties.begin(), parties.end(), [&](const auto& partie) {
-                return partie.data() <= &(*flanc)[i + 1] && &(*flanc)[i] < partie.data() + partie.size();
-            })) << i;
-        }
-        EXPECT_GT(boucles, 0) << "the roller is far too large";
-    }
-}
-
-TEST_F(NotesEtudes, WhatPushesATranslatingFollowerUpPushesItAgainstTheCam) {
-    Pose("Lineaire", 1);
-    PoseZones({{50, 80, 180, "MS"}, {80, 50, 180, "MS"}});
-    Calcule();
-    const double debout = etude.resultats.Points[90].ForceGalet;
-    etude.donnees.MasseA = 0;
-    Calcule();
-    EXPECT_GT(debout, etude.resultats.Points[90].ForceGalet) << "gravity at 90 degrees points up";
-    const auto milieu = [](const ImprimanteNotee& imprimante, Couleur couleur, bool premier) {
-        const std::vector<PointDessin>* points = nullptr;
-        for (const auto& trace : imprimante.pages.front().traces)
-            if (trace.couleur == couleur && (!premier || points == nullptr)) points = &trace.points;
-        return points == nullptr ? PointDessin{} : *points->begin();
-    };
-    ImprimanteNotee dessin, schema;
-    DessineCamePlate(*dessin.Feuille({0, 0}, 200, 200), 0);
-    EXPECT_GT(milieu(dessin, Couleur::Galet, true).y, milieu(dessin, Couleur::Axe, true).y) << "the roller lies below";
-    DessineSchemaTranslation(*schema.Feuille({0, 0}, 200, 200), "");
-    const auto& traces = schema.pages.front().traces;
-    const auto fleche =
-        std::find_if(traces.begin(), traces.end(), [](const auto& t) { return t.couleur == Couleur::Repere; });
-    ASSERT_NE(fleche, traces.end());
-    EXPECT_LT(fleche->points.back().y, fleche->points.front().y) << "y positive is up";
-    const double O = milieu(schema, Couleur::Graduation, true).y;
-    EXPECT_GT(milieu(schema, Couleur::Galet, true).y, O);
+    EXPECT_GT(EnRouge(), 2 * angles.size());
 }

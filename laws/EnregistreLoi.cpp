@@ -50,7 +50,7 @@ std::optional<std::string> EnregistreLoi(const std::string& nom) {
     }
     const std::string motif = std::string("*.") + genre->extension;
     const auto chemin = LesDialogues().FichierASauver({Texte(357),
-                                                       CheminAppli / NomDossierEtudes,
+                                                       CheminEtudes,
                                                        nom + "." + genre->extension,
                                                        {{Texte(genre->texte) + " (" + motif + ")", motif}}});
     if (!chemin || chemin->empty()) return {};

@@ -147,7 +147,7 @@ bool CylindriqueIndexeur::EcritFichier(const std::string& libelle, const char* e
                                        const std::string& contenu) {
     const std::string motif = std::string("*.") + extension;
     const auto chemin = LesDialogues().FichierASauver({titre,
-                                                       CheminAppli / NomDossierEtudes,
+                                                       CheminEtudes,
                                                        nom_.empty() ? "" : nom_ + "." + extension,
                                                        {{libelle + " (" + motif + ")", motif}}});
     if (!chemin) return false;

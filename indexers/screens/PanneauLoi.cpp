@@ -143,7 +143,7 @@ void PanneauLoi::MontreD() {
 
 std::string DemandeFichierLoi() {
     const auto chemin = LesDialogues().FichierAOuvrir(
-        {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
+        {Texte(125), CheminEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     return chemin ? S(QChemin(*chemin)) : std::string();
 }
 

@@ -183,7 +183,7 @@ TEST_F(Reprise, AStudyOfALawComesBackWithItsLawAndUnit) {
 }
 
 TEST_F(Reprise, TheRecoveryFileFollowsTheEntryAndGoesWithIt) {
-    const std::filesystem::path fichier = FichierReprise(CheminAppli);
+    const std::filesystem::path fichier = FichierReprise(CheminUtilisateur);
     TapeEtude();
     ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(fichier); }, 5000));
     EXPECT_NE(LitFichierEntier(fichier).find("80.125"), std::string::npos);
@@ -205,7 +205,7 @@ TEST_F(Reprise, TheRecoveryFileFollowsTheEntryAndGoesWithIt) {
 }
 
 TEST_F(Reprise, AFolderThatCannotBeWrittenIsToldOnce) {
-    const std::filesystem::path dossier = FichierReprise(CheminAppli).parent_path();
+    const std::filesystem::path dossier = FichierReprise(CheminUtilisateur).parent_path();
     EcritFichierEntier(dossier, "a file where the folder should be");
     TapeEtude();
     ASSERT_TRUE(QTest::qWaitFor([this] { return Etat().starts_with(Texte(934)); }, 5000));
@@ -214,7 +214,7 @@ TEST_F(Reprise, AFolderThatCannotBeWrittenIsToldOnce) {
 
 TEST_F(RepriseTuee, DISABLED_TypesAndIsKilled) {
     TapeEtude();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(FichierReprise(CheminAppli)); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(FichierReprise(CheminUtilisateur)); }, 5000));
     QTest::qWait(3000); // the field typed last is in it too
     std::raise(SIGKILL);
 }

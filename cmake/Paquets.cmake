@@ -15,7 +15,7 @@ endfunction()
 # A folder that needs nothing but a desktop: the libraries stand in it, too.
 function(velorin_archive)
   # An old-style path, which also holds for what the libraries need themselves.
-  set_target_properties(velorin velorin-batch PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
+  set_target_properties(velorin velorin-batch PROPERTIES INSTALL_RPATH "$ORIGIN/lib" BUILD_WITH_INSTALL_RPATH ON)
   target_link_options(velorin PRIVATE -Wl,--disable-new-dtags)
   target_link_options(velorin-batch PRIVATE -Wl,--disable-new-dtags)
 

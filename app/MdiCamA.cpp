@@ -53,7 +53,8 @@ constexpr QSize TailleFenetre(1320, 900);
 } // namespace
 
 MdiCamA::MdiCamA(const Configuration& configuration)
-    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel), travaux_(FichierReprise(CheminUtilisateur)) {
+    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel),
+      travaux_(FichierReprise(CheminUtilisateur)) {
     setObjectName(QStringLiteral("MdiCamA"));
     ChargeTextesQt(LangueTravail);
     setCentralWidget(bureau_);

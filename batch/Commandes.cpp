@@ -63,8 +63,8 @@ void EcritAide(std::ostream& sortie) {
 /// Opens the catalogue beside other readers, and loads the texts.
 void OuvreCatalogue(const LigneCommande& ligne) {
     PrendDossiers(DossierExecutable(), LesDossiersPoste());
-    LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? BaseALire() : std::filesystem::path(ligne.base),
-                                MotDePasseBase, BaseDonnees::Usage::Lecture);
+    LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? BaseALire() : std::filesystem::path(ligne.base), MotDePasseBase,
+                                BaseDonnees::Usage::Lecture);
     LangueTravail = ligne.langue.empty() ? LitConfiguration(ConfigurationALire()).langue : ligne.langue;
     const auto langues = LanguesCompletes(LaBase);
     if (!ligne.langue.empty() && std::find(langues.begin(), langues.end(), ligne.langue) == langues.end())

@@ -17,7 +17,7 @@ std::filesystem::path ConfigurationALire();
 
 /// Brings the database `chemin` up to the delivered one `livree`, in one transaction; makes it where there is none, and
 /// leaves it where it is of the same version.
-/// The delivered texts and laws are those of the program: their fields take its values. What the user added stays: fields,
-/// records, and in the catalogues the values of any record that stands there.
+/// The delivered texts and laws are those of the program: their fields take its values. What the user added stays:
+/// fields, records, and in the catalogues the values of any record that stands there.
 /// @throws ErreurExecution as `PrepareDossierUtilisateur`.
 void MetAJourBase(const std::filesystem::path& livree, const std::filesystem::path& chemin);

@@ -8,6 +8,7 @@
 #include "globoidal/screens/GlobiqueOscillateur.h"
 #include "inertia/FichierInerties.h"
 #include "inertia/screens/Inerties.h"
+#include "languages/screens/Persona.h"
 #include "laws/screens/EcranLoi.h"
 #include "planecams/screens/DatoCama.h"
 #include "planecams/screens/DoProfil.h"
@@ -39,6 +40,7 @@ constexpr EcranEnfant ecrans[] = {
     {"LoiSpe", CreeLoi, 6},
     {"LoiHes", CreeLoi, 8},
     {"LoiMSHDis", CreeLoi, 7},
+    {"Persona", Cree<Persona>},
     {"GlobiqueIndexeur", Cree<GlobiqueIndexeur>, 1},
     {"GlobiqueOscillateur", Cree<GlobiqueOscillateur>, 2},
     {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},

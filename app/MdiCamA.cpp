@@ -187,7 +187,7 @@ void MdiCamA::ChangeLangue(const std::string& langue) {
     if (RotationEmpeche()) return AppliqueTextes(); // the mark goes back to the language in use
     LangueTravail = langue;
     ChargeTextes(LaBase);
-    ChargeTextesQt(langue);
+    ChargeTextesQt(LangueTravail); // one that was deleted meanwhile has given way to another
     AppliqueTextes();
     FermeEcrans();
     bureau_->Dit(&FenetreEnfant::AppliqueTextes);

@@ -1,15 +1,13 @@
 #include "core/Notes.h"
 
+#include "core/Utf8.h"
+
 #include <algorithm>
 
 namespace {
 
 std::string Numero(std::size_t rang) {
     return "(" + std::to_string(rang + 1) + ") ";
-}
-
-long Caracteres(std::string_view texte) {
-    return std::count_if(texte.begin(), texte.end(), [](char c) { return (c & 0xC0) != 0x80; }); // UTF-8
 }
 
 /// Appends a note cut into lines between its words.

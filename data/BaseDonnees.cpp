@@ -6,6 +6,8 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -21,6 +23,11 @@ std::string Entoure(const std::string& nom) {
     std::string sortie = "\"";
     for (const char c : nom) sortie += c == '"' ? std::string("\"\"") : std::string(1, c);
     return sortie + "\"";
+}
+
+std::string Colonne(const DefinitionChamp& champ) {
+    const std::string taille = champ.taille > 0 ? "(" + std::to_string(champ.taille) + ")" : std::string();
+    return Entoure(champ.nom) + (champ.numerique ? " REAL" : " TEXT" + taille);
 }
 
 [[noreturn]] void SignaleErreur(sqlite3* base, const std::string& detail) {
@@ -93,6 +100,28 @@ std::size_t PositionCle(sqlite3* base, const std::string& table) {
     const std::string nom = reinterpret_cast<const char*>(sqlite3_column_text(index.get(), 1));
     const Requete champ = PrepareRequete(base, "PRAGMA index_info(" + Entoure(nom) + ")", table);
     return LigneSuivante(base, champ, table) ? static_cast<std::size_t>(sqlite3_column_int(champ.get(), 1)) : 0;
+}
+
+struct Champ {
+    std::string nom, type;
+};
+
+std::vector<Champ> LitChamps(sqlite3* base, const std::string& table) {
+    const Requete requete = PrepareRequete(base, "PRAGMA table_info(" + Entoure(table) + ")", table);
+    std::vector<Champ> champs;
+    while (LigneSuivante(base, requete, table))
+        champs.push_back({EnTexte(LitColonne(requete, 1)), EnTexte(LitColonne(requete, 2))});
+    return champs;
+}
+
+/// The statements that make the indexes of a table.
+std::vector<std::string> DefinitionsIndex(sqlite3* base, const std::string& table) {
+    const Requete requete =
+        PrepareRequete(base, "SELECT sql FROM sqlite_master WHERE type = 'index' AND tbl_name = ?", table);
+    LieValeur(requete, 1, table);
+    std::vector<std::string> definitions;
+    while (LigneSuivante(base, requete, table)) definitions.push_back(EnTexte(LitColonne(requete, 0)));
+    return definitions;
 }
 
 sqlite3* OuvreFichier(const std::filesystem::path& chemin, const std::string& motDePasse, int mode) {
@@ -221,10 +250,12 @@ std::vector<std::string> BaseDonnees::NomsTables() {
 }
 
 DefinitionTable BaseDonnees::Definition(const std::string& table) {
-    const Requete lecture = PrepareRequete(base_, "PRAGMA table_info(" + Entoure(table) + ")", table);
     DefinitionTable definition;
-    while (LigneSuivante(base_, lecture, table))
-        definition.champs.push_back({EnTexte(LitColonne(lecture, 1)), EnTexte(LitColonne(lecture, 2)) == "REAL"});
+    for (const auto& [nom, type] : LitChamps(base_, table)) {
+        const auto taille = type.find('(');
+        definition.champs.push_back(
+            {nom, type == "REAL", taille == std::string::npos ? 0 : std::atoi(type.c_str() + taille + 1)});
+    }
     if (definition.champs.empty()) throw ErreurExecution(NumeroErreur::BaseIllisible, table);
     definition.cle = definition.champs[PositionCle(base_, table)].nom;
     return definition;
@@ -237,8 +268,7 @@ JeuEnregistrements BaseDonnees::OuvreTable(const std::string& table) {
 void BaseDonnees::CreeTable(const std::string& table, const std::vector<DefinitionChamp>& champs,
                             const std::string& cle) {
     std::string colonnes;
-    for (const auto& champ : champs)
-        colonnes += (colonnes.empty() ? "" : ", ") + Entoure(champ.nom) + (champ.numerique ? " REAL" : " TEXT");
+    for (const auto& champ : champs) colonnes += (colonnes.empty() ? "" : ", ") + Colonne(champ);
     Execute("CREATE TABLE " + Entoure(table) + " (" + colonnes + ")");
     Execute("CREATE UNIQUE INDEX " + Entoure(table + " " + cle) + " ON " + Entoure(table) + " (" + Entoure(cle) + ")");
 }
@@ -247,11 +277,49 @@ void BaseDonnees::RetireTable(const std::string& table) {
     Execute("DROP TABLE " + Entoure(table));
 }
 
-void BaseDonnees::CommenceTransaction() {
-    Execute("BEGIN");
+void BaseDonnees::AjouteChamp(const std::string& table, const DefinitionChamp& champ) {
+    for (const Champ& existant : LitChamps(base_, table))
+        if (sqlite3_stricmp(existant.nom.c_str(), champ.nom.c_str()) == 0)
+            throw ErreurExecution(NumeroErreur::AccesFichier, table + "." + champ.nom);
+    Execute("ALTER TABLE " + Entoure(table) + " ADD COLUMN " + Colonne(champ));
 }
-void BaseDonnees::ValideTransaction() {
-    Execute("COMMIT");
+
+/// The table is made anew without the field: not every version of the engine can drop one.
+void BaseDonnees::SupprimeChamp(const std::string& table, const std::string& champ) {
+    std::vector<Champ> champs = LitChamps(base_, table);
+    const auto supprime = std::find_if(champs.begin(), champs.end(), [&](const Champ& c) { return c.nom == champ; });
+    if (supprime == champs.end()) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, table + "." + champ);
+    if (static_cast<std::size_t>(supprime - champs.begin()) == PositionCle(base_, table))
+        throw ErreurExecution(NumeroErreur::AccesFichier, table + "." + champ);
+    champs.erase(supprime);
+    std::string colonnes, noms;
+    for (const Champ& reste : champs) {
+        const char* separateur = noms.empty() ? "" : ", ";
+        colonnes += separateur + Entoure(reste.nom) + " " + reste.type;
+        noms += separateur + Entoure(reste.nom);
+    }
+    const std::string ancienne = Entoure(table), nouvelle = Entoure(table + " sans " + champ);
+    Transaction transaction(*this);
+    const std::vector<std::string> index = DefinitionsIndex(base_, table);
+    Execute("CREATE TABLE " + nouvelle + " (" + colonnes + ")");
+    Execute("INSERT INTO " + nouvelle + " SELECT " + noms + " FROM " + ancienne + " ORDER BY rowid");
+    Execute("DROP TABLE " + ancienne);
+    Execute("ALTER TABLE " + nouvelle + " RENAME TO " + ancienne);
+    for (const std::string& definition : index) Execute(definition);
+    transaction.Valide();
+}
+
+Transaction::Transaction(BaseDonnees& base) : base_(base) {
+    base_.Execute("BEGIN");
+}
+
+Transaction::~Transaction() {
+    if (ouverte_) sqlite3_exec(base_.base_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void Transaction::Valide() {
+    base_.Execute("COMMIT");
+    ouverte_ = false;
 }
 
 JeuEnregistrements::JeuEnregistrements(sqlite3* base, const std::string& table) : base_(base), table_(table) {
@@ -297,19 +365,59 @@ const Valeur& JeuEnregistrements::Champ(long position) const {
 
 void JeuEnregistrements::AddNew() {
     nouveau_.assign(champs_.size(), Valeur{});
+    modifie_.reset();
+}
+
+void JeuEnregistrements::Edit() {
+    if (FinFichier()) throw ErreurExecution(NumeroErreur::IndiceHorsLimites, table_);
+    nouveau_ = lignes_[position_];
+    modifie_ = position_;
 }
 
 void JeuEnregistrements::Ecrit(const std::string& nom, const Valeur& valeur) {
+    if (nouveau_.empty()) throw ErreurExecution(NumeroErreur::AppelIncorrect, table_);
     nouveau_[PositionChamp(nom)] = valeur;
 }
 
 void JeuEnregistrements::Update() {
+    if (nouveau_.empty()) throw ErreurExecution(NumeroErreur::AppelIncorrect, table_);
+    if (modifie_)
+        Remplace();
+    else
+        Ajoute();
+    index_.emplace(nouveau_[positionCle_], position_);
+    lignes_[position_] = std::exchange(nouveau_, {});
+    modifie_.reset();
+}
+
+void JeuEnregistrements::Ajoute() {
     std::string places;
     for (std::size_t i = 0; i < nouveau_.size(); ++i) places += i == 0 ? "?" : ", ?";
-    const Requete ajout = PrepareRequete(base_, "INSERT INTO " + Entoure(table_) + " VALUES (" + places + ")", table_);
-    for (std::size_t i = 0; i < nouveau_.size(); ++i) LieValeur(ajout, static_cast<int>(i) + 1, nouveau_[i]);
-    if (sqlite3_step(ajout.get()) != SQLITE_DONE) SignaleErreur(base_, table_);
-    index_.emplace(nouveau_[positionCle_], lignes_.size());
-    lignes_.push_back(std::move(nouveau_));
-    position_ = lignes_.size() - 1;
+    Execute("INSERT INTO " + Entoure(table_) + " VALUES (" + places + ")", nouveau_);
+    position_ = lignes_.size();
+    lignes_.emplace_back();
+}
+
+void JeuEnregistrements::Remplace() {
+    const std::vector<Valeur>& ancien = lignes_[*modifie_];
+    std::string places;
+    std::vector<Valeur> valeurs;
+    for (std::size_t i = 0; i < nouveau_.size(); ++i) {
+        if (nouveau_[i] == ancien[i]) continue;
+        places += (valeurs.empty() ? "" : ", ") + Entoure(champs_[i]) + " = ?";
+        valeurs.push_back(nouveau_[i]);
+    }
+    valeurs.push_back(ancien[positionCle_]);
+    if (!places.empty())
+        Execute("UPDATE " + Entoure(table_) + " SET " + places + " WHERE " + Entoure(champs_[positionCle_]) + " = ?",
+                valeurs);
+    index_.erase(ancien[positionCle_]);
+    position_ = *modifie_;
+}
+
+void JeuEnregistrements::Execute(const std::string& sql, const std::vector<Valeur>& valeurs) {
+    const Requete requete = PrepareRequete(base_, sql, table_);
+    int place = 0;
+    for (const Valeur& valeur : valeurs) LieValeur(requete, ++place, valeur);
+    if (sqlite3_step(requete.get()) != SQLITE_DONE) SignaleErreur(base_, table_);
 }

@@ -28,6 +28,7 @@ std::string EnTexte(const Valeur& v);
 struct DefinitionChamp {
     std::string nom;
     bool numerique = false;
+    int taille = 0; ///< characters that a text field is declared for, which the engine notes and does not enforce
 };
 
 /// A table as it was created.
@@ -87,11 +88,17 @@ public:
     /// Takes a table away with all its records.
     void RetireTable(const std::string& table);
 
-    /// Several changes as one: all of them or none.
-    void CommenceTransaction();
-    void ValideTransaction();
+    /// Appends a field to a table, null in every record, or deletes one with all its values. The change is on the disk
+    /// when this returns, and a program that is killed before leaves the table as it was. Recordsets that were opened
+    /// before do not follow: they are opened again.
+    /// @throws ErreurExecution access refused for an existing name (small and capital letters alike), for the field of
+    ///         the index and for a database opened for reading; subscript out of range for a field to delete that the
+    ///         table does not have; disk full. The table is then as it was.
+    void AjouteChamp(const std::string& table, const DefinitionChamp& champ);
+    void SupprimeChamp(const std::string& table, const std::string& champ);
 
 private:
+    friend class Transaction;
     static BaseDonnees OuvreALire(const std::filesystem::path& chemin, const std::string& motDePasse);
     static BaseDonnees OuvreFichierBase(const std::filesystem::path& chemin, const std::string& motDePasse, Usage usage,
                                         const std::string& nom, int mode);
@@ -100,8 +107,23 @@ private:
     sqlite3* base_ = nullptr;
 };
 
-/// A walk over the records of one table, with a search on its index, and records added one by one. The recordset stands
-/// on one record, or past the last one (`FinFichier`).
+/// Several changes as one: all of them once it is validated, none when it ends without.
+class Transaction {
+public:
+    explicit Transaction(BaseDonnees& base);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+
+    void Valide();
+
+private:
+    BaseDonnees& base_;
+    bool ouverte_ = true;
+};
+
+/// A walk over the records of one table, with a search on its index, and records added or changed one by one. The
+/// recordset stands on one record, or past the last one (`FinFichier`).
 class JeuEnregistrements {
 public:
     void VaAuPremier() { position_ = 0; }
@@ -121,19 +143,24 @@ public:
     const Valeur& Champ(const std::string& nom) const;
     const Valeur& Champ(long position) const;
 
-    /// Starts a new record; `Ecrit` fills its fields, `Update` stores it at once: when it returns the record is on the
-    /// disk, and a program that is killed before leaves the table as it was.
+    /// Starts a new record, or a change of the present one; `Ecrit` fills its fields, `Update` stores it at once: when
+    /// it returns the record is on the disk, and a program that is killed before leaves the table as it was.
     void AddNew();
+    /// @throws ErreurExecution subscript out of range past the last record.
+    void Edit();
+    /// @throws ErreurExecution subscript out of range for an unknown field; incorrect call before `AddNew` and `Edit`.
     void Ecrit(const std::string& nom, const Valeur& valeur);
     /// @throws ErreurExecution access refused for an existing key and for a database opened for reading; database in
-    /// use
-    ///         by another program; disk full. The new record can then be stored again.
+    ///         use by another program; disk full. The record can then be stored again.
     void Update();
 
 private:
     friend class BaseDonnees;
     JeuEnregistrements(sqlite3* base, const std::string& table);
     std::size_t PositionChamp(const std::string& nom) const;
+    void Ajoute();
+    void Remplace();
+    void Execute(const std::string& sql, const std::vector<Valeur>& valeurs);
 
     sqlite3* base_;
     std::string table_;
@@ -143,5 +170,6 @@ private:
     std::map<Valeur, std::size_t> index_;
     std::size_t position_ = 0;
     bool sansCorrespondance_ = true;
-    std::vector<Valeur> nouveau_;
+    std::vector<Valeur> nouveau_;        ///< what `Update` stores; empty before `AddNew` and `Edit`
+    std::optional<std::size_t> modifie_; ///< the record that it replaces; none for a new one
 };

@@ -88,10 +88,10 @@ void MetAJourBase(const fs::path& livree, const fs::path& chemin) {
     if (BaseDonnees::LitVersion(chemin, MotDePasseBase) == version) return;
     BaseDonnees base = BaseDonnees::OuvreOuCree(chemin, MotDePasseBase);
     if (base.Version() == version) return; // another program was faster
-    base.CommenceTransaction();
+    Transaction transaction(base);
     for (const std::string& table : delivree.NomsTables()) Fusionne(delivree, base, table);
     base.NoteVersion(version);
-    base.ValideTransaction();
+    transaction.Valide();
 }
 
 void PrepareDossierUtilisateur() {

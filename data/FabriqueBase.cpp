@@ -91,9 +91,9 @@ std::string RemplitTable(BaseDonnees& base, const Table& table, const std::files
 
 void FabriqueBase(const std::filesystem::path& dossier, const std::filesystem::path& destination) {
     BaseDonnees base = BaseDonnees::Cree(destination, MotDePasseBase);
-    base.CommenceTransaction();
+    Transaction transaction(base);
     std::string contenu;
     for (const auto& table : tables) contenu += RemplitTable(base, table, dossier / (std::string(table.nom) + ".tsv"));
     base.NoteVersion(Empreinte(contenu));
-    base.ValideTransaction();
+    transaction.Valide();
 }

@@ -1,5 +1,7 @@
 #include "reports/Cadrage.h"
 
+#include "core/Utf8.h"
+
 #include <algorithm>
 #include <sstream>
 
@@ -16,8 +18,7 @@ std::size_t DebutCaractere(const std::string& texte, int rang) {
 } // namespace
 
 int NombreCaracteres(const std::string& texte) {
-    return static_cast<int>(
-        std::count_if(texte.begin(), texte.end(), [](char octet) { return (octet & 0xC0) != 0x80; }));
+    return static_cast<int>(Caracteres(texte));
 }
 
 std::string CadreADroite(const std::string& texte, int largeur) {

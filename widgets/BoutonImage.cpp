@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -15,19 +16,31 @@ constexpr int Marge = 8;
 constexpr int Souleve = 3; ///< how far it rises
 constexpr double RayonCoin = 4;
 constexpr double OpaciteInactif = 0.35;
+constexpr int Cadrage = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap; ///< of the name
 
 } // namespace
 
 BoutonImage::BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent)
     : QAbstractButton(parent), dessine_(std::move(dessine)), taille_(taille) {
     setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum); // as high as its neighbour with the longer name
     setAttribute(Qt::WA_Hover);
 }
 
 QSize BoutonImage::sizeHint() const {
-    // Two lines hold every name.
+    // Two lines hold every delivered name; a language that a user has added may take more.
+    const QRect place(0, 0, taille_.width() - 2 * Marge - 1, QWIDGETSIZE_MAX);
+    const int texte = fontMetrics().boundingRect(place, Cadrage, text()).height();
     return {taille_.width() + 2 * Souleve,
-            taille_.height() + 2 * fontMetrics().lineSpacing() + 3 * Marge + 2 * Souleve};
+            taille_.height() + std::max(texte, 2 * fontMetrics().lineSpacing()) + 3 * Marge + 2 * Souleve};
+}
+
+QRectF BoutonImage::Carte() const {
+    return QRectF(rect()).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
+}
+
+QRectF BoutonImage::PlaceTexte() const {
+    return Carte().adjusted(Marge, taille_.height() + Marge, -Marge, 0);
 }
 
 void BoutonImage::DessineImage(QPainter& peintre, const QRectF& cadre) {
@@ -54,7 +67,7 @@ void BoutonImage::DessineImage(QPainter& peintre, const QRectF& cadre) {
 
 void BoutonImage::paintEvent(QPaintEvent*) {
     const bool leve = isEnabled() && hasFocus() && !isDown();
-    QRectF carte = QRectF(rect()).adjusted(Souleve, Souleve, -Souleve - 0.5, -Souleve - 0.5);
+    QRectF carte = Carte();
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     if (leve) {
@@ -72,10 +85,8 @@ void BoutonImage::paintEvent(QPaintEvent*) {
     DessineImage(peintre,
                  QRectF(carte.x() + Marge, carte.y() + Marge, carte.width() - 2 * Marge, taille_.height() - Marge));
     if (!isEnabled()) peintre.setOpacity(OpaciteInactif);
-    const double haut = carte.y() + taille_.height() + Marge;
     peintre.setPen(palette().color(QPalette::Active, QPalette::Text));
-    peintre.drawText(QRectF(carte.x() + Marge, haut, carte.width() - 2 * Marge, carte.bottom() - haut),
-                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text());
+    peintre.drawText(PlaceTexte().translated(carte.topLeft() - Carte().topLeft()), Cadrage, text());
 }
 
 void BoutonImage::keyPressEvent(QKeyEvent* evenement) {

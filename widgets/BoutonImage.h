@@ -17,6 +17,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// Where its name stands, wrapped, pixels.
+    QRectF PlaceTexte() const;
+
 signals:
     void Leve(bool leve); ///< the picture rises, or lies down again
 
@@ -29,6 +32,7 @@ protected:
     void focusOutEvent(QFocusEvent* evenement) override;
 
 private:
+    QRectF Carte() const;
     void DessineImage(QPainter& peintre, const QRectF& cadre);
 
     std::function<void(Dessin&)> dessine_;

@@ -16,6 +16,11 @@ public:
     /// The procedure that draws this sheet from now on. A failure in it is told once, and leaves the sheet empty.
     void Peint(std::function<void(Dessin&)> procedure);
 
+    /// Draws on another surface what stands on this sheet.
+    void Redessine(Dessin& dessin) const {
+        if (procedure_) procedure_(dessin);
+    }
+
     /// The room it asks for where there is enough; less will do.
     void Prefere(QSize taille) { taille_ = taille; }
 

@@ -2,6 +2,7 @@
 
 #include "cams/Pesanteur.h"
 #include "core/Nombres.h"
+#include "widgets/BarreNombre.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Nomme.h"
@@ -9,7 +10,6 @@
 #include "widgets/ZoneDessin.h"
 
 #include <QGridLayout>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -18,10 +18,9 @@ PanneauPesanteur::PanneauPesanteur(const ChampLie& champ, QWidget* parent)
     : QGroupBox(QTexte(168), parent), angle_(*std::get<double*>(champ.valeur)) {
     auto* disposition = new QGridLayout(this);
     champ_ = AjouteLigneChamp(*disposition, 0, champ.controle, champ.texte, champ.unite);
-    defilement_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
+    defilement_ = Nomme(new BarreNombre, "HScroll1");
     defilement_->setRange(0, 360);
     defilement_->setPageStep(15);
-    defilement_->setFocusPolicy(Qt::StrongFocus);
     dessin_ = Nomme(new ZoneDessin, "Picture6");
     dessin_->setMinimumSize(150, 150);
     dessin_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);

@@ -2,6 +2,7 @@
 
 #include "cams/Pente.h"
 #include "core/Etude.h"
+#include "widgets/BarreNombre.h"
 #include "widgets/Chaines.h"
 #include "widgets/ChampNombre.h"
 #include "widgets/Etiquettes.h"
@@ -17,7 +18,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QSlider>
 #include <QTimer>
 #include <QToolBar>
@@ -45,7 +45,7 @@ PanneauRotation::PanneauRotation(const char* dessin, bool pasRegle, QWidget* par
     dessin_->setMinimumSize(420, 320);
     disposition->addWidget(dessin_, 1);
 
-    angle_ = Nomme(new QScrollBar(Qt::Horizontal), "HScroll1");
+    angle_ = Nomme(new BarreNombre, "HScroll1");
     angle_->setRange(0, 360);
     angle_->setPageStep(PasRotation);
     angle_->setFocusPolicy(Qt::WheelFocus);

@@ -73,12 +73,11 @@ TEST_F(Fenetre, UneEntreeSansEcranEstInactive) {
     std::set<std::string> inactives;
     for (const QAction* action : mdi_.findChildren<QAction*>())
         if (!action->isEnabled() && !action->menu()) inactives.insert(S(action->objectName()));
-    for (const char* nom : {"FichierLanguesModification", "FichierGenerateursCroixMalte"})
-        EXPECT_TRUE(inactives.contains(nom)) << nom;
+    EXPECT_TRUE(inactives.contains("FichierGenerateursCroixMalte"));
     for (const char* nom :
          {"FichierNouveau", "FicImprimerProfil", "FichierClasiquesLoisSpe", "Hesser", "MSPerso", "NouveauCylindre",
           "NouveauGlobiqueIndexeur", "NouveauGlobiqueOscillateur", "NouveauConjug", "ProfilCylindriqueOsc",
-          "ProfilConjugueesOsc", "Quitter", "FichierClasiquesInerties", "Inerties"})
+          "ProfilConjugueesOsc", "Quitter", "FichierClasiquesInerties", "Inerties", "FichierLanguesModification"})
         EXPECT_FALSE(inactives.contains(nom)) << nom;
     for (const QAction* action : Controle<QToolBar>(mdi_, "Toolbar1")->actions())
         if (!action->isSeparator()) {

@@ -1,6 +1,7 @@
 #include "outils/Catalogue.h"
 
 #include "core/FichierEntier.h"
+#include "core/Utf8.h"
 #include "data/FabriqueBase.h"
 #include "outils/DossierTemporaire.h"
 
@@ -17,10 +18,6 @@ NumeroErreur NumeroOuverture(const std::filesystem::path& chemin, const char* mo
         return e.numero;
     }
     return {};
-}
-
-long Caracteres(const std::string& texte) {
-    return std::count_if(texte.begin(), texte.end(), [](char c) { return (c & 0xC0) != 0x80; });
 }
 
 } // namespace
@@ -61,6 +58,9 @@ TEST(Catalogue, EveryTextIsThereInThreeLanguagesAndWithinItsLength) {
             EXPECT_FALSE(texte.empty()) << numero;
             EXPECT_LE(static_cast<double>(Caracteres(texte)), EnNombre(idiomas.Champ("Longueur"))) << numero;
         }
+        EXPECT_GE(EnNombre(idiomas.Champ("Longueur")),
+                  1.3 * static_cast<double>(Caracteres(EnTexte(idiomas.Champ(PremiereLangue)))))
+            << numero << " leaves no room for a language with longer words";
     }
     // A language that the catalogue does not have gives way to the second one.
     LangueTravail = "Esperanto";

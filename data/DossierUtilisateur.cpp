@@ -104,7 +104,7 @@ void PrepareDossierUtilisateur() {
 }
 
 fs::path BaseALire() {
-    const fs::path sienne = CheminUtilisateur / NomBase;
+    fs::path sienne = CheminUtilisateur / NomBase;
     if (!APart() || !Existe(sienne)) return CheminAppli / NomBase;
     MetAJourBase(CheminAppli / NomBase, sienne);
     return sienne;

@@ -9,6 +9,7 @@ construction=$(realpath "${1:-build/release}")
 sudo=
 [ "$(id -u)" -eq 0 ] || sudo=sudo
 export LC_ALL=C.UTF-8
+unset QT_QPA_PLATFORM # the windows are to be seen on a display
 
 etape() { echo "== $*"; }
 echoue() { echo "FAILED: $*" >&2; exit 1; }
@@ -30,7 +31,8 @@ dans() {
 }
 # The same for the plain user of the root.
 par_utilisateur() {
-    dans setpriv --reuid=1000 --regid=1000 --clear-groups env -i PATH=/usr/bin:/bin LANG=C.UTF-8 HOME=/home/essai "$@"
+    dans setpriv --reuid=1000 --regid=1000 --clear-groups env -i --chdir=/home/essai \
+        PATH=/usr/bin:/bin LANG=C.UTF-8 HOME=/home/essai "$@"
 }
 sur_ecran() { par_utilisateur DISPLAY="$DISPLAY" "$@"; }
 # What stands in the root, but for the user's files and what the package manager notes of its own work.
@@ -108,10 +110,10 @@ done
 etape "calculated and started by a plain user"
 [ "$(par_utilisateur velorin --version)" = "Velorin ${version%-*}" ] || echoue "not the version that was installed"
 par_utilisateur velorin-batch etude /usr/share/velorin/Profils/Exemple.Ang --resume >"$travail/installe.json"
-[ ! -e "$racine/home/essai/.local" ] || echoue "a reader wrote into the user's folder"
+! par_utilisateur test -e .local || echoue "a reader wrote into the user's folder"
 montre true sur_ecran velorin /usr/share/velorin/Profils/Exemple.Ang
 for fichier in BaseDatos.Mdb CameAng.cfg; do
-    [ -s "$racine/home/essai/.local/share/velorin/$fichier" ] || echoue "the first start left no $fichier"
+    par_utilisateur test -s ".local/share/velorin/$fichier" || echoue "the first start left no $fichier"
 done
 par_utilisateur velorin-batch etude /usr/share/velorin/Profils/Exemple.Ang --resume | cmp - "$travail/installe.json"
 
@@ -119,7 +121,7 @@ etape "removed"
 dans dpkg --purge velorin
 inventaire >"$travail/apres"
 diff "$travail/avant" "$travail/apres" || echoue "the removal left something behind, or took too much"
-[ -s "$racine/home/essai/.local/share/velorin/BaseDatos.Mdb" ] || echoue "the removal took the user's data"
+par_utilisateur test -s .local/share/velorin/BaseDatos.Mdb || echoue "the removal took the user's data"
 
 etape "the archive, unpacked anywhere"
 dossier="$travail/un dossier"

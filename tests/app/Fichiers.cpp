@@ -8,6 +8,7 @@
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
+#include "studies/FichierEtude.h"
 #include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 
@@ -17,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -65,4 +67,22 @@ TEST(Fichiers, AListOfSolidsThatIsNamedOpensInItsWindowBesideTheStudy) {
     EXPECT_NE(S(Controle<QLabel>(mdi, "Etat")->text()).find("Fausse.Ine"), std::string::npos);
     EXPECT_EQ(static_cast<const Inerties*>(mdi.EcranOuvert("Inerties"))->Liste().lignes.size(), 5U);
     EXPECT_TRUE(dialogues.boites.empty());
+}
+
+TEST(Fichiers, AnExampleThatIsOpenedIsSavedInTheFolderOfTheStudies) {
+    struct : DialoguesScript {
+        std::filesystem::path dossier;
+        std::optional<std::filesystem::path> FichierASauver(const DemandeFichier& demande) override {
+            dossier = demande.dossier;
+            return demande.dossier / demande.nom;
+        }
+    } dialogues;
+    const DossierTemporaire etudes;
+    const std::filesystem::path ancien = std::exchange(CheminEtudes, etudes.Chemin());
+    MdiCamA mdi{Configuration{{}, LangueTravail}};
+    mdi.OuvreAutre(CheminAppli / NomDossierEtudes / "Exemple.Ang");
+    EXPECT_EQ(DonneesDepart(), etudes / "Exemple.Ang");
+    CheminEtudes = ancien;
+    EXPECT_EQ(dialogues.dossier, etudes.Chemin());
+    EXPECT_TRUE(LitFichierEtude(etudes / "Exemple.Ang"));
 }

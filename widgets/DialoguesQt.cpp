@@ -1,6 +1,5 @@
 #include "widgets/DialoguesQt.h"
 
-#include "data/Demarrage.h"
 #include "widgets/Chaines.h"
 
 #include <QApplication>
@@ -10,7 +9,6 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -156,8 +154,6 @@ std::optional<std::filesystem::path> DialoguesQt::FichierAOuvrir(const DemandeFi
     dialogue.setAcceptMode(QFileDialog::AcceptOpen);
     dialogue.setFileMode(QFileDialog::ExistingFile);
     Prepare(dialogue, demande, TexteOuvrir);
-    // An installed program keeps the worked examples away from the user's studies.
-    dialogue.setSidebarUrls(dialogue.sidebarUrls() << QUrl::fromLocalFile(QChemin(CheminAppli / NomDossierEtudes)));
     if (Execute(dialogue) != QDialog::Accepted) return {};
     return FichierChoisi(dialogue);
 }

@@ -248,6 +248,7 @@ void Persona::ChoisitLangue(const std::string& langue) {
     langue_ = langue;
     nom_->setText(Q(langue));
     const QSignalBlocker muette(liste_);
+    liste_->clearSelection();
     liste_->setCurrentItem(liste_->findItems(Q(langue), Qt::MatchExactly).value(0));
     barre_->setValue(barre_->minimum());
     MontreTexte();

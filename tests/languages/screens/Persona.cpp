@@ -155,6 +155,8 @@ TEST_F(EcranPersona, AClickThatLeavesTheNameAsksOnce) {
     EXPECT_EQ(ouverts.demandes,
               (std::vector<std::string>{Texte(68) + "\nNuova", Texte(TexteGarderTraduction) + "\nuno"}));
     EXPECT_EQ(SurDisque("Italiano", 1), "");
+    Choisit("Italiano");
+    EXPECT_EQ(Nom(), "Italiano") << "none was chosen any more";
 }
 
 TEST_F(EcranPersona, ATextIsStoredInItsRow) {

@@ -118,7 +118,7 @@ protected:
         return interrompus;
     }
 
-    static constexpr int Tours = 50;
+    static constexpr int Tours = 25;
     const int NombreAnciens = static_cast<int>(std::ranges::count(LitFichierEntier(tables / "Idiomas.tsv"), '\n')) - 3;
 
 private:

@@ -7,6 +7,7 @@ paquets=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-translations-l10n lib
          fonts-liberation fonts-dejavu-core)
 if [ "${1:-}" = test ]; then
     paquets+=(libgtest-dev libbenchmark-dev clang-format clang-tidy git)
+    paquets+=(dpkg-dev lintian desktop-file-utils appstream mmdebstrap xvfb x11-utils) # the packages and their trial
 fi
 manquants=()
 for paquet in "${paquets[@]}"; do

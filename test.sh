@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets everything up on a Debian 12 machine and runs all tests: the checks of format and of the code, the tests as shipped,
-# then the tests with the address and undefined-behaviour sanitizers.
+# then the tests with the address and undefined-behaviour sanitizers, and the packages in a clean root.
 set -euo pipefail
 cd "$(dirname "$0")"
 ./installe.sh test
@@ -21,3 +21,5 @@ ctest --preset release --no-tests=error
 cmake --preset sanitize -DVELORIN_TESTS=ON >/dev/null
 cmake --build --preset sanitize -j "$(nproc)"
 ctest --preset sanitize --no-tests=error
+
+./paquet/EssaiePaquet.sh build/release

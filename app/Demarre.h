@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-/// Everything that the main window needs, in the order in which each stands on the one before: database, laws,
-/// configuration, texts.
-/// @param dossier folder of the program
+/// Everything that the main window needs, in the order in which each stands on the one before: folders, database,
+/// laws, configuration, texts.
+/// @param executable folder of the running executable
 /// @throws ErreurExecution missing or unreadable database or configuration.
-Configuration Demarre(const std::filesystem::path& dossier);
+Configuration Demarre(const std::filesystem::path& executable);

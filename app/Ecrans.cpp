@@ -6,6 +6,7 @@
 #include "cylindrical/screens/DoCylOsc.h"
 #include "globoidal/screens/GlobiqueIndexeur.h"
 #include "globoidal/screens/GlobiqueOscillateur.h"
+#include "inertia/FichierInerties.h"
 #include "inertia/screens/Inerties.h"
 #include "languages/screens/Persona.h"
 #include "laws/screens/EcranLoi.h"
@@ -13,6 +14,7 @@
 #include "planecams/screens/DoProfil.h"
 #include "studies/screens/CamesConjugeesOscillation.h"
 #include "studies/screens/Resultat.h"
+#include "widgets/Chaines.h"
 
 #include <algorithm>
 
@@ -44,7 +46,7 @@ constexpr EcranEnfant ecrans[] = {
     {"CylindriqueIndexeur", Cree<CylindriqueIndexeur>, 3},
     {"CamesConjugeesOscillation", Cree<CamesConjugeesOscillation>},
     {"CamesConjugueesIndexeur", Cree<CamesConjugueesIndexeur>, 9},
-    {"Inerties", Cree<Inerties>, 10},
+    {"Inerties", Cree<Inerties>, 10, ExtensionInerties},
 };
 // clang-format on
 
@@ -57,5 +59,13 @@ std::span<const EcranEnfant> LesEcrans() {
 const EcranEnfant* TrouveEcran(std::string_view nom) {
     const auto ecran =
         std::find_if(std::begin(ecrans), std::end(ecrans), [nom](const EcranEnfant& e) { return nom == e.nom; });
+    return ecran == std::end(ecrans) ? nullptr : ecran;
+}
+
+const EcranEnfant* TrouveEcranFichier(const std::filesystem::path& fichier) {
+    const QString extension = QChemin(fichier.extension());
+    const auto ecran = std::find_if(std::begin(ecrans), std::end(ecrans), [&](const EcranEnfant& e) {
+        return e.extension != nullptr && extension.compare(QLatin1String(e.extension), Qt::CaseInsensitive) == 0;
+    });
     return ecran == std::end(ecrans) ? nullptr : ecran;
 }

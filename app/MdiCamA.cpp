@@ -53,8 +53,8 @@ constexpr QSize TailleFenetre(1320, 900);
 } // namespace
 
 MdiCamA::MdiCamA(const Configuration& configuration)
-    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel), travaux_(FichierReprise(CheminAppli)),
-      aide_(*bureau_) {
+    : bureau_(new BureauEcrans), accueil_(new PageAccueil), etat_(new QLabel),
+      travaux_(FichierReprise(CheminUtilisateur)), aide_(*bureau_) {
     setObjectName(QStringLiteral("MdiCamA"));
     ChargeTextesQt(LangueTravail);
     setCentralWidget(bureau_);
@@ -181,7 +181,7 @@ void MdiCamA::SauveConfiguration() {
     Configuration configuration;
     configuration.imprime = MarquesCochees();
     configuration.langue = LangueTravail;
-    EcritConfiguration(CheminAppli / NomConfiguration, configuration);
+    EcritConfiguration(CheminUtilisateur / NomConfiguration, configuration);
     Annonce(Texte(TexteConfigurationSauvee));
 }
 

@@ -25,6 +25,7 @@ class FenetreEnfant;
 class PageAccueil;
 struct ChoixEtude;
 struct ChoixLoi;
+struct EcranEnfant;
 struct TypeEtude;
 
 class MdiCamA : public QMainWindow {
@@ -57,7 +58,8 @@ public:
     /// status line.
     void OuvreFichier(const std::filesystem::path& chemin);
 
-    /// Opens a study file in the place of what is open.
+    /// Opens a file as it was named, dropped or chosen again: a study file in the place of what is open, a list in the
+    /// window that holds it.
     void OuvreAutre(const std::filesystem::path& chemin);
 
     /// Takes back what was given up last without being saved; what is open and not saved can be taken back in its turn.
@@ -111,6 +113,7 @@ private:
     void Quitter();
 
     // Files, in OuverturesMdi.cpp.
+    void OuvreListe(const EcranEnfant& ecran, const std::filesystem::path& chemin);
     bool CalculeOuverte();
     void NoteRecent(const std::filesystem::path& chemin);
     void MontreRecents();

@@ -1,5 +1,7 @@
 // Study files opened: by their dialogue, dropped on the window, named when the program was started, or chosen among
 // those opened or saved before in this run.
+#include "app/BureauEcrans.h"
+#include "app/Ecrans.h"
 #include "app/MdiCamA.h"
 #include "app/PageAccueil.h"
 #include "app/TextesApp.h"
@@ -11,6 +13,7 @@
 #include "studies/TypesEtude.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
+#include "widgets/FenetreEnfant.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
@@ -37,7 +40,7 @@ void MdiCamA::Ouvrir() {
 
 void MdiCamA::OuvreParType(const TypeEtude* type) {
     if (RotationEmpeche()) return;
-    DemandeFichier demande{Texte(TexteTitreOuvrir), CheminAppli / NomDossierEtudes, {}, {}};
+    DemandeFichier demande{Texte(TexteTitreOuvrir), CheminEtudes, {}, {}};
     for (const TypeEtude& t : LesTypesEtude())
         if (type ? &t == type : t.Disponible()) demande.filtres.push_back(FiltreEtude(t));
     if (type) demande.titre += " " + Texte(type->titre);
@@ -47,7 +50,21 @@ void MdiCamA::OuvreParType(const TypeEtude* type) {
 }
 
 void MdiCamA::OuvreAutre(const std::filesystem::path& chemin) {
-    if (!RotationEmpeche()) OuvreFichier(chemin);
+    if (RotationEmpeche()) return;
+    if (const EcranEnfant* ecran = TrouveEcranFichier(chemin))
+        OuvreListe(*ecran, chemin);
+    else
+        OuvreFichier(chemin);
+}
+
+void MdiCamA::OuvreListe(const EcranEnfant& ecran, const std::filesystem::path& chemin) {
+    bureau_->Montre(ecran.nom);
+    try {
+        EcranOuvert(ecran.nom)->OuvreListe(chemin);
+        NoteRecent(chemin);
+    } catch (const ErreurExecution& erreur) {
+        Annonce(Texte(TexteLectureImpossible) + " " + S(QChemin(chemin.filename())) + " : " + SensErreur(erreur));
+    }
 }
 
 void MdiCamA::OuvreFichier(const std::filesystem::path& chemin) {

@@ -53,8 +53,8 @@ QString DossierEtat() {
 
 } // namespace
 
-std::filesystem::path FichierReprise(const std::filesystem::path& dossierProgramme) {
-    const QByteArray chemin = QChemin(dossierProgramme).toUtf8();
+std::filesystem::path FichierReprise(const std::filesystem::path& dossierBase) {
+    const QByteArray chemin = QChemin(dossierBase).toUtf8();
     const QString empreinte =
         QString::fromLatin1(QCryptographicHash::hash(chemin, QCryptographicHash::Md5).toHex().left(8));
     return Chemin(DossierEtat()) / "velorin" / Chemin("reprise-" + empreinte + ".txt");

@@ -39,6 +39,6 @@ private:
     std::vector<Travail> gardes_; ///< what the recovery file of this run holds
 };
 
-/// The recovery file of the program in this folder: one for each folder that Velorin is started from, since only one
-/// run at a time works there.
-std::filesystem::path FichierReprise(const std::filesystem::path& dossierProgramme);
+/// The recovery file of the program whose database stands in this folder: one for each such folder, since only one run
+/// at a time works there.
+std::filesystem::path FichierReprise(const std::filesystem::path& dossierBase);

@@ -2,6 +2,7 @@
 #include "app/Aide.h"
 #include "app/Demarre.h"
 #include "app/MdiCamA.h"
+#include "app/Version.h"
 #include "core/ErreurExecution.h"
 #include "data/Demarrage.h"
 #include "data/EchecDemarrage.h"
@@ -11,6 +12,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 namespace {
 
@@ -39,6 +41,10 @@ void AnnonceEchec(const std::exception& faute) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && argv[1] == std::string_view("--version")) {
+        std::printf("Velorin %s\n", VersionProgramme);
+        return 0;
+    }
     if (!AffichagePresent()) {
         std::fputs(SansAffichage, stderr);
         return 1;

@@ -10,8 +10,10 @@
 #include "core/FichierEntier.h"
 #include "data/Configuration.h"
 #include "data/Demarrage.h"
+#include "data/DossierUtilisateur.h"
 #include "data/EchecDemarrage.h"
 #include "data/Textes.h"
+#include "widgets/DossiersPoste.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -60,10 +62,10 @@ void EcritAide(std::ostream& sortie) {
 
 /// Opens the catalogue beside other readers, and loads the texts.
 void OuvreCatalogue(const LigneCommande& ligne) {
-    CheminAppli = DossierExecutable();
-    LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? CheminAppli / NomBase : std::filesystem::path(ligne.base),
-                                MotDePasseBase, BaseDonnees::Usage::Lecture);
-    LangueTravail = ligne.langue.empty() ? LitConfiguration(CheminAppli / NomConfiguration).langue : ligne.langue;
+    PrendDossiers(DossierExecutable(), LesDossiersPoste());
+    LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? BaseALire() : std::filesystem::path(ligne.base), MotDePasseBase,
+                                BaseDonnees::Usage::Lecture);
+    LangueTravail = ligne.langue.empty() ? LitConfiguration(ConfigurationALire()).langue : ligne.langue;
     ChargeTextes(LaBase);
     const auto& langues = LanguesCompletes();
     if (!ligne.langue.empty() && std::find(langues.begin(), langues.end(), ligne.langue) == langues.end())

@@ -1,5 +1,5 @@
 # The folder of the program: executables, catalogue database, configuration, worked examples, the toolkit's texts. The
-# build makes it complete in the build tree; `cmake --install` makes the same folder anywhere.
+# build makes it complete in the build tree; cmake/Paquets.cmake puts it into packages.
 set(VELORIN_DOSSIER ${CMAKE_BINARY_DIR}/velorin)
 
 function(velorin_dossier_programme)
@@ -43,8 +43,4 @@ function(velorin_dossier_programme)
     list(APPEND ACCOMPAGNEMENT ${VELORIN_DOSSIER}/translations/qtbase_${LANGUE}.qm)
   endforeach()
   add_custom_target(dossier_programme ALL DEPENDS ${ACCOMPAGNEMENT})
-
-  install(TARGETS velorin velorin-batch RUNTIME DESTINATION .)
-  install(FILES ${BASE} ${AIDES} CameAng.cfg DESTINATION .)
-  install(DIRECTORY Profils ${VELORIN_DOSSIER}/translations DESTINATION .)
 endfunction()

@@ -7,6 +7,7 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -14,6 +15,9 @@ namespace {
 
 /// The password is a fixed text of the program, so that stretching it guards nothing: few rounds keep the start short.
 constexpr const char* Chiffrement = "PRAGMA kdf_iter = 256";
+
+/// How long a database that is to be made waits for another program that makes it too, ms.
+constexpr int AttenteCreation = 2000;
 
 std::string Entoure(const std::string& nom) {
     std::string sortie = "\"";
@@ -166,24 +170,42 @@ BaseDonnees BaseDonnees::Ouvre(const std::filesystem::path& chemin, const std::s
     std::error_code echec;
     if (!std::filesystem::exists(chemin, echec))
         throw ErreurExecution(NumeroErreur::FichierIntrouvable, chemin.string());
-    if (usage == Usage::Exclusif) return OuvreFichierBase(chemin, motDePasse, usage, chemin.string());
+    BaseDonnees base = usage == Usage::Lecture
+                           ? OuvreALire(chemin, motDePasse)
+                           : OuvreFichierBase(chemin, motDePasse, usage, chemin.string(), SQLITE_OPEN_READWRITE);
+    if (base.NomsTables().empty()) throw ErreurExecution(NumeroErreur::BaseIllisible, chemin.string());
+    return base;
+}
+
+BaseDonnees BaseDonnees::OuvreOuCree(const std::filesystem::path& chemin, const std::string& motDePasse) {
+    return OuvreFichierBase(chemin, motDePasse, Usage::Exclusif, chemin.string(),
+                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+std::int32_t BaseDonnees::LitVersion(const std::filesystem::path& chemin, const std::string& motDePasse) {
+    std::error_code echec;
+    return std::filesystem::exists(chemin, echec) ? OuvreALire(chemin, motDePasse).Version() : 0;
+}
+
+BaseDonnees BaseDonnees::OuvreALire(const std::filesystem::path& chemin, const std::string& motDePasse) {
     try {
-        return OuvreFichierBase(chemin, motDePasse, usage, chemin.string());
+        return OuvreFichierBase(chemin, motDePasse, Usage::Lecture, chemin.string(), SQLITE_OPEN_READWRITE);
     } catch (const ErreurExecution& erreur) {
         if (erreur.numero != NumeroErreur::BaseOccupee) throw;
     }
     const std::filesystem::path copie = CopieBase(chemin);
     // The open file is read to the end of the program; its name is needed no more.
     const Retire retire{copie};
-    return OuvreFichierBase(copie, motDePasse, usage, chemin.string());
+    return OuvreFichierBase(copie, motDePasse, Usage::Lecture, chemin.string(), SQLITE_OPEN_READWRITE);
 }
 
 BaseDonnees BaseDonnees::OuvreFichierBase(const std::filesystem::path& chemin, const std::string& motDePasse,
-                                          Usage usage, const std::string& nom) {
+                                          Usage usage, const std::string& nom, int mode) {
     BaseDonnees base;
     const bool exclusif = usage == Usage::Exclusif;
     // A reader, too, must be able to take back what a program that was killed had half written.
-    base.base_ = OuvreFichier(chemin, motDePasse, SQLITE_OPEN_READWRITE);
+    base.base_ = OuvreFichier(chemin, motDePasse, mode);
+    if ((mode & SQLITE_OPEN_CREATE) != 0) sqlite3_busy_timeout(base.base_, AttenteCreation);
     const auto execute = [&](const char* sql) {
         if (sqlite3_exec(base.base_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) SignaleErreur(base.base_, nom);
     };
@@ -195,10 +217,8 @@ BaseDonnees BaseDonnees::OuvreFichierBase(const std::filesystem::path& chemin, c
         execute("PRAGMA locking_mode = EXCLUSIVE");
         execute("BEGIN EXCLUSIVE; COMMIT");
     }
-    // The first page tells whether the password fits; an empty file would pass it and hold no table.
-    const Requete compte = PrepareRequete(base.base_, "SELECT count(*) FROM sqlite_master", nom);
-    if (!LigneSuivante(base.base_, compte, nom) || sqlite3_column_int(compte.get(), 0) == 0)
-        throw ErreurExecution(NumeroErreur::BaseIllisible, nom);
+    // The first page tells whether the password fits; an empty file passes it and holds no table.
+    LigneSuivante(base.base_, PrepareRequete(base.base_, "SELECT count(*) FROM sqlite_master", nom), nom);
     return base;
 }
 
@@ -214,6 +234,34 @@ void BaseDonnees::Execute(const std::string& sql) {
     if (sqlite3_exec(base_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) SignaleErreur(base_, {});
 }
 
+std::int32_t BaseDonnees::Version() {
+    const Requete version = PrepareRequete(base_, "PRAGMA user_version", {});
+    return LigneSuivante(base_, version, {}) ? sqlite3_column_int(version.get(), 0) : 0;
+}
+
+void BaseDonnees::NoteVersion(std::int32_t version) {
+    Execute("PRAGMA user_version = " + std::to_string(version));
+}
+
+std::vector<std::string> BaseDonnees::NomsTables() {
+    const Requete tables = PrepareRequete(base_, "SELECT name FROM sqlite_master WHERE type = 'table'", {});
+    std::vector<std::string> noms;
+    while (LigneSuivante(base_, tables, {})) noms.push_back(EnTexte(LitColonne(tables, 0)));
+    return noms;
+}
+
+DefinitionTable BaseDonnees::Definition(const std::string& table) {
+    DefinitionTable definition;
+    for (const auto& [nom, type] : LitChamps(base_, table)) {
+        const auto taille = type.find('(');
+        definition.champs.push_back(
+            {nom, type == "REAL", taille == std::string::npos ? 0 : std::atoi(type.c_str() + taille + 1)});
+    }
+    if (definition.champs.empty()) throw ErreurExecution(NumeroErreur::BaseIllisible, table);
+    definition.cle = definition.champs[PositionCle(base_, table)].nom;
+    return definition;
+}
+
 JeuEnregistrements BaseDonnees::OuvreTable(const std::string& table) {
     return {base_, table};
 }
@@ -224,6 +272,10 @@ void BaseDonnees::CreeTable(const std::string& table, const std::vector<Definiti
     for (const auto& champ : champs) colonnes += (colonnes.empty() ? "" : ", ") + Colonne(champ);
     Execute("CREATE TABLE " + Entoure(table) + " (" + colonnes + ")");
     Execute("CREATE UNIQUE INDEX " + Entoure(table + " " + cle) + " ON " + Entoure(table) + " (" + Entoure(cle) + ")");
+}
+
+void BaseDonnees::RetireTable(const std::string& table) {
+    Execute("DROP TABLE " + Entoure(table));
 }
 
 void BaseDonnees::AjouteChamp(const std::string& table, const DefinitionChamp& champ) {

@@ -31,6 +31,12 @@ struct DefinitionChamp {
     int taille = 0; ///< characters that a text field is declared for, which the engine notes and does not enforce
 };
 
+/// A table as it was created.
+struct DefinitionTable {
+    std::vector<DefinitionChamp> champs;
+    std::string cle; ///< the field of its index
+};
+
 class JeuEnregistrements;
 
 class BaseDonnees {
@@ -54,7 +60,23 @@ public:
     /// Makes an empty database in place of one that may exist, for exclusive use.
     static BaseDonnees Cree(const std::filesystem::path& chemin, const std::string& motDePasse);
 
+    /// Opens a database for exclusive use, also one that holds no table or does not exist yet, and waits up to two
+    /// seconds for another program to let go of it.
+    /// @throws ErreurExecution as `Ouvre`.
+    static BaseDonnees OuvreOuCree(const std::filesystem::path& chemin, const std::string& motDePasse);
+
+    /// The number that its maker gave a database with `NoteVersion`; 0 for one that does not exist or holds no table.
+    /// @throws ErreurExecution as `Ouvre` for reading.
+    static std::int32_t LitVersion(const std::filesystem::path& chemin, const std::string& motDePasse);
+
     void Ferme();
+
+    std::int32_t Version();
+    void NoteVersion(std::int32_t version);
+
+    /// Names of the tables, in the order in which they were created.
+    std::vector<std::string> NomsTables();
+    DefinitionTable Definition(const std::string& table);
 
     /// All records of a table, in the order in which they were added.
     /// @throws ErreurExecution unreadable database when there is no such table.
@@ -62,6 +84,9 @@ public:
 
     /// A new table; `cle` names the field of its index, whose values are unique.
     void CreeTable(const std::string& table, const std::vector<DefinitionChamp>& champs, const std::string& cle);
+
+    /// Takes a table away with all its records.
+    void RetireTable(const std::string& table);
 
     /// Appends a field to a table, null in every record, or deletes one with all its values. The change is on the disk
     /// when this returns, and a program that is killed before leaves the table as it was. Recordsets that were opened
@@ -74,8 +99,9 @@ public:
 
 private:
     friend class Transaction;
+    static BaseDonnees OuvreALire(const std::filesystem::path& chemin, const std::string& motDePasse);
     static BaseDonnees OuvreFichierBase(const std::filesystem::path& chemin, const std::string& motDePasse, Usage usage,
-                                        const std::string& nom);
+                                        const std::string& nom, int mode);
     void Execute(const std::string& sql);
 
     sqlite3* base_ = nullptr;

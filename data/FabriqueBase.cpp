@@ -53,8 +53,16 @@ Valeur ValeurCellule(std::string_view cellule, const DefinitionChamp& champ, con
     return Val(cellule);
 }
 
-void RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::path& fichier) {
-    const std::string contenu = LitFichierEntier(fichier);
+/// A number that changes with what the tables hold (FNV-1a), never 0.
+std::int32_t Empreinte(const std::string& contenu) {
+    std::uint32_t empreinte = 2166136261U;
+    for (const char c : contenu) empreinte = (empreinte ^ static_cast<unsigned char>(c)) * 16777619U;
+    return static_cast<std::int32_t>(empreinte >> 1U | 1U);
+}
+
+/// @return the content of the file
+std::string RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::path& fichier) {
+    std::string contenu = LitFichierEntier(fichier);
     auto lignes = Coupe(contenu, '\n');
     if (!lignes.empty() && lignes.back().empty()) lignes.pop_back();
     if (lignes.empty()) throw ErreurExecution(NumeroErreur::FinDeFichier, fichier.string());
@@ -76,6 +84,7 @@ void RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::
             jeu.Ecrit(champs[c].nom, ValeurCellule(cellules[c], champs[c], ou));
         jeu.Update();
     }
+    return contenu;
 }
 
 } // namespace
@@ -83,6 +92,8 @@ void RemplitTable(BaseDonnees& base, const Table& table, const std::filesystem::
 void FabriqueBase(const std::filesystem::path& dossier, const std::filesystem::path& destination) {
     BaseDonnees base = BaseDonnees::Cree(destination, MotDePasseBase);
     Transaction transaction(base);
-    for (const auto& table : tables) RemplitTable(base, table, dossier / (std::string(table.nom) + ".tsv"));
+    std::string contenu;
+    for (const auto& table : tables) contenu += RemplitTable(base, table, dossier / (std::string(table.nom) + ".tsv"));
+    base.NoteVersion(Empreinte(contenu));
     transaction.Valide();
 }

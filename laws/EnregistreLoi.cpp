@@ -49,10 +49,8 @@ std::optional<std::string> EnregistreLoi(const std::string& nom) {
         return {};
     }
     const std::string motif = std::string("*.") + genre->extension;
-    const auto chemin = LesDialogues().FichierASauver({Texte(357),
-                                                       CheminAppli / NomDossierEtudes,
-                                                       nom + "." + genre->extension,
-                                                       {{Texte(genre->texte) + " (" + motif + ")", motif}}});
+    const auto chemin = LesDialogues().FichierASauver(
+        {Texte(357), CheminEtudes, nom + "." + genre->extension, {{Texte(genre->texte) + " (" + motif + ")", motif}}});
     if (!chemin || chemin->empty()) return {};
     EcritFichierEntier(*chemin, genre->compose());
     const std::u8string fichier = chemin->filename().u8string();

@@ -57,7 +57,7 @@ void EcritDemandes(std::span<const Demande> demandes) {
     for (const Demande& demande : demandes) {
         const std::string motif = std::string("*.") + demande.extension;
         const auto chemin = LesDialogues().FichierASauver({Texte(demande.titre),
-                                                           CheminAppli / NomDossierEtudes,
+                                                           CheminEtudes,
                                                            demande.nom + "." + demande.extension,
                                                            {{Texte(124) + " (" + motif + ")", motif}}});
         if (chemin && !chemin->empty()) fichiers.push_back({*chemin, demande.compose()});

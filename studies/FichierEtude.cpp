@@ -119,7 +119,7 @@ std::optional<std::filesystem::path> DonneesDepart() {
     const TypeEtude* type = TrouveType(etude.donnees.TypeCame);
     if (type == nullptr) throw ErreurExecution(NumeroErreur::AppelIncorrect, etude.donnees.TypeCame);
     auto chemin = LesDialogues().FichierASauver({Texte(type->titre) + " " + Texte(120),
-                                                 CheminAppli / NomDossierEtudes,
+                                                 CheminEtudes,
                                                  NomSansExtension(etude.donnees.NomFichier) + "." + type->extension,
                                                  {FiltreEtude(*type)}});
     if (!chemin || chemin->empty()) return {};

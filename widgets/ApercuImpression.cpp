@@ -194,8 +194,8 @@ void ApercuImpression::Imprime() {
 }
 
 void ApercuImpression::EcritPdf() {
-    const auto chemin = LesDialogues().FichierASauver(
-        {Texte(703), CheminAppli / NomDossierEtudes, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
+    const auto chemin =
+        LesDialogues().FichierASauver({Texte(703), CheminEtudes, S(nom_) + ".pdf", {{"PDF (*.pdf)", "*.pdf"}}});
     if (!chemin || chemin->empty()) return;
     const Sablier sablier;
     SuiviImpression suivi(this);

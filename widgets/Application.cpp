@@ -25,6 +25,7 @@ void Annonce(const std::string& texte) {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QString::fromLatin1(NomProgramme));
     setStyle(QStringLiteral("Fusion")); // the same on every desktop; its palette is light or dark as the system's
+    setDesktopFileName(QStringLiteral("velorin")); // by which a desktop finds the entry of a window
     setWindowIcon(IconeBarre(applicationName()));
     installEventFilter(this);
     // Listing the fonts of the system takes as long as opening the catalogue: they go side by side.

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <filesystem>
+
 class Imprimante;
 class QAbstractButton;
 
@@ -65,6 +67,10 @@ public:
     /// @param inertie kg m²
     /// @return false when this window asks for none
     virtual bool PrendInertie(double) { return false; }
+
+    /// Replaces the list that the window holds by that of a file; only where its row names files of its own.
+    /// @throws ErreurExecution the file cannot be read, or is no such list; the list is then as it was.
+    virtual void OuvreListe(const std::filesystem::path&) {}
 
     /// Takes what stands in the fields into the study record, as leaving each of them would.
     virtual void LitSaisie() {}

@@ -4,6 +4,7 @@
 #include "widgets/Chaines.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <string_view>
@@ -27,6 +28,9 @@ void ChargeTextesQt(const std::string& langue) {
         if (connue != langue) continue;
         auto* textes = new QTranslator(qApp);
         textes->setObjectName(QString::fromLatin1(nom));
-        if (textes->load(QChemin(CheminAppli / DossierTextesQt / fichier))) QCoreApplication::installTranslator(textes);
+        // An installed program finds them where the toolkit has its own.
+        if (textes->load(QChemin(CheminAppli / DossierTextesQt / fichier)) ||
+            textes->load(QString::fromLatin1(fichier), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QCoreApplication::installTranslator(textes);
     }
 }

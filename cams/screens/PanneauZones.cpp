@@ -281,8 +281,8 @@ bool PanneauZones::ChoisitLoi() {
 bool PanneauZones::ChercheFichier() {
     // A cancelled dialogue or a file that cannot be read leaves the law as it was.
     MontreLoi(loiChoisie_);
-    const auto chemin = LesDialogues().FichierAOuvrir(
-        {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
+    const auto chemin =
+        LesDialogues().FichierAOuvrir({Texte(125), CheminEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     if (!chemin || chemin->empty()) return false;
     LitFichierLoi(*chemin);
     emit Modifie();

@@ -146,10 +146,8 @@ void CylindriqueIndexeur::MontreResultats() {
 bool CylindriqueIndexeur::EcritFichier(const std::string& libelle, const char* extension, const std::string& titre,
                                        const std::string& contenu) {
     const std::string motif = std::string("*.") + extension;
-    const auto chemin = LesDialogues().FichierASauver({titre,
-                                                       CheminAppli / NomDossierEtudes,
-                                                       nom_.empty() ? "" : nom_ + "." + extension,
-                                                       {{libelle + " (" + motif + ")", motif}}});
+    const auto chemin = LesDialogues().FichierASauver(
+        {titre, CheminEtudes, nom_.empty() ? "" : nom_ + "." + extension, {{libelle + " (" + motif + ")", motif}}});
     if (!chemin) return false;
     EcritFichierEntier(*chemin, contenu);
     nom_ = S(QChemin(chemin->stem()));

@@ -142,8 +142,8 @@ void PanneauLoi::MontreD() {
 }
 
 std::string DemandeFichierLoi() {
-    const auto chemin = LesDialogues().FichierAOuvrir(
-        {Texte(125), CheminAppli / NomDossierEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
+    const auto chemin =
+        LesDialogues().FichierAOuvrir({Texte(125), CheminEtudes, {}, {{Texte(279) + " (*.Lmi)", "*.Lmi"}}});
     return chemin ? S(QChemin(*chemin)) : std::string();
 }
 

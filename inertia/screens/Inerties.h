@@ -25,9 +25,8 @@ public:
 
     const Assemblage& Liste() const { return assemblage_; }
 
-    /// Replaces the list by that of a file; the one before can be taken back.
-    /// @throws ErreurExecution the file is no list of solids, or cannot be read; the list is then as it was.
-    void OuvreListe(const std::filesystem::path& chemin);
+    /// The list before can be taken back.
+    void OuvreListe(const std::filesystem::path& chemin) override;
 
     QSize sizeHint() const override;
 

@@ -54,7 +54,7 @@ std::string CopieTable(const TableTexte& table, char separateur, const char* fin
 }
 
 DemandeFichier Demande(int texteFiltre, const char* motif) {
-    return {Texte(TexteListeSolides), CheminAppli / NomDossierEtudes, {}, {{Texte(texteFiltre), motif}}};
+    return {Texte(TexteListeSolides), CheminEtudes, {}, {{Texte(texteFiltre), motif}}};
 }
 
 DemandeFichier DemandeListe() {

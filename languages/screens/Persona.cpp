@@ -61,7 +61,7 @@ QPushButton* FaitBouton(const char* nom) {
 }
 
 DemandeFichier DemandeLangue(const std::string& nom) {
-    return {Texte(TexteTitreLangues), CheminAppli / NomDossierEtudes, nom, {{Texte(TexteFiltreLangue), "*.tsv"}}};
+    return {Texte(TexteTitreLangues), CheminEtudes, nom, {{Texte(TexteFiltreLangue), "*.tsv"}}};
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 #include <sstream>
 #include <utility>
 
-/// While it lives, `LaBase` and `CheminAppli` are its own.
+/// While it lives, `LaBase` and the folders of the program are its own.
 class BaseProvisoire {
 public:
     /// Adds a language "Italiano" with every text and a language "Deutsch" with every text but number 7.
@@ -26,10 +26,11 @@ public:
         ancienne_ =
             std::exchange(LaBase, BaseDonnees::Ouvre(dossier_ / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture));
         ancienChemin_ = std::exchange(CheminAppli, dossier_.Chemin());
+        CheminUtilisateur = dossier_.Chemin();
     }
     ~BaseProvisoire() {
         LaBase = std::move(ancienne_);
-        CheminAppli = ancienChemin_;
+        CheminAppli = CheminUtilisateur = ancienChemin_;
     }
 
 private:

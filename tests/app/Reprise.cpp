@@ -138,7 +138,7 @@ TEST_F(Reprise, AStudyOfALawComesBackWithItsLawAndUnit) {
 }
 
 TEST_F(Reprise, TheRecoveryFileFollowsTheEntryAndGoesWithIt) {
-    const std::filesystem::path fichier = FichierReprise(CheminAppli);
+    const std::filesystem::path fichier = FichierReprise(CheminUtilisateur);
     TapeEtude();
     ASSERT_TRUE(QTest::qWaitFor([&] { return Contient(fichier, "80.125"); }));
     CliqueSur(Ecran("DatoCama"), "Retour");
@@ -159,7 +159,7 @@ TEST_F(Reprise, TheRecoveryFileFollowsTheEntryAndGoesWithIt) {
 }
 
 TEST_F(Reprise, AFolderThatCannotBeWrittenIsToldOnce) {
-    const std::filesystem::path dossier = FichierReprise(CheminAppli).parent_path();
+    const std::filesystem::path dossier = FichierReprise(CheminUtilisateur).parent_path();
     EcritFichierEntier(dossier, "a file where the folder should be");
     TapeEtude();
     ASSERT_TRUE(QTest::qWaitFor([this] { return Etat().starts_with(Texte(934)); }, 5000));
@@ -168,7 +168,7 @@ TEST_F(Reprise, AFolderThatCannotBeWrittenIsToldOnce) {
 
 TEST_F(RepriseTuee, DISABLED_TypesAndIsKilled) {
     TapeEtude();
-    ASSERT_TRUE(QTest::qWaitFor([] { return Contient(FichierReprise(CheminAppli), "12.5"); }, 10000));
+    ASSERT_TRUE(QTest::qWaitFor([] { return Contient(FichierReprise(CheminUtilisateur), "12.5"); }, 10000));
     std::raise(SIGKILL);
 }
 

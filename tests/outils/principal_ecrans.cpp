@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
     const bool enfant = qEnvironmentVariableIsSet("VELORIN_ESSAI_TUE");
     if (!enfant) qputenv("XDG_STATE_HOME", etat.path().toUtf8());
     Application application(argc, argv);
-    CheminAppli = VELORIN_DOSSIER;
+    PrendDossiers(VELORIN_DOSSIER, {});
     LaBase = BaseDonnees::Ouvre(CheminAppli / NomBase, MotDePasseBase, BaseDonnees::Usage::Lecture);
     testing::UnitTest::GetInstance()->listeners().Append(new RetourAuDebut);
     return RUN_ALL_TESTS();

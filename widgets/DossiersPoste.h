@@ -1,0 +1,6 @@
+// The folders of the present user on this workstation.
+#pragma once
+
+#include "data/Demarrage.h"
+
+DossiersSysteme LesDossiersPoste();

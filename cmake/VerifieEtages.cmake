@@ -23,7 +23,7 @@ set(ETAGE_app 9)
 set(ETAGE_batch 9)
 
 # These include from any room.
-set(HORS_ETAGES bench tests build)
+set(HORS_ETAGES bench docs tests build)
 
 file(GLOB DOSSIERS LIST_DIRECTORIES true RELATIVE ${RACINE} ${RACINE}/*)
 set(FAUTES "")

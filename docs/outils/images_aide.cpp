@@ -2,7 +2,7 @@
 //   images_aide <folder docs/aide> [picture...]    with names, only those
 #include "core/FichierEntier.h"
 #include "data/Demarrage.h"
-#include "outils/VuesAide.h"
+#include "docs/outils/VuesAide.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"

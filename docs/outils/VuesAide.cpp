@@ -1,4 +1,4 @@
-#include "outils/VuesAide.h"
+#include "docs/outils/VuesAide.h"
 
 #include "app/CameType.h"
 #include "app/Ecrans.h"

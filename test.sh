@@ -11,11 +11,7 @@ git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 # Said here, because ./run.sh leaves them out of the same build folder.
 cmake --preset release -DVELORIN_TESTS=ON -DVELORIN_BENCH=ON >/dev/null
 cmake --build --preset release -j "$(nproc)"
-# Headers compiled beforehand are of this compiler alone: the checker reads the sources without them.
-mkdir -p build/controle
-sed -E 's# -Winvalid-pch -include [^ ]+cmake_pch\.hxx##' build/release/compile_commands.json >build/controle/compile_commands.json
-git ls-files '*.cpp' ':!*/screens/*' ':!widgets' ':!app' ':!batch' ':!tests' ':!bench' |
-    xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/controle 2>/dev/null
+./cmake/ControleSources.sh
 ctest --preset release --no-tests=error
 
 cmake --preset sanitize -DVELORIN_TESTS=ON >/dev/null

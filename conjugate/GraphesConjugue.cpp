@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int TexteAngleIndexage = 270;
 constexpr Couleur couleurs[] = {Couleur::Courbe1, Couleur::Courbe2, Couleur::Courbe3};
 
 /// Points over the index or the range of speeds.

@@ -26,10 +26,6 @@ double DepartPiste(const DonneesConjugue& d, int k) {
     return (2 * k - 1) * d.h;
 }
 
-double Carre(double x) {
-    return x * x;
-}
-
 std::string MessageLooping(const DonneesConjugue& d, int k) {
     return Texte(TexteLooping) + (k > 5 ? Texte(TexteAutrePiste) : LettrePiste(k)) + Texte(TexteDansLaPosition) +
            TexteCourt(d.Pistes) + "\n\r" + Texte(TexteDiminuerVitesse);

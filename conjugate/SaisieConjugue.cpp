@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int TexteAngleIndexage = 270, TexteDiametre = 218, TexteHauteur = 244;
+constexpr int TexteDiametre = 218, TexteHauteur = 244;
 
 /// Oil lets a roller turn faster than grease.
 constexpr double FacteurHuile = 1.3;

@@ -2,6 +2,7 @@
 #pragma once
 
 enum TexteConjugue {
+    TexteAngleIndexage = 270,
     TexteEntreAxes = 423,
     TexteRayonAxeGalet = 424,
     TexteNombreGalets = 425,

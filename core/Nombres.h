@@ -48,6 +48,10 @@ void AjouteFormat(std::string& sortie, double valeur, std::string_view masque);
 /// writes 5 as "5." and 0 as ".".
 std::string Format(double valeur, std::string_view masque);
 
+inline double Carre(double x) {
+    return x * x;
+}
+
 /// Largest integer not above `valeur`.
 inline double Int(double valeur) {
     return std::floor(valeur);

@@ -16,7 +16,7 @@ constexpr double Developpement = 360, Blanc = 4;
 /// Strokes of frame and turret, as many times the thinnest one.
 constexpr double TraitCadre = 2.4, TraitTourelle = 2.0;
 
-constexpr int PasDegres = 30;
+constexpr int PasReperes = 30;
 
 /// What the drawing shows, in millimetres of the cam: x from where the first two rollers stand, y from its middle.
 struct Vue {
@@ -48,11 +48,11 @@ double Echelle(const Dessin& dessin, const Vue& vue, double bandeau) {
 /// Frame, axis and degrees of the cam.
 void DessineCadre(Dessin& dessin, PlanDessin& plan, const Vue& vue, double hauteurTexte, double epaisseur) {
     const double y = vue.demiLargeur, x = vue.perimetre;
-    for (int degres = PasDegres; degres < 360; degres += PasDegres) {
+    for (int degres = PasReperes; degres < 360; degres += PasReperes) {
         const double place = x * degres / 360;
         plan.Ligne({place, -y}, {place, y}, {Couleur::Graduation, epaisseur});
     }
-    for (int degres = 0; degres <= 360; degres += 3 * PasDegres) {
+    for (int degres = 0; degres <= 360; degres += 3 * PasReperes) {
         const PointDessin pied = plan({x * degres / 360, vue.etendue.bas.y});
         dessin.Texte({pied.x, pied.y + hauteurTexte}, std::to_string(degres) + "°",
                      degres == 360 ? Ancrage::Droite : Ancrage::Centre, hauteurTexte, Couleur::TexteDiscret);

@@ -12,7 +12,7 @@ struct SensDemarrage {
     const char* textes[std::size(langues)];
 };
 
-constexpr SensDemarrage sens[] = {
+constexpr SensDemarrage LesEchecs[] = {
     {NumeroErreur::FichierIntrouvable, {"Fichier introuvable", "Archivo no encontrado", "File not found"}},
     {NumeroErreur::AccesFichier, {"Accès refusé", "Acceso denegado", "Access denied"}},
     {NumeroErreur::FinDeFichier, {"Fichier incomplet", "Archivo incompleto", "Incomplete file"}},
@@ -30,9 +30,9 @@ constexpr SensDemarrage autre{{},
 } // namespace
 
 std::string TexteEchecDemarrage(const ErreurExecution& erreur, const std::string& langue) {
-    const auto trouve = std::find_if(std::begin(sens), std::end(sens),
+    const auto trouve = std::find_if(std::begin(LesEchecs), std::end(LesEchecs),
                                      [&](const SensDemarrage& s) { return s.numero == erreur.numero; });
-    const SensDemarrage& ligne = trouve == std::end(sens) ? autre : *trouve;
+    const SensDemarrage& ligne = trouve == std::end(LesEchecs) ? autre : *trouve;
     std::string texte;
     const bool connue = std::find(std::begin(langues), std::end(langues), langue) != std::end(langues);
     for (std::size_t l = 0; l < std::size(langues); ++l)

@@ -10,7 +10,7 @@ struct Sens {
     int texte;
 };
 
-constexpr Sens sens[] = {
+constexpr Sens LesSens[] = {
     {NumeroErreur::AppelIncorrect, 709},     {NumeroErreur::Depassement, 710},
     {NumeroErreur::IndiceHorsLimites, 712},  {NumeroErreur::DivisionParZero, 713},
     {NumeroErreur::TypeIncompatible, 714},   {NumeroErreur::FichierIntrouvable, 716},
@@ -27,8 +27,8 @@ constexpr Sens sens[] = {
 
 std::string SensErreur(const ErreurExecution& erreur) {
     const auto s =
-        std::find_if(std::begin(sens), std::end(sens), [&](const Sens& e) { return e.numero == erreur.numero; });
-    if (s == std::end(sens)) return Texte(735) + " " + std::to_string(static_cast<int>(erreur.numero));
+        std::find_if(std::begin(LesSens), std::end(LesSens), [&](const Sens& e) { return e.numero == erreur.numero; });
+    if (s == std::end(LesSens)) return Texte(735) + " " + std::to_string(static_cast<int>(erreur.numero));
     return Texte(s->texte) + (erreur.detail.empty() ? "" : " (" + erreur.detail + ")");
 }
 

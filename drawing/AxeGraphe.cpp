@@ -13,9 +13,6 @@ constexpr double GraduationsAngles = 13, GraduationsValeurs = 5; ///< as many as
 /// What is that much smaller than the largest value is a zero that was rounded.
 constexpr double Arrondi0 = 1e-9;
 
-/// Of values that have an axis around them; what lies beyond is drawn where it falls.
-constexpr double EtendueMax = 1e307;
-
 bool PlusBas(PointDessin a, PointDessin b) {
     return a.y < b.y;
 }

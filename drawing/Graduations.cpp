@@ -9,7 +9,7 @@ namespace {
 constexpr long NombreMax = 100; ///< graduations of an axis
 
 /// Steps stay among the numbers that have a power of ten.
-constexpr double EtendueMin = 1e-300, EtendueMax = 1e307;
+constexpr double EtendueMin = 1e-300;
 
 } // namespace
 

@@ -3,6 +3,9 @@
 
 #include <vector>
 
+/// Extent of values that have an axis around them; what lies beyond is drawn where it falls.
+inline constexpr double EtendueMax = 1e307;
+
 /// Degrees between graduations: a round part of a turn that leaves at most `nombre` of them over `etendue` degrees.
 double PasGraduationAngle(double etendue, double nombre);
 

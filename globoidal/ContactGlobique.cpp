@@ -1,6 +1,7 @@
 #include "globoidal/ContactGlobique.h"
 
 #include "core/Etude.h"
+#include "core/Nombres.h"
 #include "globoidal/UnitesGlobiques.h"
 
 #include <algorithm>
@@ -16,10 +17,6 @@ constexpr double CourbureNulle = 1e-5;
 constexpr double CourbureMin = 1e-5;
 
 constexpr double ArrondiCouple = 1e-9;
-
-double Carre(double x) {
-    return x * x;
-}
 
 int LitCode(double code, int maximum) {
     const int entier = Entier16(code);

@@ -2,6 +2,7 @@
 
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
+#include "core/Nombres.h"
 #include "laws/FichierLoi.h"
 
 #include <algorithm>
@@ -11,10 +12,6 @@ namespace {
 
 /// A remainder of the shares this small is a rounding.
 constexpr double ArrondiParts = 1e-9;
-
-double Carre(double x) {
-    return x * x;
-}
 
 /// One of the four segments of the first half, by its formula.
 PointLoi EvalueSegment(const LoiCinqSegments& loi, Segment segment, double u) {

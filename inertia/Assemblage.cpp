@@ -36,14 +36,8 @@ Grandeurs Augmente(const Grandeurs& totaux, const Grandeurs& ligne, double sens)
     return nouveaux;
 }
 
-template <std::size_t rang> std::string Valeur(const LigneAssemblage& ligne) {
-    return TexteListe(ligne.liste[rang], LesGrandeurs()[rang]);
-}
 template <std::size_t rang> std::string Exacte(const LigneAssemblage& ligne) {
     return StrTrim(ligne.exactes[rang]);
-}
-template <std::string SaisieSolide::*membre> std::string Saisi(const LigneAssemblage& ligne) {
-    return ligne.saisie.*membre;
 }
 std::string Rien(const LigneAssemblage&) {
     return {};

@@ -21,20 +21,13 @@ struct ColonneTable {
     std::string (*cellule)(const LigneAssemblage& ligne);
 };
 
-template <std::string SaisieSolide::*membre> std::string Saisi(const LigneAssemblage& ligne) {
-    return ligne.saisie.*membre;
-}
-template <std::size_t rang> std::string Valeur(const LigneAssemblage& ligne) {
-    return TexteListe(ligne.liste[rang], LesGrandeurs()[rang]);
-}
-
 constexpr ColonneTable Quantite{TexteQte, "    ", "    ", 0, Saisi<&S::Text1>};
 constexpr ColonneTable Rapport{TexteRapportColonne, "       ", "       ", 0, Saisi<&S::Text2>};
 constexpr ColonneTable Masse{TexteMasse, "      ", "kg    ", 0, Valeur<0>};
-constexpr ColonneTable R{0, "R      ", "mm     ", 0, Saisi<&S::Text5>};
-constexpr ColonneTable D{0, "D      ", "mm     ", 0, Saisi<&S::Text6>};
-constexpr ColonneTable d{0, "d      ", "mm     ", 0, Saisi<&S::Text7>};
-constexpr ColonneTable H{0, "H    ", "mm     ", 0, Saisi<&S::Text8>};
+constexpr ColonneTable ColonneR{0, "R      ", "mm     ", 0, Saisi<&S::Text5>};
+constexpr ColonneTable ColonneD{0, "D      ", "mm     ", 0, Saisi<&S::Text6>};
+constexpr ColonneTable ColonnePetitD{0, "d      ", "mm     ", 0, Saisi<&S::Text7>};
+constexpr ColonneTable ColonneH{0, "H    ", "mm     ", 0, Saisi<&S::Text8>};
 constexpr ColonneTable Inertie{TexteInertie, "", "kgm²", 0, Valeur<1>};
 
 struct TableGenres {
@@ -44,14 +37,14 @@ struct TableGenres {
 
 const std::vector<TableGenres>& LesTables() {
     static const std::vector<TableGenres> tables = {
-        {{1, 2, 3}, {Masse, D, H, Inertie}},
-        {{4, 5, 6, 7}, {Masse, D, d, H, Inertie}},
-        {{8}, {Masse, D, H, {0, "  N   ", "      ", 0, Saisi<&S::Text5>}, Inertie}},
-        {{9}, {Masse, D, Inertie}},
-        {{10, 11, 12}, {Masse, R, D, H, Inertie}},
-        {{13, 14}, {Masse, R, D, Inertie}},
-        {{15}, {Masse, R, D, d, H, Inertie}},
-        {{16}, {Masse, R, Inertie}},
+        {{1, 2, 3}, {Masse, ColonneD, ColonneH, Inertie}},
+        {{4, 5, 6, 7}, {Masse, ColonneD, ColonnePetitD, ColonneH, Inertie}},
+        {{8}, {Masse, ColonneD, ColonneH, {0, "  N   ", "      ", 0, Saisi<&S::Text5>}, Inertie}},
+        {{9}, {Masse, ColonneD, Inertie}},
+        {{10, 11, 12}, {Masse, ColonneR, ColonneD, ColonneH, Inertie}},
+        {{13, 14}, {Masse, ColonneR, ColonneD, Inertie}},
+        {{15}, {Masse, ColonneR, ColonneD, ColonnePetitD, ColonneH, Inertie}},
+        {{16}, {Masse, ColonneR, Inertie}},
         {{17},
          {{TexteMasse, "        ", "kg      ", 0, Valeur<0>},
           {TexteInertie, "         ", "kgm²     ", 0, Valeur<1>},
@@ -63,8 +56,8 @@ const std::vector<TableGenres>& LesTables() {
           {0, "f      ", "      ", 0, Saisi<&S::Text8>},
           {0, "D     ", "mm      ", 0, Saisi<&S::Text6>},
           Inertie}},
-        {{19}, {Masse, R, {0, "ß    ", "    ", UniteDegres, Saisi<&S::Text8>}, Inertie}},
-        {{20}, {Masse, D, d, Inertie}},
+        {{19}, {Masse, ColonneR, {0, "ß    ", "    ", UniteDegres, Saisi<&S::Text8>}, Inertie}},
+        {{20}, {Masse, ColonneD, ColonnePetitD, Inertie}},
     };
     return tables;
 }

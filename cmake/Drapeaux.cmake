@@ -1,7 +1,13 @@
 # Compiler flags, stated once. Arithmetic is the same on every machine: no fast-math, no contraction of a*b+c.
 add_library(velorin_drapeaux INTERFACE)
-target_compile_options(velorin_drapeaux INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+target_compile_options(velorin_drapeaux INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
                                                   -ffp-contract=off)
+if(VELORIN_ENSEMBLES)
+  # To the compiler all is one file: a local name may be that of another, an anonymous namespace seems included.
+  target_compile_options(velorin_drapeaux INTERFACE -Wno-subobject-linkage)
+else()
+  target_compile_options(velorin_drapeaux INTERFACE -Wshadow -Werror=shadow)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # This compiler sees overlaps in joined strings that are not there.
   target_compile_options(velorin_drapeaux INTERFACE -Wno-restrict)

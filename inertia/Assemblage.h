@@ -63,9 +63,9 @@ TableTexte TableTotaux(const Assemblage& assemblage);
 std::string TexteListe(double valeur, const GrandeurInertie& grandeur);
 
 /// Cells of a line: a member as it was typed, a quantity as the list shows it.
-template <std::string SaisieSolide::*membre> std::string Saisi(const LigneAssemblage& ligne) {
+template <std::string SaisieSolide::*membre> std::string CelluleSaisie(const LigneAssemblage& ligne) {
     return ligne.saisie.*membre;
 }
-template <std::size_t rang> std::string Valeur(const LigneAssemblage& ligne) {
+template <std::size_t rang> std::string CelluleListe(const LigneAssemblage& ligne) {
     return TexteListe(ligne.liste[rang], LesGrandeurs()[rang]);
 }

@@ -21,14 +21,14 @@ struct ColonneTable {
     std::string (*cellule)(const LigneAssemblage& ligne);
 };
 
-constexpr ColonneTable Quantite{TexteQte, "    ", "    ", 0, Saisi<&S::Text1>};
-constexpr ColonneTable Rapport{TexteRapportColonne, "       ", "       ", 0, Saisi<&S::Text2>};
-constexpr ColonneTable Masse{TexteMasse, "      ", "kg    ", 0, Valeur<0>};
-constexpr ColonneTable ColonneR{0, "R      ", "mm     ", 0, Saisi<&S::Text5>};
-constexpr ColonneTable ColonneD{0, "D      ", "mm     ", 0, Saisi<&S::Text6>};
-constexpr ColonneTable ColonnePetitD{0, "d      ", "mm     ", 0, Saisi<&S::Text7>};
-constexpr ColonneTable ColonneH{0, "H    ", "mm     ", 0, Saisi<&S::Text8>};
-constexpr ColonneTable Inertie{TexteInertie, "", "kgm²", 0, Valeur<1>};
+constexpr ColonneTable Quantite{TexteQte, "    ", "    ", 0, CelluleSaisie<&S::Text1>};
+constexpr ColonneTable Rapport{TexteRapportColonne, "       ", "       ", 0, CelluleSaisie<&S::Text2>};
+constexpr ColonneTable Masse{TexteMasse, "      ", "kg    ", 0, CelluleListe<0>};
+constexpr ColonneTable ColonneR{0, "R      ", "mm     ", 0, CelluleSaisie<&S::Text5>};
+constexpr ColonneTable ColonneD{0, "D      ", "mm     ", 0, CelluleSaisie<&S::Text6>};
+constexpr ColonneTable ColonnePetitD{0, "d      ", "mm     ", 0, CelluleSaisie<&S::Text7>};
+constexpr ColonneTable ColonneH{0, "H    ", "mm     ", 0, CelluleSaisie<&S::Text8>};
+constexpr ColonneTable Inertie{TexteInertie, "", "kgm²", 0, CelluleListe<1>};
 
 struct TableGenres {
     std::vector<int> genres;
@@ -39,24 +39,24 @@ const std::vector<TableGenres>& LesTables() {
     static const std::vector<TableGenres> tables = {
         {{1, 2, 3}, {Masse, ColonneD, ColonneH, Inertie}},
         {{4, 5, 6, 7}, {Masse, ColonneD, ColonnePetitD, ColonneH, Inertie}},
-        {{8}, {Masse, ColonneD, ColonneH, {0, "  N   ", "      ", 0, Saisi<&S::Text5>}, Inertie}},
+        {{8}, {Masse, ColonneD, ColonneH, {0, "  N   ", "      ", 0, CelluleSaisie<&S::Text5>}, Inertie}},
         {{9}, {Masse, ColonneD, Inertie}},
         {{10, 11, 12}, {Masse, ColonneR, ColonneD, ColonneH, Inertie}},
         {{13, 14}, {Masse, ColonneR, ColonneD, Inertie}},
         {{15}, {Masse, ColonneR, ColonneD, ColonnePetitD, ColonneH, Inertie}},
         {{16}, {Masse, ColonneR, Inertie}},
         {{17},
-         {{TexteMasse, "        ", "kg      ", 0, Valeur<0>},
-          {TexteInertie, "         ", "kgm²     ", 0, Valeur<1>},
-          {TexteTravailCourt, "          ", "Nm        ", 0, Valeur<2>},
-          {TexteFrictionCourt, "", "Nm", 0, Valeur<3>}}},
+         {{TexteMasse, "        ", "kg      ", 0, CelluleListe<0>},
+          {TexteInertie, "         ", "kgm²     ", 0, CelluleListe<1>},
+          {TexteTravailCourt, "          ", "Nm        ", 0, CelluleListe<2>},
+          {TexteFrictionCourt, "", "Nm", 0, CelluleListe<3>}}},
         {{18},
-         {{0, "M.Trans   ", "kg       ", 0, Saisi<&S::Text3>},
-          {0, "M.Rot   ", "kg     ", 0, Saisi<&S::Text7>},
-          {0, "f      ", "      ", 0, Saisi<&S::Text8>},
-          {0, "D     ", "mm      ", 0, Saisi<&S::Text6>},
+         {{0, "M.Trans   ", "kg       ", 0, CelluleSaisie<&S::Text3>},
+          {0, "M.Rot   ", "kg     ", 0, CelluleSaisie<&S::Text7>},
+          {0, "f      ", "      ", 0, CelluleSaisie<&S::Text8>},
+          {0, "D     ", "mm      ", 0, CelluleSaisie<&S::Text6>},
           Inertie}},
-        {{19}, {Masse, ColonneR, {0, "ß    ", "    ", UniteDegres, Saisi<&S::Text8>}, Inertie}},
+        {{19}, {Masse, ColonneR, {0, "ß    ", "    ", UniteDegres, CelluleSaisie<&S::Text8>}, Inertie}},
         {{20}, {Masse, ColonneD, ColonnePetitD, Inertie}},
     };
     return tables;

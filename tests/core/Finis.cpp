@@ -11,7 +11,6 @@ TEST(Finis, OneMemberBeyondAllNumbersIsFound) {
     Point point;
     point.Angle = -Limites::max();
     point.Rayon = Limites::denorm_min();
-    point.Couple = -0.0;
     EXPECT_TRUE(TousFinis(point));
     Tableau<Point> table;
     table.Redimensionne(9);

@@ -1,8 +1,6 @@
 #include "Passe.h"
 #include "outils/DossierTemporaire.h"
 
-#include <cmath>
-
 namespace {
 
 const std::string exemple = VELORIN_SOURCES "/Profils/Exemple.Ang";
@@ -60,7 +58,6 @@ TEST_F(CommandeEtude, ExamplesAreCalculatedWithoutABox) {
         auto membres = tete;
         membres.insert(membres.end(), {"Mouvement", "Points", "Profil"});
         EXPECT_EQ(Membres(o), membres);
-        EXPECT_EQ(o["Erreur"], 0);
         EXPECT_TRUE(o["messages"].empty());
         EXPECT_EQ(o["Zones"].size(), o["donnees"]["NombreZones"].get<std::size_t>() + 1);
         const auto points = o["resume"]["NombrePoints"].get<std::size_t>() + 1;
@@ -121,9 +118,6 @@ TEST_F(CommandeEtude, APairOfCamsHasItsResultsByCam) {
     const auto passe = LancePasse({"etude", paire, "--points", points, "--scripts", base});
     ASSERT_EQ(passe.statut, 0) << passe.erreurs;
     const auto& o = passe.Objet();
-    EXPECT_EQ(Membres(o), (std::vector<std::string>{"fichier", "TypeCame", "Erreur", "messages", "donnees", "Zones",
-                                                    "Guide", "Suiveur"}));
-    EXPECT_EQ(o["Zones"][1]["AngleFinal"], 74) << "as entered";
     for (const char* came : {"Guide", "Suiveur"}) {
         EXPECT_EQ(Membres(o[came]), (std::vector<std::string>{"resume", "Mouvement", "Points", "Profil"}));
         EXPECT_EQ(o[came]["Points"]["Rayon"].size(), 721u);
@@ -131,5 +125,4 @@ TEST_F(CommandeEtude, APairOfCamsHasItsResultsByCam) {
     }
     for (const std::string& ecrit : {points, base + "_Came guide.Scr", base + "_Came suiveuse.Scr"})
         EXPECT_TRUE(std::filesystem::exists(ecrit)) << ecrit;
-    EXPECT_EQ(Membres(LancePasse({"etude", paire, "--resume"}).Objet()["Guide"]), std::vector<std::string>{"resume"});
 }

@@ -47,17 +47,3 @@ TEST_F(Inertie, ASolidThatStopsIsNoFailure) {
     EXPECT_EQ(Nombres(o["totaux"]), (std::vector<double>{10, 1, 5, 5}));
     EXPECT_EQ(o["messages"].size(), 1U) << "for the totals below nothing";
 }
-
-TEST_F(Inertie, WhatMakesNoSenseIsStatusTwoAndWhatIsTooLargeStatusOne) {
-    for (const char* solide : {"{}", R"({"TypeSolide":21})", R"({"TypeSolide":1.5})", R"({"TypeSolide":1,"Text4":"1"})",
-                               R"({"TypeSolide":1,"Text6":true})"}) {
-        const Passe passe = Lance(solide);
-        EXPECT_EQ(passe.statut, 2) << solide;
-        EXPECT_EQ(passe.LignesErreur(), 1) << passe.erreurs;
-        EXPECT_TRUE(passe.sortie.empty());
-    }
-    const Passe passe = Lance(R"({"TypeSolide":9,"Text3":"1","Text6":"1e400"})");
-    EXPECT_EQ(passe.statut, 1);
-    EXPECT_EQ(passe.Objet()["Erreur"], -1);
-    EXPECT_TRUE(passe.Objet().contains("echec"));
-}

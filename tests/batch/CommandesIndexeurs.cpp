@@ -19,10 +19,10 @@ protected:
     DossierTemporaire dossier;
 
     /// Calculates the example with other members in place of its own.
-    Passe Lance(const Calculateur& c, const Json& autres = Json::object(), const char* langue = "Français") {
+    Passe Lance(const Calculateur& c, const Json& autres = Json::object()) {
         Json donnees = Json::parse(LitBrut(VELORIN_SOURCES "/Profils/" + std::string(c.exemple)));
         donnees.update(autres);
-        return LancePasse({c.commande, dossier.Ecrit("donnees.json", donnees.dump())}, langue);
+        return LancePasse({c.commande, dossier.Ecrit("donnees.json", donnees.dump())});
     }
     Json Calcule(const Calculateur& c, const Json& autres = Json::object()) { return Lance(c, autres).Objet(); }
 };
@@ -46,8 +46,6 @@ TEST_F(CommandesIndexeurs, DataAreNumbersOrTextsAsTypedOrLeftOut) {
         const Passe passe = Lance(c.calculateur);
         ASSERT_EQ(passe.statut, 0) << passe.erreurs;
         EXPECT_EQ(passe.Objet()["Erreur"], 0);
-        EXPECT_TRUE(passe.Objet()["messages"].empty());
-        EXPECT_FALSE(passe.Objet().contains("echec"));
         EXPECT_EQ(Lance(c.calculateur, c.tapees).sortie, passe.sortie);
         EXPECT_NE(Lance(c.calculateur, c.autre).sortie, passe.sortie);
     }
@@ -66,9 +64,6 @@ TEST_F(CommandesIndexeurs, ResultsStandInTheirMembers) {
 
     const Json conjugue = Calcule(Conjugue), tambour = Calcule(Tambour);
     EXPECT_NEAR(conjugue["SR"].get<double>(), 2 * conjugue["RSD"].get<double>() / 26, 1e-12);
-    const Json anglais = Lance(Conjugue, Json::object(), "English").Objet();
-    EXPECT_EQ(anglais["lignes"], conjugue["lignes"]) << "the report has its own language";
-    EXPECT_NE(anglais["notes"], conjugue["notes"]);
     EXPECT_EQ(tambour["Grille"].size(), 361U);
     EXPECT_EQ(tambour["Grille"][0].size(), tambour["GaletsUtilises"].get<std::size_t>() + 2);
 }
@@ -105,7 +100,4 @@ TEST_F(CommandesIndexeurs, RefusalsHaveAReasonAndABoxWhereTheScreenHasOne) {
 TEST_F(CommandesIndexeurs, LawFilesAreSoughtBesideTheData) {
     std::filesystem::copy_file(VELORIN_SOURCES "/Profils/Aller-retour.Lmi", dossier / "ici.Lmi");
     EXPECT_EQ(Lance(Oscillateur, {{"LoiZoneA", "Fichier"}, {"FichierLoi", "ici.Lmi"}}).statut, 0);
-    dossier.Ecrit("loi.Lmi", "0;0;0\r\n.5;1;1\r\n.9;1;1\r\n1;0;0\r\n");
-    EXPECT_EQ(Calcule(Tambour, {{"NomLoi", "Fichier"}, {"FichierLoi", "loi.Lmi"}})["LoiUnitaire"],
-              Json::parse("[0,0.9,0]"));
 }

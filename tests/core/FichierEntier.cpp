@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -48,16 +47,6 @@ private:
 };
 
 } // namespace
-
-TEST_F(FichierEntier, ReadsBackTheBytesItWrote) {
-    std::string octets(300000, '\0');
-    for (std::size_t i = 0; i < octets.size(); ++i) octets[i] = static_cast<char>(i * 31 % 256);
-    for (const std::string& contenu : {octets, std::string("court\r\n"), std::string()}) {
-        EcritFichierEntier(dossier / "Étude n° 1.Ang", contenu);
-        EXPECT_EQ(LitFichierEntier(dossier / "Étude n° 1.Ang"), contenu);
-        EXPECT_EQ(dossier.NombreFichiers(), 1);
-    }
-}
 
 TEST_F(FichierEntier, WhatCannotBeReadIsToldApart) {
     const auto echec = [](const fs::path& chemin) {
@@ -135,18 +124,6 @@ TEST_F(FichierEntier, LinkIsFollowedAndPermissionsStay) {
     EXPECT_EQ(LitBrut(chemin), "nouveau");
     EXPECT_EQ(fs::status(chemin).permissions(), droits);
     EXPECT_EQ(dossier.NombreFichiers(), 2);
-}
-
-TEST_F(FichierEntier, PipeIsWrittenThroughAndRefusedAsAStudyWithoutWaiting) {
-    const fs::path tube = dossier / "tube";
-    ASSERT_EQ(::mkfifo(tube.c_str(), 0600), 0);
-    EXPECT_THROW(LitFichierEntier(tube), ErreurExecution) << "nobody writes to it: reading would wait for ever";
-    std::string recu;
-    std::thread lecteur([&] { recu = LitFichierEntier(tube, Source::Flux); });
-    EcritFichierEntier(tube, "par le tube");
-    lecteur.join();
-    EXPECT_EQ(recu, "par le tube");
-    EXPECT_TRUE(fs::is_fifo(tube));
 }
 
 TEST_F(FichierEntier, FilesThatBelongTogetherAreWrittenAllOrNone) {

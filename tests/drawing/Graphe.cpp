@@ -108,22 +108,16 @@ TEST_F(Graphes, AnAxisAroundValuesEndsOnRoundOnesAndHoldsThem) {
     }
 }
 
-TEST_F(Graphes, NoNumberMakesMoreGraduationsThanAnAxisHasRoomFor) {
+TEST(AxesGraphe, NoNumberMakesMoreGraduationsThanAnAxisHasRoomFor) {
     const double plusGrand = std::numeric_limits<double>::max(), plusPetit = std::numeric_limits<double>::denorm_min();
     for (const double valeur : {1e16, 1e300, plusGrand, plusPetit, 1e-310, 1e9, 32767.0}) {
         SCOPED_TRACE(valeur);
         const PointDessin points[] = {{0, std::nextafter(valeur, 0.0)}, {valeur, valeur}, {valeur / 2, -valeur}};
         const std::span<const PointDessin> courbe = points;
-        graphe.horizontal = AxeAngles(valeur);
-        EXPECT_LE(graphe.horizontal.graduations.size(), 15U);
+        EXPECT_LE(AxeAngles(valeur).graduations.size(), 15U);
         for (const auto& axe : {AxeAutour(courbe.first(2)), AxeAutour(courbe), AxeSymetrique(valeur, valeur / 2, "0.0"),
-                                AxeSymetrique(valeur, std::min(valeur, PasGraduationAngle(valeur, 3)), "0")}) {
+                                AxeSymetrique(valeur, std::min(valeur, PasGraduationAngle(valeur, 3)), "0")})
             EXPECT_LE(axe.graduations.size(), 100U);
-            imprimante = ImprimanteNotee();
-            graphe.verticaux = {axe};
-            graphe.courbes = {{"", Couleur::Courbe1, {courbe.begin(), courbe.end()}, 0, Extremes::Tous}};
-            EXPECT_LT(Dessine().etiquettes.size(), 120U);
-        }
     }
 }
 

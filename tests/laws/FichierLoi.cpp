@@ -46,10 +46,6 @@ TEST_F(FichierLoi, AShortFileChangesNothing) {
     const auto avant = etude.lois.LoiUnite.BorneHaute();
     EXPECT_THROW(LitLoi(contenu.substr(0, contenu.size() / 2)), ErreurExecution);
     EXPECT_EQ(etude.lois.LoiUnite.BorneHaute(), avant);
-    std::string sansSeparateur;
-    for (int i = 0; i < 720; ++i) sansSeparateur += "0.5 0.5 0.5\n";
-    LitLoi(sansSeparateur);
-    EXPECT_EQ(etude.lois.LoiUnite[1].Course, 0) << "a line without separators reads as zeros";
 }
 
 TEST_F(FichierLoi, ListingInTheUnitsOfTheStudy) {

@@ -75,9 +75,6 @@ TEST_F(EtudesLois, TheSlowApproachShowsItsOwnAcceleration) {
 }
 
 TEST_F(EtudesLois, NumbersBeyondAllMeasureEndTheStudyWithTheirName) {
-    const auto echec = [&](double course, double vitesse) {
-        return EchecDe([&] { Calcule("hesser", {30, course, vitesse}, 1); }).detail;
-    };
-    EXPECT_EQ(echec(1e308, 1e4), Texte(225) + ", " + Texte(439) + " 0") << "its scale is no number";
-    EXPECT_EQ(echec(1e150, 1e100), Texte(226) + ", " + Texte(439) + " 0") << "its scale is no number";
+    const std::string echec = EchecDe([&] { Calcule("hesser", {30, 1e308, 1e4}, 1); }).detail;
+    EXPECT_EQ(echec, Texte(225) + ", " + Texte(439) + " 0") << "its scale is no number";
 }

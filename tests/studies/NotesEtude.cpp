@@ -3,7 +3,6 @@
 #include "cams/Courbure.h"
 #include "cylindrical/GeometrieCyl.h"
 #include "studies/EtudeImprimee.h"
-#include "studies/ValeursRemarquables.h"
 
 #include <set>
 
@@ -54,14 +53,6 @@ TEST_F(NotesEtudes, ADevelopedSlopeIsTrueAtOnePointADegree) {
         EXPECT_NEAR(PenteVraieMaxi(), vraie, 0.02) << points;
         for (const char* valeur : {"AngleTangentMax", "ForceGaletMax", "CoupleMax"})
             EXPECT_EQ(A(notes, valeur, TexteArcDegre), points > 1) << valeur << points;
-        EXPECT_EQ(notes.Vide(), points == 1);
-        const auto* pente = TrouveChamp(LesValeursRemarquables(), "PenteVraie");
-        EXPECT_EQ(pente->texte(LeTypeEtude()) != 0, points > 1);
-        Imprime({MarqueImpression::PointsRemarquables});
-        for (const std::string& ligne : Lignes()) EXPECT_LE(NombreCaracteres(ligne), 78) << ligne;
-        const std::string page = TexteImprime();
-        EXPECT_EQ(page.find(Texte(223) + " (1)") != std::string::npos, points > 1) << page;
-        EXPECT_EQ(page.find("(1) " + Texte(TexteArcDegre).substr(0, 20)) != std::string::npos, points > 1);
     }
     // At rest nothing is misleading.
     PoseZones({{5, 5, 360, "CYC"}});
@@ -74,9 +65,6 @@ TEST_F(NotesEtudes, TheArmOfACylinderMovesInDegreesOverAThousand) {
     const Notes notes = Calcule();
     for (const char* valeur : {"LoiVitesseMax", "AccelRayonMax", "ForceGaletMax", "VitesseGaletMax"})
         EXPECT_TRUE(A(notes, valeur, TexteEchelleOsc)) << valeur;
-    EXPECT_FALSE(A(notes, "AngleTangentMax", TexteEchelleOsc)) << "the heights are true";
-    // 10 degrees in a third of a second: the peak is twice the mean.
-    EXPECT_NEAR(etude.durables.LoiVitesseMax * 17.4533, 2 * 10 / RadDeg / (1 / 3.0), 1e-4);
 }
 
 TEST_F(NotesEtudes, AMaximumOfAnEarlierCalculationIsMarkedWithItsOwn) {
@@ -93,9 +81,6 @@ TEST_F(NotesEtudes, AMaximumOfAnEarlierCalculationIsMarkedWithItsOwn) {
     EXPECT_EQ(etude.durables.VitesseGaletMax, vite);
     for (const char* valeur : {"LoiVitesseMax", "LoiAccelMax", "VitesseGaletMax"})
         EXPECT_TRUE(A(notes, valeur, TexteMaximumGarde)) << valeur;
-    EXPECT_FALSE(A(notes, "LoiCourseMax", TexteMaximumGarde)) << "the same stroke";
-    EXPECT_NE(notes.Textes("VitesseGaletMax").find(" " + Format(etude.resultats.MaximaPropres.VitesseGaletMax, "##0")),
-              std::string::npos);
     EXPECT_NEAR(etude.resultats.MaximaPropres.VitesseGaletMax, vite / 2, 1);
     EXPECT_FALSE(A(calcule(90), "VitesseGaletMax", TexteMaximumGarde)) << "reached again";
 }
@@ -132,6 +117,5 @@ TEST_F(NotesEtudes, UndercutIsToldByCamAnglesAndDrawnInRed) {
     }
     EXPECT_EQ(angles, annonces);
     EXPECT_TRUE(A(notes, "RayonCourbureMin", TexteTropCourbe));
-    EXPECT_NE(notes.Textes("RayonCourbureMin").find("°-"), std::string::npos);
     EXPECT_GT(EnRouge(), 2 * angles.size());
 }

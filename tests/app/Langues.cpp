@@ -55,7 +55,6 @@ TEST_F(RouteLangue, ALanguageIsMadeTranslatedWorkedInAndDeleted) {
     dialogues_.saisies = {"U"}; // the help
     mdi.findChildren<QAction*>("FichierLanguesDisponibles").back()->trigger();
     LaisseFaire();
-    EXPECT_EQ(mdi.EcranOuvert("Persona"), nullptr) << "closed as every screen";
     EXPECT_EQ(S(mdi.windowTitle()), Allonge("Velorin - Calcul de cames et de mécanismes intermittents"));
 
     // Deleted while it is worked in, it is gone at the next start only.
@@ -63,11 +62,9 @@ TEST_F(RouteLangue, ALanguageIsMadeTranslatedWorkedInAndDeleted) {
     Controle<QListWidget>(editeur, "List2")->setCurrentRow(3);
     dialogues_.reponses = {false, true};
     CliqueSur(editeur, "SupprimeLangue");
-    EXPECT_EQ(dialogues_.demandes.back(), Texte(66) + "\n" + NomLangueLongue);
     EXPECT_EQ(Controle<QListWidget>(editeur, "List2")->count(), 4);
     CliqueSur(editeur, "SupprimeLangue");
     EXPECT_EQ(Controle<QListWidget>(editeur, "List2")->count(), 3);
-    EXPECT_FALSE(Controle<QWidget>(editeur, "SupprimeLangue")->isEnabled());
     EXPECT_EQ(Texte(3), "OOK");
     ChargeTextes(LaBase);
     EXPECT_EQ(LangueTravail, "Español");

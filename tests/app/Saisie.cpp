@@ -1,15 +1,10 @@
-// Typing with the whole program around it: from the chooser to paper, the way back, the open dialogue, saving and
-// printing after an edit.
-#include "app/CameType.h"
+// Typing with the whole program around it: the way back, the open dialogue, saving and printing after an edit.
 #include "data/TextesSaisie.h"
 #include "outils/FenetrePrincipale.h"
 #include "studies/Exports.h"
 #include "studies/FichierEtude.h"
-#include "studies/RapportsCames.h"
-#include "widgets/ImprimanteQt.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 
 namespace {
 
@@ -36,51 +31,6 @@ protected:
 
 } // namespace
 
-TEST_F(Saisie, FromTheChooserToPaper) {
-    Lance("FichierNouveau", [this](QDialog& choix) {
-        EXPECT_TRUE(Visible("Resultat")) << "nothing is lost before the choice";
-        QTest::keyClick(Controle<QAbstractButton>(choix, "Image1"), Qt::Key_Return);
-    });
-    EXPECT_FALSE(Ouvert("Resultat"));
-    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire");
-    EXPECT_EQ(etude.donnees.NomFichier, "");
-    EXPECT_EQ(etude.resultats.ResultatsPrets, Faux);
-    QWidget& saisie = Ecran("DatoCama");
-    EXPECT_EQ(TexteDe("DatoCama", "Text1"), "0");
-    TapeLigne(saisie, "Text1=80 Text2=30 Text3=100 Text4=70 Text5=40 Text6=10 Text18=300");
-    TapeLigne(saisie, "Text7=0,8 Text9=12 Text13=2 Text14=25");
-    for (const char* fin : {"40", "25"}) {
-        TapeTout(saisie, {{"Text15", fin}, {"Text16", "180"}});
-        CliqueSur(saisie, "Suivante");
-    }
-    CliqueSur(saisie, "Calculer");
-    ASSERT_TRUE(Visible("Resultat")) << dialogues_.Derniere();
-    EXPECT_FALSE(saisie.isVisible());
-    const double rayon = etude.resultats.RayonMax;
-
-    dialogues_.fichiers = {dossier_ / "route.Ang"};
-    Lance("FichierSauvegarde", [](QDialog& ecran) {
-        Controle<QLineEdit>(ecran, "Text1")->setText("route");
-        CliqueSur(ecran, "Sauvegarde");
-    });
-    EXPECT_EQ(Etat(), Texte(127) + " route.Ang");
-    EXPECT_EQ(S(Ecran("Resultat").windowTitle()), "route.Ang " + Texte(118)) << "the name it was given";
-    CliqueSur(Ecran("Resultat"), "Quitter");
-    EXPECT_FALSE(Ouvert("Resultat"));
-    EXPECT_EQ(&Ecran("DatoCama"), &saisie) << "hidden meanwhile, not closed";
-    EXPECT_TRUE(saisie.isVisible());
-
-    mdi_->OuvreAutre(dossier_ / "route.Ang");
-    EXPECT_EQ(etude.resultats.RayonMax, rayon);
-    EXPECT_EQ(etude.donnees.MasseBrasO1A, 0.8);
-    EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
-    MarquesImpression toutes;
-    toutes.fill(true);
-    EXPECT_TRUE(ImprimePdf(dossier_ / "route.pdf", [&](Imprimante& i) { ImprimeRapportsCames(i, toutes); }));
-    EXPECT_TRUE(LitBrut(dossier_ / "route.pdf").starts_with("%PDF-"));
-    EXPECT_TRUE(dialogues_.boites.empty()) << dialogues_.Derniere();
-}
-
 TEST_F(Saisie, BackFromTheResultsDigitsReplaceWhatStands) {
     QWidget& ecran = CalculeDepuisLaSaisie();
     FrappeDans(ecran, "Text18", "200");
@@ -101,17 +51,16 @@ TEST_F(Saisie, CancellingTheOpenDialogueLeavesAllAsItWas) {
     QWidget& ecran = CalculeDepuisLaSaisie();
     CliqueCellule(ecran, "Grille", 2, 1);
     FrappeDans(ecran, "Text15", "7");
-    const Etude avant = etude;
-    for (const char* commande : {"FichierOuvrir", "ProfilCylindrique"}) {
-        dialogues_.fichiers = {std::nullopt};
-        Lance(commande);
+    const double rayon = etude.resultats.RayonMax;
+    dialogues_.fichiers = {std::nullopt, std::nullopt};
+    for (const char* commande : {"FichierOuvrir", "ProfilCylindrique", "FichierNouveau"}) {
+        Lance(commande, [](QDialog& choix) { choix.reject(); });
         EXPECT_EQ(&Ecran("DatoCama"), &ecran);
         EXPECT_TRUE(ecran.isVisible());
         EXPECT_EQ(TexteDe("DatoCama", "Text15"), "7");
         EXPECT_EQ(etude.resultats.EtudeModifiee, Vrai);
         EXPECT_EQ(etude.resultats.ResultatsPrets, Vrai);
-        EXPECT_EQ(etude.donnees.ZoneCourante, avant.donnees.ZoneCourante);
-        EXPECT_EQ(etude.resultats.RayonMax, avant.resultats.RayonMax);
+        EXPECT_EQ(etude.resultats.RayonMax, rayon);
     }
 }
 
@@ -139,27 +88,6 @@ TEST_F(Saisie, AStudyThatWasEditedIsSavedAsItStands) {
     ASSERT_TRUE(LitFichierEtude(dossier_ / "un.Ang"));
     EXPECT_EQ(etude.donnees.MasseA, 9.5);
     EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 61);
-}
-
-TEST_F(Saisie, ChecksOfTheSaveScreenComeBeforeAnyFile) {
-    CalculeDepuisLaSaisie();
-    Lance("FichierSauvegarde", [this](QDialog& ecran) {
-        auto* nom = Controle<QLineEdit>(ecran, "Text1");
-        EXPECT_EQ(S(nom->text()), "Exemple");
-        nom->clear();
-        CliqueSur(ecran, "Sauvegarde");
-        EXPECT_EQ(dialogues_.Derniere(), Texte(518)) << "no name";
-        nom->setText("came");
-        Controle<QCheckBox>(ecran, "Check1")->setChecked(false);
-        CliqueSur(ecran, "Sauvegarde");
-        EXPECT_EQ(dialogues_.Derniere(), Texte(517)) << "nothing chosen";
-        Controle<QCheckBox>(ecran, "Check1")->setChecked(true);
-        dialogues_.fichiers = {dossier_ / "absent/came.Ang"};
-        CliqueSur(ecran, "Sauvegarde");
-        EXPECT_EQ(dialogues_.boites.back().icone, Icone::Critique);
-        EXPECT_TRUE(ecran.isVisible()) << "another place can be chosen";
-    });
-    EXPECT_EQ(etude.donnees.NombreZones, 4);
 }
 
 TEST_F(Saisie, ExportsAndPagesOfDataThatCannotBeCalculatedAreRefused) {

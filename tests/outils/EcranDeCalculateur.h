@@ -1,22 +1,14 @@
 // What the tests of the calculators' screens have in common: lists that are opened and typed into, and the sheets.
 #pragma once
 
-#include "data/Textes.h"
 #include "indexers/screens/ListeCles.h"
 #include "outils/EcranDeSaisie.h"
-#include "widgets/Chaines.h"
 
 #include <QAbstractItemView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTabWidget>
 
 template <class Ecran> class EcranDeCalculateur : public EcranDeSaisie<Ecran> {
 protected:
     template <class T> T* Le(const char* nom) { return Controle<T>(*this->ecran, nom); }
-    std::string TexteDe(const char* champ) { return S(Le<QLineEdit>(champ)->text()); }
     std::string Valeur(const char* label) { return S(Le<QLabel>(label)->text()); }
 
     /// Opens a list and takes an entry with the keys of a keyboard; without one it is left with Escape.

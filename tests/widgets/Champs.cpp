@@ -2,14 +2,10 @@
 #include "core/ErreurExecution.h"
 #include "outils/Ecrans.h"
 #include "widgets/ChampNombre.h"
-#include "widgets/Legendes.h"
 #include "widgets/PanneauChamps.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
 
 namespace {
 
@@ -25,17 +21,15 @@ constexpr Champ<Fiche> table[] = {
     {"vitesse", "Text18", 157, 21, &Fiche::vitesse},
 };
 
-/// A panel and a default button, as a data screen has them; the first field has the focus.
+/// A panel whose first field has the focus.
 class Champs : public testing::Test {
 protected:
     Fiche fiche;
     QWidget ecran;
-    QPushButton* bouton = new QPushButton(&ecran);
     PanneauChamps* panneau = new PanneauChamps("Picture2", 151, LieChamps(table, fiche), &ecran);
-    ChampNombre *champ = panneau->Champ("Text1"), *autre = panneau->Champ("Text2");
+    ChampNombre* champ = panneau->Champ("Text1");
 
     Champs() {
-        bouton->setDefault(true);
         ecran.show();
         ecran.activateWindow();
         champ->setFocus(Qt::TabFocusReason);
@@ -67,30 +61,11 @@ TEST_F(Champs, OnlyANumberIsTakenAndACommaIsAPoint) {
     }
 }
 
-TEST_F(Champs, TheFieldThatIsEnteredIsColouredAndSelected) {
-    const QColor repos = autre->palette().color(QPalette::Base);
-    QTest::mouseClick(autre, Qt::LeftButton);
-    EXPECT_EQ(S(autre->selectedText()), "-3");
-    EXPECT_EQ(autre->palette().color(QPalette::Base), QColor(0x00, 0xFF, 0xFF));
-    EXPECT_EQ(autre->palette().color(QPalette::Text), QColor(Qt::black));
-    EXPECT_EQ(champ->palette().color(QPalette::Base), repos);
-}
-
-TEST_F(Champs, ReturnWalksNumbersAndTextsAndLeavesTheLast) {
-    QSignalSpy clique(bouton, &QPushButton::clicked), termine(panneau, &PanneauChamps::Termine);
-    for (QLineEdit* saisie : panneau->Champs()) {
-        EXPECT_EQ(ecran.focusWidget(), saisie);
-        QTest::keyClick(saisie, Qt::Key_Return);
-    }
-    EXPECT_EQ(termine.count(), 1);
-    EXPECT_EQ(clique.count(), 0) << "the default button is for elsewhere";
-}
-
 TEST_F(Champs, APanelCarriesAnyRecordToTheFieldsAndBack) {
     EXPECT_EQ(champ->Valeur(), 120.5);
     EXPECT_EQ(S(panneau->ChampDe("repere")->text()), "A 12");
     EXPECT_FALSE(panneau->Lit()) << "nothing was typed";
-    autre->setText(QStringLiteral("7,5"));
+    panneau->Champ("Text2")->setText(QStringLiteral("7,5"));
     panneau->ChampDe("repere")->setText(QStringLiteral("Élan, 3 %"));
     EXPECT_TRUE(panneau->Lit());
     EXPECT_EQ(fiche.hauteur, 7.5);
@@ -103,15 +78,4 @@ TEST_F(Champs, APanelCarriesAnyRecordToTheFieldsAndBack) {
     EXPECT_THROW(panneau->Lit(), ErreurExecution);
     EXPECT_EQ(fiche.cote, 120.5);
     EXPECT_EQ(fiche.repere, "Élan, 3 %");
-}
-
-TEST_F(Champs, CaptionsGoToControlsByNameAndPlaceAndAWrongNameIsTold) {
-    auto *premiere = new QLabel(&ecran), *seconde = new QLabel(&ecran);
-    for (QLabel* etiquette : {premiere, seconde}) etiquette->setObjectName("Label5");
-    const Legende bonne{"Label5", 1, 7};
-    AppliqueLegendes(ecran, std::span(&bonne, 1));
-    EXPECT_EQ(S(premiere->text()), "");
-    EXPECT_EQ(S(seconde->text()), Texte(7));
-    for (const Legende& faute : {Legende{"Label6", 0, 11}, Legende{"Label5", 2, 7}})
-        EXPECT_THROW(AppliqueLegendes(ecran, std::span(&faute, 1)), std::logic_error) << faute.controle;
 }

@@ -1,11 +1,16 @@
-// The first page: one click to every study.
+// The first page: one click to every study, and room for what stands on a small display.
 #include "app/CameType.h"
 #include "app/PageAccueil.h"
+#include "laws/ChoixLois.h"
 #include "outils/FenetrePrincipale.h"
+#include "studies/TypesEtude.h"
 #include "widgets/BoutonImage.h"
 
 #include <QDialogButtonBox>
+#include <QMdiArea>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 
 namespace {
@@ -13,10 +18,33 @@ namespace {
 class Accueil : public FenetrePrincipale {
 protected:
     QWidget& Page() { return *Controle<QWidget>(*mdi_, "Accueil"); }
-    QList<QPushButton*> Liens(const char* nom) { return Page().findChildren<QPushButton*>(nom); }
+    QStringList Liens(const char* nom) {
+        QStringList textes;
+        for (const auto* lien : Page().findChildren<QPushButton*>(nom)) textes << lien->text();
+        return textes;
+    }
     static void Clique(QWidget* controle) {
         QTest::mouseClick(controle, Qt::LeftButton);
         LaisseFaire();
+    }
+    /// Brings the window to the room that a display leaves below a title bar.
+    void Retrecit(int largeur, int hauteur) {
+        mdi_->resize(largeur, hauteur);
+        LaisseFaire();
+    }
+    static void AttendSansBarre(QScrollArea& feuille, const std::string& quoi) {
+        EXPECT_FALSE(feuille.verticalScrollBar()->isVisible()) << quoi;
+        EXPECT_FALSE(feuille.horizontalScrollBar()->isVisible()) << quoi;
+    }
+    /// The screen stands on the desk of a small display whole, and no sheet of it scrolls.
+    void AttendTient(const char* ecran, const std::string& quoi) {
+        Retrecit(1280, 690);
+        QWidget* cadre = Ecran(ecran).parentWidget();
+        const QRect bureau = Controle<QMdiArea>(*mdi_, "Bureau")->viewport()->rect();
+        cadre->setGeometry(bureau);
+        LaisseFaire();
+        for (QScrollArea* feuille : Ecran(ecran).findChildren<QScrollArea*>()) AttendSansBarre(*feuille, quoi);
+        EXPECT_TRUE(bureau.contains(cadre->geometry())) << quoi;
     }
 };
 
@@ -30,6 +58,7 @@ TEST_F(Accueil, AKindOfStudyIsOneClickAway) {
         if (!choix.Disponible()) continue;
         Clique(image);
         EXPECT_TRUE(Ouvert(choix.Ecran())) << choix.image;
+        EXPECT_FALSE(Page().isVisible());
         mdi_->FermeEcrans();
         LaisseFaire();
         EXPECT_TRUE(Page().isVisible()) << "the page is back when the desk is empty";
@@ -37,26 +66,54 @@ TEST_F(Accueil, AKindOfStudyIsOneClickAway) {
 }
 
 TEST_F(Accueil, ExamplesAndRecentFilesAreOneClickAway) {
-    EXPECT_EQ(Liens("Exemple").size(), static_cast<qsizetype>(LesExemples().size()));
+    EXPECT_EQ(Liens("Exemple"), (QStringList{"Balancier.Osc", "Barillet.Cyl", "Conjuguees.Cjg", "Deux-tours.Cyl",
+                                             "Exemple.Ang", "Translation.Lin"}));
     EXPECT_TRUE(Liens("Recent").isEmpty());
-    Clique(Liens("Exemple")[1]);
+    Clique(Page().findChildren<QPushButton*>("Exemple")[1]);
     EXPECT_EQ(etude.donnees.NomFichier, "Barillet.Cyl");
     // Results that hide a data screen are no empty desk.
     CliqueSur(Ecran("Resultat"), "Quitter");
     EXPECT_FALSE(Page().isVisible());
+    TapeDans(Ecran("DoCyl"), "Text3", "41");
     CliqueSur(Ecran("DoCyl"), "Retour");
-    Clique(Liens("Recent")[0]);
+    EXPECT_EQ(Liens("Recent"), QStringList{"Barillet.Cyl"});
+    Clique(Controle<QPushButton>(Page(), "AccueilFichierReprendre"));
+    EXPECT_TRUE(Ouvert("DoCyl")) << "what was given up is one click away too";
+    mdi_->FermeEcrans();
+    Clique(Page().findChildren<QPushButton*>("Recent")[0]);
     EXPECT_TRUE(Ouvert("Resultat"));
 }
 
-TEST_F(Accueil, TheStatusLineStaysOnASmallDisplayAndTheToolkitSpeaksTheLanguage) {
+TEST_F(Accueil, ASmallDisplayHasRoomInEveryLanguage) {
+    for (const auto& [langue, annuler] :
+         {std::pair{"Français", "Annuler"}, {"Español", "Cancelar"}, {"English", "Cancel"}}) {
+        mdi_->ChangeLangue(langue);
+        Retrecit(1280, 690);
+        for (const auto& coupee : LegendesCoupees(Page())) ADD_FAILURE() << langue << " " << coupee;
+        AttendSansBarre(*qobject_cast<QScrollArea*>(&Page()), langue);
+        QDialogButtonBox boite(QDialogButtonBox::Cancel);
+        EXPECT_EQ(S(boite.button(QDialogButtonBox::Cancel)->text().remove('&')), annuler) << "the toolkit's own text";
+        for (const ChoixLoi& choix : LesChoixLois()) {
+            Lance(choix.cle);
+            AttendTient(choix.ecran, std::string(langue) + " " + choix.cle);
+        }
+        for (const std::filesystem::path& exemple : LesExemples()) {
+            mdi_->OuvreAutre(exemple);
+            AttendTient(TrouveTypeFichier(exemple)->ecranResultats, langue + exemple.filename().string());
+        }
+        mdi_->FermeEcrans();
+    }
+}
+
+TEST_F(Accueil, TheStatusLineStaysOnTheDisplay) {
     // Half of 1280 x 720 is what a scale of 200 % leaves of it.
+    Retrecit(640, 330);
     Ouvre("Exemple.Ang");
-    mdi_->resize(640, 330);
-    LaisseFaire();
-    EXPECT_EQ(mdi_->size().boundedTo({640, 330}), mdi_->size());
+    Retrecit(640, 330);
+    EXPECT_LE(mdi_->height(), 330);
+    EXPECT_LE(mdi_->width(), 640);
     EXPECT_GE(mdi_->statusBar()->geometry().height(), 15);
-    mdi_->ChangeLangue("Español");
-    QDialogButtonBox boite(QDialogButtonBox::Cancel);
-    EXPECT_EQ(S(boite.button(QDialogButtonBox::Cancel)->text().remove('&')), "Cancelar");
+    // A window that grows for its child stays on the display with its frame.
+    Lance("MSPerso");
+    EXPECT_TRUE(mdi_->screen()->availableGeometry().contains(mdi_->frameGeometry()));
 }

@@ -35,6 +35,16 @@ protected:
     std::string Traduction() { return S(De<QPlainTextEdit>("Text4").toPlainText()); }
     std::string Nom() { return S(De<QLineEdit>("Text3").text()); }
     std::string Maximum() { return std::to_string(Disque().NombreEnregistrements()); }
+    /// The pairs that show a language, as "name: wording".
+    QStringList Paires() {
+        const auto noms = ecran->findChildren<QLabel*>("Label5"), textes = ecran->findChildren<QLabel*>("Label6");
+        EXPECT_GE(noms.size(), 10);
+        EXPECT_EQ(noms.size(), textes.size());
+        QStringList paires;
+        for (qsizetype i = 0; i < noms.size(); ++i)
+            if (!noms[i]->text().isEmpty()) paires << noms[i]->text() + ": " + textes[i]->text();
+        return paires;
+    }
     void Choisit(const char* langue) {
         auto& liste = De<QListWidget>("List2");
         const auto* ligne = liste.findItems(langue, Qt::MatchExactly).value(0);
@@ -171,4 +181,15 @@ TEST_F(EcranPersona, FilesGoOutAndComeBackWholeOrNotAtAll) {
     Clique("Importer");
     EXPECT_EQ(dialogues.demandes.back(), Texte(TexteRemplacerTextes) + " 1");
     EXPECT_EQ(SurDisque("Italiano", 1), SurDisque("Español", 1));
+}
+
+TEST_F(EcranPersona, MoreThanTenOthersScroll) {
+    for (int i = 0; i < 11; ++i) LaBase.AjouteChamp(TableTextes, {"Lingua" + std::to_string(i), false, 60});
+    Ouvre();
+    Choisit("Lingua10");
+    const QStringList paires = Paires();
+    ASSERT_EQ(paires.size(), 13);
+    EXPECT_EQ(paires[1], "Español: " + Q(SurDisque("Español", 1)));
+    EXPECT_EQ(paires[12], "Lingua9: ") << "a missing wording is empty";
+    EXPECT_EQ(LegendesCoupees(*ecran), std::vector<std::string>{});
 }

@@ -97,10 +97,6 @@ TEST_F(Drum, RowsOfAnAngleThatIsNotWhole) {
     EXPECT_EQ(r.Grille[32].front(), "31.5");
     EXPECT_EQ(r.Grille[33].front(), "");
     EXPECT_EQ(r.Grille[361].back(), "") << "the thickness stops at row 360";
-    donnees.AngleIndexage = 360;
-    const auto tour = Calcule();
-    EXPECT_EQ(tour.Grille[361].front(), "360");
-    EXPECT_NE(tour.Grille[361][3], "") << "the dwell writes one roller fewer over the last row of the motion";
 }
 
 TEST_F(Drum, FaultsComeInOrderWithTheirField) {

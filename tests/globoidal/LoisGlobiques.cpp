@@ -66,11 +66,6 @@ TEST_F(LoisGlobiques, SecondFamilyMeetsThePublishedMaximaOfRiseAndReturn) {
     }
 }
 
-TEST_F(LoisGlobiques, SharesThatAddUpByARoundingLeaveNothing) {
-    EXPECT_EQ(CompleteParts(0.3, 0.3, 0.4 + 5e-10).d, 0);
-    EXPECT_LT(CompleteParts(0.3, 0.3, 0.4 + 2e-9).d, 0);
-}
-
 TEST_F(LoisGlobiques, ALawFileLosesItsSignsAndEndsWhereItEnds) {
     const DossierTemporaire dossier;
     const FichierDeLoi fichier(dossier.Ecrit("a.Lmi", "0;0;0\r\n.25;1.5;-4\r\n.75;-1.5;4\r\n1;0;0\r\n"));

@@ -141,10 +141,3 @@ TEST_F(CameAngulaire, RunTimeFailuresLeaveTheStudyInDegreesAndNoResults) {
         etude.donnees.*membre = garde;
     }
 }
-
-TEST_F(CameAngulaire, FractionalZonesRoundTheirOffsets) {
-    PoseZones({{25, 40, 90.25, "MS"}, {40, 40, 89.5, "MS"}, {40, 25, 180.25, "MS"}});
-    CalculeCameAngulaire();
-    EXPECT_EQ(etude.resultats.NombrePoints, 90 + 90 + 180); // halves to even
-    EXPECT_NEAR(etude.resultats.Points[90].AngleBras, 40, 1e-9);
-}

@@ -27,9 +27,9 @@ TEST_F(ControlesGlobiques, AnIndexerIsCheckedInOrderAndTheFirstFaultStops) {
     EXPECT_EQ(dit(), Faute("NombreStops", 69));
     d.NombreStops = 8, d.NombreGalets = 5.5, d.AngleIndexage = -0.4;
     EXPECT_EQ(dit(), Faute("NombreGalets", 537));
-    d.NombreGalets = 4;
+    d.NombreGalets = 4, d.RayonTourelle = 0;
     EXPECT_EQ(dit(), Faute("NombreGalets", 537));
-    d.NombreGalets = 5, d.RayonTourelle = 0;
+    d.NombreGalets = 5;
     EXPECT_EQ(dit(), Faute("RayonTourelle", 548));
     d.Entraxe = 0;
     EXPECT_EQ(dit(), Faute("Entraxe", 547));

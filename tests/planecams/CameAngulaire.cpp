@@ -68,11 +68,11 @@ TEST_F(CameAngulaire, OffsetCurvesLieARollerRadiusAway) {
 }
 
 TEST_F(CameAngulaire, EndPatchLandsOnTheLastDegree) {
-    for (const long points : {1, 2}) {
-        etude.donnees.PointsParDegre = static_cast<double>(points);
+    for (const double points : {1.0, 2.0}) {
+        etude.donnees.PointsParDegre = points;
         CalculeCameAngulaire();
         const auto& profil = etude.resultats.Profil;
-        EXPECT_EQ(profil[360].DeriveeRayon, profil[0].DeriveeRayon) << "of one point per degree: " << points;
+        EXPECT_EQ(profil[360].DeriveeRayon, profil[0].DeriveeRayon) << points;
         EXPECT_EQ(profil[360].YInterieur2, profil[0].YInterieur2);
     }
 }

@@ -38,8 +38,9 @@ protected:
 
 TEST_F(ConjugateScreen, ReportOfWhatWasTyped) {
     TapeMecanisme();
-    EXPECT_EQ(TexteDe("Text6"), "26") << "from the catalogue";
-    EXPECT_EQ(TexteDe("Text10"), "7400");
+    for (const auto& [champ, texte] : // from the catalogue
+         Saisies{{"Text6", "26"}, {"Text7", "15"}, {"Text8", "7750"}, {"Text9", "10350"}, {"Text10", "7400"}})
+        EXPECT_EQ(TexteDe(champ), texte) << champ;
     EXPECT_FALSE(Le<QTabWidget>("SSTab1")->isTabEnabled(1));
     Clique("Calculer");
     ASSERT_TRUE(dialogues.boites.empty()) << DerniereBoite();

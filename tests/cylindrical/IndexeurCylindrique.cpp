@@ -4,7 +4,6 @@
 #include "cylindrical/TextesIndexeurCyl.h"
 #include "indexers/TextesIndexeurs.h"
 #include "outils/Catalogue.h"
-#include "outils/DossierTemporaire.h"
 #include "outils/LesLignes.h"
 
 #include <algorithm>
@@ -137,21 +136,6 @@ TEST_F(Drum, FaultsComeInOrderWithTheirField) {
     }
     donnees.NomLoi.clear();
     EXPECT_TRUE(dit().ends_with(" " + Texte(538))) << dit();
-}
-
-TEST_F(Drum, ALawFileBringsItsAngle) {
-    DossierTemporaire dossier;
-    std::string contenu;
-    const auto loi = CoursesDeSource(donnees, etude.lois.ListeLois, 144);
-    for (const double course : loi) contenu += StrTrim(course) + ";0;0\r\n";
-    donnees.FichierLoi = dossier.Ecrit("loi.Lmi", contenu + "1;0;0\r\n");
-    donnees.AngleIndexage = 72;
-    const auto usuelle = Calcule();
-    donnees.NomLoi = NomLoiFichier;
-    donnees.AngleIndexage = 10;
-    const auto lue = Calcule();
-    EXPECT_EQ(lue.AngleIndexage, 72);
-    for (long i = 1; i <= 361; ++i) ASSERT_EQ(lue.Grille[i], usuelle.Grille[i]) << i;
 }
 
 // The record line by line, as other copies of the program read it.

@@ -1,5 +1,6 @@
 #include "cams/screens/PanneauZones.h"
 
+#include "cylindrical/screens/DoCyl.h"
 #include "data/Demarrage.h"
 #include "data/TextesSaisie.h"
 #include "data/Unites.h"
@@ -9,6 +10,8 @@
 #include <QAbstractItemView>
 #include <QScrollBar>
 #include <QWheelEvent>
+
+#include <functional>
 
 namespace {
 
@@ -27,6 +30,30 @@ protected:
     }
     bool Selectionne(const char* champ) {
         return AFocus(champ) && S(Le<QLineEdit>(champ)->selectedText()) == TexteDe(champ);
+    }
+};
+
+class SaisieDeuxTours : public EcranDeSaisie<DoCyl> {
+protected:
+    SaisieDeuxTours() {
+        CalculeExemple("Deux-tours.Cyl");
+        Ouvre();
+    }
+    /// Enters the list of laws, and types a name and Return.
+    void ChoisitLoi(const char* nom) {
+        Le<QWidget>("Combo1")->setFocus(Qt::TabFocusReason);
+        Frappe(*ecran, nom);
+        Retour(*ecran);
+    }
+};
+
+/// Looks at the screen while a box is up.
+class Guette : public DialoguesScript {
+public:
+    std::function<void()> pendant;
+    void Message(Icone icone, const std::string& texte) override {
+        DialoguesScript::Message(icone, texte);
+        pendant();
     }
 };
 
@@ -208,4 +235,32 @@ TEST_F(SaisieExemple, TheWheelLeavesListsWithoutFocus) {
     points->setFocus();
     Roule(*points);
     EXPECT_EQ(points->currentText(), "4");
+}
+
+TEST_F(SaisieDeuxTours, ZonesBehindABoxAreInDegrees) {
+    const std::string avant = Cellule(0, 1);
+    Guette guette;
+    std::string pendant;
+    guette.pendant = [&] { pendant = Cellule(0, 1); };
+    FrappeDans(*ecran, "Text2", "400"); // the turns overlap
+    Clique("Calculer");
+    ASSERT_FALSE(guette.boites.empty());
+    EXPECT_EQ(pendant, avant);
+}
+
+TEST_F(SaisieDeuxTours, AfterALawFileTheListsKeepTheNames) {
+    FrappeDans(*ecran, "Text6", "1");
+    Retour(*ecran);
+    QSignalSpy nouvelle(ecran.get(), &FenetreEnfant::Annonce);
+    dialogues.fichiers = {Exemple("Aller-retour.Lmi")};
+    ChoisitLoi("Fichier");
+    ASSERT_EQ(nouvelle.count(), 1);
+    EXPECT_EQ(S(nouvelle[0][0].toString()),
+              Texte(TexteLoiDeFichierLue) + " Aller-retour.Lmi. " + Texte(TexteLoisAuDemarrage));
+    Ouvre();
+    EXPECT_GE(Le<QComboBox>("Combo1")->findText("Fichier"), 0);
+    ChoisitLoi("MSC50");
+    Clique("Suivante");
+    EXPECT_EQ(DerniereBoite(), Texte(511) + "\n" + Texte(TexteLoisAuDemarrage));
+    EXPECT_TRUE(AFocus("Combo1"));
 }

@@ -79,6 +79,10 @@ TEST_F(ConjugateScreen, StopsTellTheirReasonAndShowWhatWasWritten) {
     EXPECT_FALSE(Imprimable());
 
     CalculeAvec("Text12", "100");
+    CalculeAvec("Text4", "abc");
+    EXPECT_TRUE(DerniereBoite().starts_with(Texte(708))) << DerniereBoite();
+    EXPECT_TRUE(AFocus("Text4"));
+    CalculeAvec("Text4", "150.5");
     EXPECT_TRUE(Imprimable());
     const auto boites = dialogues.boites.size();
     CalculeAvec("Text6", "97");
@@ -86,21 +90,6 @@ TEST_F(ConjugateScreen, StopsTellTheirReasonAndShowWhatWasWritten) {
     EXPECT_TRUE(Lignes().empty());
     EXPECT_NE(Notes().find("Sur Usinage dans la piste B part 1 dans la position 1"), std::string::npos);
     EXPECT_FALSE(Imprimable());
-}
-
-TEST_F(ConjugateScreen, WhatCannotBeCalculatedSendsToItsField) {
-    Clique("Calculer");
-    EXPECT_TRUE(AFocus("Text1")) << "nothing typed";
-    TapeMecanisme();
-    for (const auto& [champ, texte, valeur] : {std::tuple{"Text5", "0.5", "8"}, {"Text4", "abc", "150"}}) {
-        CalculeAvec(champ, texte);
-        EXPECT_TRUE(DerniereBoite().starts_with(Texte(708))) << champ << DerniereBoite();
-        EXPECT_TRUE(AFocus(champ)) << champ;
-        EXPECT_FALSE(Imprimable());
-        CalculeAvec(champ, valeur);
-        EXPECT_TRUE(Imprimable()) << champ << DerniereBoite();
-    }
-    EXPECT_EQ(TexteDe("Text2"), "42") << "nothing is lost";
 }
 
 TEST_F(ConjugateScreen, ARollerIsKept) {

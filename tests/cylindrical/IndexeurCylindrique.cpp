@@ -87,17 +87,6 @@ TEST_F(Drum, SizesFollowThePitchAndWhatTheCentresUse) {
     EXPECT_EQ(gauche.notes.back(), Texte(TexteEpaisseurGauche));
 }
 
-TEST_F(Drum, RowsOfAnAngleThatIsNotWhole) {
-    donnees.AngleIndexage = 30.5;
-    const auto r = Calcule();
-    EXPECT_EQ(r.LoiUnitaire.BorneHaute(), 30);
-    EXPECT_EQ(r.Grille[31].front(), "30");
-    // 31.5 and 32.5 both round to 32; the row between the pairs is reached by none.
-    EXPECT_EQ(r.Grille[32].front(), "31.5");
-    EXPECT_EQ(r.Grille[33].front(), "");
-    EXPECT_EQ(r.Grille[361].back(), "") << "the thickness stops at row 360";
-}
-
 TEST_F(Drum, FaultsComeInOrderWithTheirField) {
     using Fiche = IndexeurCylindrique;
     const auto dit = [this] {

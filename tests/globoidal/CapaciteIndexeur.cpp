@@ -81,9 +81,6 @@ TEST_F(CapaciteIndexeur, KindTypeAndPassesFollowFromStopsAndRollers) {
         EXPECT_EQ(r.Genre, c.genre) << c.stops;
         EXPECT_EQ(r.AngleReel, c.angleReel) << c.stops;
         EXPECT_EQ(r.Parcours.back().galet, c.galets) << c.stops;
-        // A roller enters as many pitches ahead as there are passes to come, and the last one leaves.
-        EXPECT_LT(r.Parcours.front().angleGalet, 0) << c.stops;
-        EXPECT_GT(r.Parcours.back().angleGalet, 0) << c.stops;
     }
 }
 

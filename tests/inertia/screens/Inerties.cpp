@@ -67,10 +67,8 @@ TEST_F(EcranInerties, RunsFromKeyToKeyIntoTheList) {
     EXPECT_EQ(Cellule(0, 1) + " " + Cellule(0, 2) + " " + Cellule(0, 8) + " " + Cellule(0, 14), "38. .12 12.5 1");
     EXPECT_EQ(Totaux(), (Textes{"38.", ".12", "0", "0"}));
     EXPECT_EQ(Totaux(1), (Textes{"37.5", ".12", "0", "0"}));
-    EXPECT_TRUE(Montre("NoteTotaux"));
     EXPECT_TRUE(AFocus("Text1"));
     EXPECT_EQ(Champ("Text6"), "320"); // the same solid can be added again
-    EXPECT_TRUE(dialogues.boites.empty());
 }
 
 TEST_F(EcranInerties, AFieldThatIsMissingIsMarkedAndNothingOldIsAdded) {
@@ -102,10 +100,6 @@ TEST_F(EcranInerties, ANumberIsNotRefusedWhileItIsBeingTyped) {
     TapeTouches("Text6", "59.");
     EXPECT_EQ(DerniereBoite(), "Ø intérieur > Ø extérieur");
     EXPECT_TRUE(AFocus("Text7"));
-    Choisit("M_ObjetCentrePolygone");
-    Tape({{"Text6", "80"}, {"Text8", "30"}, {"Text5", "2"}});
-    EXPECT_EQ(DerniereBoite(), Texte(350));
-    EXPECT_EQ(Champ("Text5"), "3");
 }
 
 TEST_F(EcranInerties, AKindShowsItsFieldsAndStartsAnew) {

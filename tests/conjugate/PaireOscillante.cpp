@@ -20,31 +20,6 @@ protected:
     static const ResultatsEtude& Suiveuse() { return etude.passes.at(CameSuiveuse).resultats; }
 };
 
-template <class T> void Compare(const Tableau<T>& a, const Tableau<T>& b, std::initializer_list<double T::*> membres) {
-    ASSERT_EQ(a.BorneHaute(), b.BorneHaute());
-    for (long i = 0; i <= a.BorneHaute(); ++i)
-        for (const auto membre : membres) ASSERT_EQ(a[i].*membre, b[i].*membre) << i;
-}
-
-void CompareMouvement(const Tableau<PointLoi>& a, const Tableau<PointLoi>& b) {
-    Compare(a, b, {&PointLoi::Course, &PointLoi::Vitesse, &PointLoi::Accel});
-}
-
-/// The numbers of a plane arm cam that a pair has too.
-void CompareCames(const ResultatsEtude& a, const ResultatsEtude& b) {
-    CompareMouvement(a.Mouvement, b.Mouvement);
-    Compare(a.Points, b.Points,
-            {&Point::Angle, &Point::AngleBras, &Point::Rayon, &Point::VitesseRayon, &Point::AccelRayon, &Point::AA,
-             &Point::VitesseGalet});
-    Compare(a.Profil, b.Profil,
-            {&PointProfil::AngleTangent, &PointProfil::RayonCourbure, &PointProfil::XInterieur,
-             &PointProfil::RayonCourbureInterieur});
-    for (const auto membre :
-         {&ResultatsEtude::RayonMax, &ResultatsEtude::AccelRayonMax, &ResultatsEtude::AngleTangentMax,
-          &ResultatsEtude::RayonCourbureMin, &ResultatsEtude::VitesseGaletMoyenne})
-        EXPECT_EQ(a.*membre, b.*membre);
-}
-
 } // namespace
 
 TEST_F(PaireOscillante, EachCamIsTheArmCamOfItsNumbers) {
@@ -62,27 +37,16 @@ TEST_F(PaireOscillante, EachCamIsTheArmCamOfItsNumbers) {
             zone.AngleDepart -= decalage;
             zone.AngleFinal -= decalage;
         }
-        etude.durables = {};
         CalculeCameAngulaire();
-        const PasseEtude& passe = passes[static_cast<std::size_t>(came)];
-        CompareCames(passe.resultats, etude.resultats);
-        EXPECT_EQ(passe.durables.LoiCourseMax, etude.durables.LoiCourseMax);
-        EXPECT_EQ(passe.durables.VitesseGaletMax, etude.durables.VitesseGaletMax);
-        EXPECT_FALSE(passe.resultats.ProfilExterieur);
+        const ResultatsEtude &camePaire = passes[static_cast<std::size_t>(came)].resultats, &seule = etude.resultats;
+        ASSERT_EQ(camePaire.NombrePoints, seule.NombrePoints);
+        for (long i = 0; i <= seule.NombrePoints; ++i) {
+            ASSERT_EQ(camePaire.Mouvement[i].Course, seule.Mouvement[i].Course) << i;
+            ASSERT_EQ(camePaire.Points[i].AccelRayon, seule.Points[i].AccelRayon) << i;
+            ASSERT_EQ(camePaire.Profil[i].XInterieur, seule.Profil[i].XInterieur) << i;
+            ASSERT_EQ(camePaire.Profil[i].RayonCourbure, seule.Profil[i].RayonCourbure) << i;
+        }
     }
-}
-
-TEST_F(PaireOscillante, WithoutAngleBothArmsMoveAlikeAndTheSecondCalculationIsTheFirst) {
-    etude.donnees.AngleBras = 0;
-    CalculeCamesConjuguees();
-    CompareMouvement(Guide().Mouvement, Suiveuse().Mouvement);
-    EXPECT_NE(Guide().RayonMax, Suiveuse().RayonMax);
-    const std::vector<PasseEtude> premiere = etude.passes;
-    CalculeCamesConjuguees();
-    for (const std::size_t came : {CameGuide, CameSuiveuse})
-        CompareCames(etude.passes[came].resultats, premiere[came].resultats);
-    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 110.5) << "back in degrees";
-    EXPECT_EQ(etude.donnees.Zones[1].AngleDepart, 61.7);
 }
 
 TEST_F(PaireOscillante, ForcesAreThoseOfTheInertiaAndTheirMaximaAreCommon) {
@@ -104,10 +68,6 @@ TEST_F(PaireOscillante, ForcesAreThoseOfTheInertiaAndTheirMaximaAreCommon) {
         EXPECT_EQ(passe.resultats.CoupleMax, couple);
         EXPECT_EQ(passe.resultats.CoupleMaxAngle, etude.passes[0].resultats.CoupleMaxAngle);
     }
-    etude.donnees.InertieO1 = 0;
-    CalculeCamesConjuguees();
-    EXPECT_EQ(Guide().ForceGaletMax, 0.1) << "what the maxima start from";
-    EXPECT_EQ(Guide().ForceGaletMaxAngle, 0);
 }
 
 TEST_F(PaireOscillante, ACustomLawServesBothCamsAsItWasForTheFirst) {
@@ -115,11 +75,11 @@ TEST_F(PaireOscillante, ACustomLawServesBothCamsAsItWasForTheFirst) {
     // Row 2 of the catalogue is overwritten by the custom law of zone 2: zone 1 has had its harmonic law by then.
     PoseZones({{61.7, 73.4, 120, "SHM"}, {73.4, 61.7, 120, "MS_Spe_ 40"}, {61.7, 65.1, 120, "SHM"}});
     CalculeCamesConjuguees();
-    ASSERT_TRUE(SansErreur());
-    CompareMouvement(Guide().Mouvement, Suiveuse().Mouvement);
-    EXPECT_GT(Guide().Mouvement[0].Accel, 1) << "the harmonic law starts with its full acceleration";
+    for (const PasseEtude& passe : etude.passes)
+        EXPECT_GT(passe.resultats.Mouvement[0].Accel, 1) << "the harmonic law starts with its full acceleration";
     CalculeCamesConjuguees();
     EXPECT_NEAR(Guide().Mouvement[0].Accel, 0, 1e-12) << "the row stays overwritten";
+    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 120) << "back in degrees";
 }
 
 TEST_F(PaireOscillante, AFailingCamIsNamedAndNothingIsStored) {
@@ -134,23 +94,9 @@ TEST_F(PaireOscillante, AFailingCamIsNamedAndNothingIsStored) {
         ASSERT_GE(dialogues.boites.size(), 2u);
         EXPECT_EQ((dialogues.boites.end() - 2)->texte, Texte(427));
         EXPECT_EQ(dialogues.boites.back().texte, "Calcul impossible pour la " + std::string(came));
-        EXPECT_EQ(dialogues.boites.back().icone, Icone::Information);
         PosePaire();
         etude.donnees.AngleBras = 37; // carries the other arm across
     }
-    dialogues.boites.clear();
-    PosePaire();
-    etude.donnees.Zones[2].AngleCame = -20.5;
-    EXPECT_THROW(CalculeCamesConjuguees(), ErreurExecution);
-    EXPECT_TRUE(dialogues.boites.empty());
-    EXPECT_TRUE(etude.passes.empty());
-    EXPECT_EQ(etude.donnees.Zones[1].AngleDepart, 61.7) << "the zones are those that were entered";
-    PosePaire();
-    etude.donnees.PointsParDegre = 3;
-    CalculeCamesConjuguees();
-    EXPECT_FALSE(SansErreur());
-    ASSERT_EQ(dialogues.boites.size(), 1u);
-    EXPECT_EQ(dialogues.boites[0].texte, Texte(519) + "\n" + Texte(520));
 }
 
 TEST_F(PaireOscillante, ClosureComparesWhatTheProfilesOfferWithTheDoubleArm) {
@@ -183,7 +129,6 @@ TEST_F(PaireOscillante, ClosureComparesWhatTheProfilesOfferWithTheDoubleArm) {
     PoseZones({{61.7, 61.7, 360, "MS"}});
     CalculeCamesConjuguees();
     EXPECT_TRUE(CalculeFermeture().ouvertes.empty()) << "a resting arm closes everywhere";
-    EXPECT_EQ(LignesFermeture()[4].valeur, "nulle part");
     EXPECT_TRUE(dialogues.boites.empty()) << "the closure is told on the sheet only";
 }
 
@@ -203,10 +148,4 @@ TEST_F(PaireOscillante, LimitsOfTheScreen) {
         EXPECT_STREQ(faute->champ, c.champ);
         EXPECT_EQ(faute->texte, c.texte);
     }
-    PosePaire();
-    etude.donnees.RayonGaletG2 = etude.donnees.RayonBrasR1 = -8;
-    EXPECT_STREQ(ChercheFautePaire(etude.donnees)->champ, "RayonBrasR1") << "two wrongs make no right";
-    EXPECT_FALSE(ChercheFauteVitesse(etude.donnees));
-    etude.donnees.VitesseCame = 0;
-    EXPECT_TRUE(ChercheFauteVitesse(etude.donnees));
 }

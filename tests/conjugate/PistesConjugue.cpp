@@ -5,7 +5,6 @@
 #include "core/Nombres.h"
 #include "outils/Catalogue.h"
 
-#include <algorithm>
 #include <complex>
 
 namespace {
@@ -48,23 +47,6 @@ TEST_F(PistesConjugue, PressureAngleLiesBetweenTheNormalAndTheMotionOfTheRoller)
     const Contact contact = Sss(d.Q, d.R, w, phi);
     EXPECT_NEAR(std::abs(contact.PA), 90 - std::abs(std::abs(entre) * RadDeg - 90), 1e-6);
     EXPECT_NEAR(contact.RCF, std::abs(Primitif(d, 0, phi, 0)), 1e-12);
-    EXPECT_THROW(Sss(d.Q, d.R, w, 0), ErreurExecution);
-}
-
-TEST_F(PistesConjugue, TracksAreWalkedDegreeByDegreeToTheLineOfTheShafts) {
-    SaisieConjugue saisie = ExempleConjugue();
-    saisie.M = 16.4;
-    EXPECT_FALSE(CalculeCourbures(PrepareDonnees(saisie), courbures, ecran));
-    ASSERT_EQ(courbures.pistes.size(), 2U);
-    double mini = 1e9;
-    for (std::size_t k = 0; k < 2; ++k) {
-        const auto& piste = courbures.pistes[k];
-        EXPECT_NEAR(piste.front().phi, (2 * static_cast<double>(k) + 1) * Pi / 16, 1e-12);
-        EXPECT_EQ(piste.back().T, static_cast<double>(piste.size() - 1));
-        EXPECT_GT(piste.back().phi, 0);
-        for (const auto& point : piste) mini = std::min(mini, point.rho);
-    }
-    EXPECT_EQ(courbures.RayonMini, mini);
 }
 
 TEST_F(PistesConjugue, ATrackEndsWhereTheRollerDoesNotFit) {
@@ -84,14 +66,4 @@ TEST_F(PistesConjugue, ATrackEndsWhereTheRollerDoesNotFit) {
     saisie.N = 2;
     EXPECT_EQ(CalculeCourbures(PrepareDonnees(saisie), courbures, ecran),
               "Sur Usinage dans la piste B part 1 dans la position 4.5");
-}
-
-TEST_F(PistesConjugue, OnlyPointsThatCoincideLoop) {
-    SaisieConjugue saisie = ExempleConjugue();
-    EXPECT_FALSE(ChercheLooping(PrepareDonnees(saisie), ecran));
-    saisie.Q = saisie.R = 0;
-    EXPECT_EQ(ChercheLooping(PrepareDonnees(saisie), ecran), "Problemes de 'looping' dans la piste B dans la position 1"
-                                                             "\n\rDiminuer la vitesse maxi en deg / deg");
-    saisie.A = 1e7;
-    EXPECT_THROW(PrepareDonnees(saisie), ErreurExecution) << "nobody waits for that many points";
 }

@@ -5,7 +5,6 @@
 
 #include "outils/Catalogue.h"
 #include "outils/DialoguesScript.h"
-#include "outils/Echec.h"
 
 #include <cmath>
 
@@ -95,8 +94,6 @@ TEST_F(CameCylindrique, SlopesAndDifferencesAreThoseOfTheDevelopedCurve) {
         ASSERT_NEAR(etude.resultats.Profil[i].DeriveeRayon, pente(x), 1e-4) << i;
         ASSERT_NEAR(std::tan(etude.resultats.Profil[i].AngleTangent), pente(x), 1e-4) << i;
     }
-    EXPECT_EQ(etude.resultats.Profil[360].XInterieur1, etude.resultats.Profil[0].XInterieur1)
-        << "the last point repeats the first";
     EXPECT_NEAR(PenteMaxi(), std::atan(pente(0.5)) * RadDeg, 0.02);
     // With more points the slope stays that of a step over a whole degree, and shrinks.
     const double unParDegre = std::tan(etude.resultats.AngleTangentMax);
@@ -150,30 +147,6 @@ TEST_F(CameCylindrique, NeighbouringTurnsMustLeaveAWall) {
     EXPECT_NEAR(CentreGaletDeveloppe(540).x, Pi * 50, 1e-9);
 }
 
-TEST_F(CameCylindrique, UndercutIsToldAndDoesNotStop) {
-    // Where the track leaves a dwell, 30 mm in 40 degrees bend it far closer than a roller of 25 mm.
-    PoseZones({{0, 30, 40, "MS"}, {30, 30, 140, "MS"}, {30, 0, 180, "MS"}});
-    etude.donnees.RayonGalet = 25;
-    CalculeCameCylindrique();
-    ASSERT_EQ(dialogues.boites.size(), 1u);
-    EXPECT_NE(dialogues.boites[0].texte.find(Texte(428)), std::string::npos);
-    EXPECT_NE(dialogues.boites[0].texte.find("\n" + Texte(439) + " : "), std::string::npos);
-    EXPECT_TRUE(SansErreur());
-    EXPECT_GT(etude.resultats.CoupleMax, 0);
-    EXPECT_LT(etude.resultats.RayonCourbureMin, 25);
-}
-
-TEST_F(CameCylindrique, WhatCannotBeCalculatedIsARunTimeFailure) {
-    etude.donnees.RayonGalet = 0;
-    EXPECT_EQ(EchecDe(CalculeCameCylindrique).numero, NumeroErreur::DivisionParZero);
-    EXPECT_TRUE(etude.resultats.Points.Vide());
-    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 120);
-    etude.donnees.RayonGalet = 8;
-    etude.donnees.DiametreCame = 0;
-    EXPECT_EQ(EchecDe(CalculeCameCylindrique).numero, NumeroErreur::DivisionParZero);
-    EXPECT_EQ(EchecDe(CalculeCameCylOsc).numero, NumeroErreur::DivisionParZero);
-}
-
 TEST_F(CameCylOsc, TheRollerRidesOnTheArm) {
     etude.durables.VitesseGaletMax = 1e6; // of another study
     CalculeCameCylOsc();
@@ -186,11 +159,7 @@ TEST_F(CameCylOsc, TheRollerRidesOnTheArm) {
     EXPECT_NEAR(etude.resultats.Mouvement[60].Course, 5, 1e-12);
     // Stroke over 1000, twice the mean speed of a cycloid over a sixth of a second.
     EXPECT_NEAR(etude.durables.LoiVitesseMax, 2 * 0.030 * 6, 1e-12);
-    EXPECT_EQ(etude.durables.LoiVitesseMaxAngle, 60);
-    EXPECT_EQ(etude.durables.LoiCourseMax, 0);
     EXPECT_EQ(etude.donnees.EpaisseurCame, 56.78) << "90 sin 20 degrees, the roller and 10 mm, to the hundredth";
-    EXPECT_EQ(etude.resultats.RayonMax, etude.donnees.EpaisseurCame);
-    EXPECT_NEAR(etude.resultats.RayonMin, -90 * std::sin(10 / RadDeg), 1e-12);
     EXPECT_LT(etude.durables.VitesseGaletMax, 1000) << "cleared";
 }
 
@@ -203,8 +172,6 @@ TEST_F(CameCylOsc, ForcesAndTorqueByHand) {
         ASSERT_NEAR(F * std::cos(a) * 0.09, 0.2 * 1.4 * etude.resultats.Mouvement[i].Accel - 5, 1e-9);
         ASSERT_NEAR(etude.resultats.Points[i].Couple, F * std::sin(a) * 0.05, 1e-12);
     }
-    EXPECT_NEAR(etude.resultats.MasseCame, 0.5678 * 7.8 * Pi * 0.25, 1e-9);
-    EXPECT_NEAR(etude.resultats.CoupleDemarrage, etude.resultats.InertieCame * 4 * Pi / 0.25, 1e-9);
 }
 
 TEST_F(CameCylOsc, TheProposedDistanceHalvesTheStrayOfTheArc) {

@@ -20,11 +20,11 @@ protected:
     }
 
     /// A law file: forward over a, rest over b, back over c degrees of the motion's a + b + c.
-    std::string EcritLoi(int a, int b, int c, int lignes = 722) {
+    std::string EcritLoi(int a, int b, int c) {
         const int fin = a + b + c;
         const LoiCinqSegments loi = PrepareCinqSegments({0.5, 0, 0.5, 0});
         std::string contenu;
-        for (int i = 0; i < lignes; ++i) {
+        for (int i = 0; i < 722; ++i) {
             const double x = i / 2.0;
             const auto zone = [&](double u, double angle, int sens) {
                 const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
@@ -61,13 +61,8 @@ TEST_F(CapaciteOscillateur, FlanksAndEnvelopeOfTwoRollers) {
     EXPECT_NEAR(r.CameDiametre, 320 - (192 - 12 + chanfrein) * std::cos(fa) - 22 * std::sin(fa), 1e-9);
     EXPECT_NEAR(r.DiametreRogne, r.CameDiametre - (6 - chanfrein) * std::cos(fa), 1e-9);
     EXPECT_NEAR(r.CameLargeur, (192 + 12 - chanfrein) * std::sin(fa) - 22 * std::cos(fa), 1e-9);
-
-    DonneesOscillateur trois = UnOscillateur(3);
     // Half the pitch and three quarters of a roller, on the half degree above.
-    EXPECT_EQ(Calcule(trois).AngleFlancTravail, Int(2 * (20 + 0.75 * 22 / 96 * RadDeg) + 1) / 2);
-    trois.AngleEntreGalets = 40.4;
-    trois.AngleSortie = 29.5;
-    EXPECT_EQ(Calcule(trois).AngleFlanc1, 15) << "whole degrees, halves to even";
+    EXPECT_EQ(Calcule(UnOscillateur(3)).AngleFlancTravail, Int(2 * (20 + 0.75 * 22 / 96 * RadDeg) + 1) / 2);
 }
 
 TEST_F(CapaciteOscillateur, SteepestContactAndShaftLimit) {
@@ -84,14 +79,6 @@ TEST_F(CapaciteOscillateur, SteepestContactAndShaftLimit) {
     EXPECT_NEAR(r.AnglePressionMaxi, auMilieu, 1e-9);
 }
 
-TEST_F(CapaciteOscillateur, ForwardAndBackAreMirrorImages) {
-    std::array<double, 2> forces{}; // of the same law both ways
-    for (const PointParcours& p : Calcule(UnOscillateur(3)).Parcours)
-        forces[p.angleCame > 150] = std::max(forces[p.angleCame > 150], p.force[2]);
-    EXPECT_GT(forces[0], 0);
-    EXPECT_NEAR(forces[0], forces[1], 1e-9);
-}
-
 TEST_F(CapaciteOscillateur, ALawOfRiseAndReturnIsRunBackwardsWhereNoDwellFollows) {
     DonneesOscillateur d = UnOscillateur();
     d.LoiZoneA = d.LoiZoneC = "MSH";
@@ -105,10 +92,6 @@ TEST_F(CapaciteOscillateur, ALawOfRiseAndReturnIsRunBackwardsWhereNoDwellFollows
     EXPECT_GT(retour(), -2);
     d.AngleZoneB = 0;
     EXPECT_NEAR(retour(), -5.2, 0.05);
-    d.CodeLoiA = 1; // the first family, by its code
-    EXPECT_EQ(Mouvement(d).aller.Vmax, PrepareCinqSegments({0.25, 0, 0.75, 0}).Vmax);
-    d.CodeLoiA = 13;
-    EXPECT_THROW(Mouvement(d), ErreurExecution);
 }
 
 TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {
@@ -119,7 +102,6 @@ TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {
         d.FichierLoi = EcritLoi(a, b, c);
         const MouvementOscillateur m = Mouvement(d);
         EXPECT_EQ(m.zones, (std::array<double, 4>{double(a), double(b), double(c), 360.0 - a - b - c}));
-        EXPECT_EQ(m.aller.points.size(), static_cast<std::size_t>(a) + 1);
         // By the zone's own share of the motion the law has its usual maxima again.
         EXPECT_NEAR(m.aller.Vmax, 2, 0.001);
         EXPECT_NEAR(m.retour.Amax, 2 * Pi, 0.005);
@@ -131,8 +113,4 @@ TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {
     d.AngleZoneB = 0;
     EXPECT_FALSE(ChercheFauteOscillateur(d));
     EXPECT_LT(Relatif(Calcule(d).Resultats[LimiteArbre][0], 370 / 0.112985 * 0.9 * 176 / 30 / 2), 0.001);
-    d.FichierLoi = EcritLoi(100, 40, 120, 719);
-    EXPECT_THROW(Calcule(d), ErreurExecution);
-    d.FichierLoi = EcritLoi(100, 40, 120, 720);
-    EXPECT_NO_THROW(Calcule(d)) << "the last two lines are never read";
 }

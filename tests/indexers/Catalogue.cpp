@@ -19,11 +19,6 @@ const Catalogue galets{"Table Galets", "ReferenceGalet", "ReferenceGalet", champ
 class CalculatorCatalogue : public AvecCatalogue {
 protected:
     BaseAEcrire base;
-
-    std::string Refus(const std::string& cle, const ValeursCatalogue& valeurs) const {
-        const auto faute = ChercheFauteLigne(galets, cle, valeurs);
-        return faute ? faute->champ + ": " + faute->texte : "";
-    }
 };
 
 /// Adds rollers "K0", "K1" ... until it is killed; each one that is stored is told.
@@ -51,16 +46,6 @@ TEST_F(CalculatorCatalogue, ANewRowIsFoundByItsKeyBehindTheOthers) {
     EXPECT_EQ(ligne->at("CapaciteB10"), 0.0) << "nothing stands for 0 there";
     EXPECT_FALSE(ligne->at("CapaciteLimite")) << "and for itself here";
     EXPECT_EQ(ligne->at("codemi"), 0.0) << "not stored";
-}
-
-TEST_F(CalculatorCatalogue, ANewRowIsCheckedInOrder) {
-    const ValeursCatalogue bonnes{{"DiametreGalet", 10.0}, {"HauteurGalet", 5.0}};
-    EXPECT_EQ(Refus("", {}), "ReferenceGalet: " + Texte(541));
-    EXPECT_EQ(Refus("N", {}), "DiametreGalet: " + Texte(542));
-    EXPECT_EQ(Refus("N", {{"DiametreGalet", 3.0}, {"HauteurGalet", std::nullopt}}), "HauteurGalet: " + Texte(543));
-    EXPECT_EQ(Refus("G-035", bonnes), "ReferenceGalet: " + Texte(673) + "\n" + Texte(509) + "\n");
-    EXPECT_EQ(Refus("N", bonnes), "");
-    EXPECT_THROW(AjouteLigne(galets, "G-035", bonnes), ErreurExecution);
 }
 
 TEST_F(CalculatorCatalogue, ARowThatWasStoredSurvivesAKill) {

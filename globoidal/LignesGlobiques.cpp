@@ -195,14 +195,27 @@ std::vector<TableResultats> PourAffichage(std::vector<TableResultats> tables) {
     return tables;
 }
 
-std::vector<std::string> NotesIndexeur(const DonneesIndexeur& d, const ResultatGlobique&) {
+namespace {
+
+/// Whether some share of inertia leaves the depth of the nitrided layer out of its limit.
+bool ProfondeurNonPrise(const ResultatGlobique& r) {
+    for (std::size_t k = 0; k < NombreParts; ++k)
+        if (r.Resultats[LimiteProfondeur][k] < r.Resultats[LimiteNitruree][k]) return true;
+    return false;
+}
+
+} // namespace
+
+std::vector<std::string> NotesIndexeur(const DonneesIndexeur& d, const ResultatGlobique& r) {
     std::vector<std::string> notes{BaseDuree()};
+    if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
     if (d.NomLoi != NomLoiFichier && d.CoefSymetrie != 0.5) notes.push_back(Texte(TexteSymetrieCouple));
     return notes;
 }
 
-std::vector<std::string> NotesOscillateur(const DonneesOscillateur& d, const ResultatGlobique&) {
+std::vector<std::string> NotesOscillateur(const DonneesOscillateur& d, const ResultatGlobique& r) {
     std::vector<std::string> notes{BaseDuree(), Texte(TexteRetourArbre)};
+    if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
     if (d.CapaciteArbreEntree == 0.0) notes.push_back(Texte(TexteArbreNul));
     return notes;
 }

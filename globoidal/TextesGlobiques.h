@@ -32,4 +32,5 @@ enum TexteGlobique : int {
     TexteEntrezArbre,
     TexteAutreNom,
     TextePartMontree,
+    TexteProfondeurNonPrise = 989,
 };

@@ -69,6 +69,7 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     setWindowTitle(QTexte(TexteAide) + " - " + QCoreApplication::applicationName());
     page_ = Nomme(new QTextBrowser, "Page");
     page_->setOpenExternalLinks(false);
+    page_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the pictures are as wide as what it leaves
     page_->document()->setDocumentMargin(MargePage);
     page_->setUndoRedoEnabled(false);
     page_->viewport()->installEventFilter(this);

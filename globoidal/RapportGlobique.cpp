@@ -24,57 +24,30 @@ struct LigneDonnees {
     const char* loi = nullptr; ///< printed with this law's shares typed only: name of the law's member
 };
 
-constexpr LigneDonnees lignesIndexeur[] = {
+constexpr LigneDonnees lignesMecanisme[] = {
     {593, "Modele"},
     {171, "Entraxe"},
     {555, "RayonTourelle"},
     {557, "InertieTourelle"},
     {560, "CapaciteArbreEntree"},
     {561, "Precontrainte"},
-    {562, "NombreStops"},
-    {270, "AngleIndexage"},
-    {105, "NomLoi"},
-    {522, "CoefSymetrie"},
-    {568, "CoefA", "NomLoi"},
-    {569, "CoefB", "NomLoi"},
-    {570, "CoefC", "NomLoi"},
-    {594, "DiametreGalet"},
-    {595, "ReferenceGalet"},
-    {596, "NombreGalets"},
-    {244, "HauteurGalet"},
-    {565, "CapaciteB10"},
-    {566, "CapaciteLimite"},
 };
 
-constexpr LigneDonnees lignesOscillateur[] = {
-    {593, "Modele"},
-    {171, "Entraxe"},
-    {555, "RayonTourelle"},
-    {557, "InertieTourelle"},
-    {560, "CapaciteArbreEntree"},
-    {561, "Precontrainte"},
-    {525, "AngleEntreGalets"},
-    {526, "AngleSortie"},
-    {532, "AngleZoneA"},
-    {533, "AngleZoneB"},
-    {534, "AngleZoneC"},
-    {540, "AngleZoneD"},
-    {552, "LoiZoneA"},
-    {522, "SymetrieA"},
-    {568, "CoefA1", "LoiZoneA"},
-    {569, "CoefB1", "LoiZoneA"},
-    {570, "CoefC1", "LoiZoneA"},
-    {553, "LoiZoneC"},
-    {522, "SymetrieC"},
-    {568, "CoefA2", "LoiZoneC"},
-    {569, "CoefB2", "LoiZoneC"},
-    {570, "CoefC2", "LoiZoneC"},
-    {594, "DiametreGalet"},
-    {595, "ReferenceGalet"},
-    {596, "NombreGalets"},
-    {244, "HauteurGalet"},
-    {565, "CapaciteB10"},
-    {566, "CapaciteLimite"},
+constexpr LigneDonnees mouvementIndexeur[] = {
+    {562, "NombreStops"},     {270, "AngleIndexage"},   {105, "NomLoi"},          {522, "CoefSymetrie"},
+    {568, "CoefA", "NomLoi"}, {569, "CoefB", "NomLoi"}, {570, "CoefC", "NomLoi"},
+};
+
+constexpr LigneDonnees mouvementOscillateur[] = {
+    {525, "AngleEntreGalets"},   {526, "AngleSortie"},        {532, "AngleZoneA"},         {533, "AngleZoneB"},
+    {534, "AngleZoneC"},         {540, "AngleZoneD"},         {552, "LoiZoneA"},           {522, "SymetrieA"},
+    {568, "CoefA1", "LoiZoneA"}, {569, "CoefB1", "LoiZoneA"}, {570, "CoefC1", "LoiZoneA"}, {553, "LoiZoneC"},
+    {522, "SymetrieC"},          {568, "CoefA2", "LoiZoneC"}, {569, "CoefB2", "LoiZoneC"}, {570, "CoefC2", "LoiZoneC"},
+};
+
+constexpr LigneDonnees lignesGalet[] = {
+    {594, "DiametreGalet"}, {595, "ReferenceGalet"}, {596, "NombreGalets"},
+    {244, "HauteurGalet"},  {565, "CapaciteB10"},    {566, "CapaciteLimite"},
 };
 
 const ChampLie& ChampNomme(const std::vector<ChampLie>& champs, std::string_view nom) {
@@ -83,16 +56,21 @@ const ChampLie& ChampNomme(const std::vector<ChampLie>& champs, std::string_view
     return *champ;
 }
 
-std::vector<LigneResultat> LignesDonnees(std::span<const LigneDonnees> decrites, const std::vector<ChampLie>& champs) {
+LigneResultat LigneDeDonnee(const LigneDonnees& decrite, const std::vector<ChampLie>& champs) {
+    const ChampLie& champ = ChampNomme(champs, decrite.membre);
+    const auto* nombre = std::get_if<double*>(&champ.valeur);
+    std::string valeur = nombre != nullptr ? TexteCourt(**nombre) : *std::get<std::string*>(champ.valeur);
+    if (decrite.loi != nullptr && *std::get<std::string*>(ChampNomme(champs, decrite.loi).valeur) != NomLoiSpe)
+        valeur = Tiret;
+    return {decrite.membre, Texte(decrite.texte), valeur, Texte(champ.unite), false, {}};
+}
+
+/// The data of a mechanism: casing, motion and roller.
+std::vector<LigneResultat> LignesDonnees(std::span<const LigneDonnees> mouvement, const std::vector<ChampLie>& champs) {
     std::vector<LigneResultat> lignes;
-    for (const LigneDonnees& decrite : decrites) {
-        const ChampLie& champ = ChampNomme(champs, decrite.membre);
-        const auto* nombre = std::get_if<double*>(&champ.valeur);
-        std::string valeur = nombre != nullptr ? TexteCourt(**nombre) : *std::get<std::string*>(champ.valeur);
-        if (decrite.loi != nullptr && *std::get<std::string*>(ChampNomme(champs, decrite.loi).valeur) != NomLoiSpe)
-            valeur = Tiret;
-        lignes.push_back({decrite.membre, Texte(decrite.texte), valeur, Texte(champ.unite), false, {}});
-    }
+    for (const auto& decrites :
+         {std::span<const LigneDonnees>(lignesMecanisme), mouvement, std::span<const LigneDonnees>(lignesGalet)})
+        for (const LigneDonnees& decrite : decrites) lignes.push_back(LigneDeDonnee(decrite, champs));
     return lignes;
 }
 
@@ -190,7 +168,7 @@ void ImprimeDessins(Tirage& tirage, const RapportGlobique& rapport, const Mecani
 RapportGlobique RapportIndexeur(const DonneesIndexeur& donnees, const ResultatGlobique& resultat) {
     DonneesIndexeur copie = donnees;
     RapportGlobique rapport{592,
-                            LignesDonnees(lignesIndexeur, LieChamps(ChampsIndexeur(), copie)),
+                            LignesDonnees(mouvementIndexeur, LieChamps(ChampsIndexeur(), copie)),
                             GeometrieIndexeur(donnees, resultat),
                             PourAffichage(CapacitesIndexeur(resultat)),
                             {},
@@ -202,7 +180,7 @@ RapportGlobique RapportIndexeur(const DonneesIndexeur& donnees, const ResultatGl
 RapportGlobique RapportOscillateur(const DonneesOscillateur& donnees, const ResultatGlobique& resultat) {
     DonneesOscillateur copie = donnees;
     RapportGlobique rapport{524,
-                            LignesDonnees(lignesOscillateur, LieChamps(ChampsOscillateur(), copie)),
+                            LignesDonnees(mouvementOscillateur, LieChamps(ChampsOscillateur(), copie)),
                             GeometrieOscillateur(donnees, resultat),
                             PourAffichage(CapacitesOscillateur(resultat)),
                             {},

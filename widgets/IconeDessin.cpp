@@ -1,9 +1,9 @@
 #include "widgets/IconeDessin.h"
 
 #include "widgets/DessinQt.h"
+#include "widgets/MoteurImage.h"
 
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 
@@ -15,7 +15,7 @@ namespace {
 /// How much of a drawing that cannot be chosen is left.
 constexpr double OpaciteInactif = 0.35;
 
-class MoteurDessin : public QIconEngine {
+class MoteurDessin : public MoteurImage {
 public:
     MoteurDessin(std::function<void(Dessin&)> dessine, QSize taille) : dessine_(std::move(dessine)), taille_(taille) {}
 
@@ -31,14 +31,6 @@ public:
             dessine_(dessin);
         }
         peintre->restore();
-    }
-
-    QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
-        QPixmap image(taille);
-        image.fill(Qt::transparent);
-        QPainter peintre(&image);
-        paint(&peintre, QRect(QPoint(0, 0), taille), mode, etat);
-        return image;
     }
 
     QIconEngine* clone() const override { return new MoteurDessin(*this); }

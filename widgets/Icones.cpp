@@ -1,9 +1,9 @@
 #include "widgets/Icones.h"
 
 #include "widgets/Chaines.h"
+#include "widgets/MoteurImage.h"
 
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
@@ -134,7 +134,7 @@ private:
     bool plein_ = false;
 };
 
-class MoteurIcone : public QIconEngine {
+class MoteurIcone : public MoteurImage {
 public:
     explicit MoteurIcone(const DessinIcone& dessin) : dessin_(dessin) {}
 
@@ -148,14 +148,6 @@ public:
         peintre->scale(cote / Grille24, cote / Grille24);
         Traceur(*peintre, palette.color(groupe, QPalette::ButtonText)).Trace(dessin_.traits);
         peintre->restore();
-    }
-
-    QPixmap pixmap(const QSize& taille, QIcon::Mode mode, QIcon::State etat) override {
-        QPixmap image(taille);
-        image.fill(Qt::transparent);
-        QPainter peintre(&image);
-        paint(&peintre, QRect(QPoint(0, 0), taille), mode, etat);
-        return image;
     }
 
     QIconEngine* clone() const override { return new MoteurIcone(*this); }

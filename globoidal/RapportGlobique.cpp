@@ -33,12 +33,12 @@ constexpr LigneDonnees lignesMecanisme[] = {
     {561, "Precontrainte"},
 };
 
-constexpr LigneDonnees mouvementIndexeur[] = {
+constexpr LigneDonnees lignesIndexeur[] = {
     {562, "NombreStops"},     {270, "AngleIndexage"},   {105, "NomLoi"},          {522, "CoefSymetrie"},
     {568, "CoefA", "NomLoi"}, {569, "CoefB", "NomLoi"}, {570, "CoefC", "NomLoi"},
 };
 
-constexpr LigneDonnees mouvementOscillateur[] = {
+constexpr LigneDonnees lignesOscillateur[] = {
     {525, "AngleEntreGalets"},   {526, "AngleSortie"},        {532, "AngleZoneA"},         {533, "AngleZoneB"},
     {534, "AngleZoneC"},         {540, "AngleZoneD"},         {552, "LoiZoneA"},           {522, "SymetrieA"},
     {568, "CoefA1", "LoiZoneA"}, {569, "CoefB1", "LoiZoneA"}, {570, "CoefC1", "LoiZoneA"}, {553, "LoiZoneC"},
@@ -168,7 +168,7 @@ void ImprimeDessins(Tirage& tirage, const RapportGlobique& rapport, const Mecani
 RapportGlobique RapportIndexeur(const DonneesIndexeur& donnees, const ResultatGlobique& resultat) {
     DonneesIndexeur copie = donnees;
     RapportGlobique rapport{592,
-                            LignesDonnees(mouvementIndexeur, LieChamps(ChampsIndexeur(), copie)),
+                            LignesDonnees(lignesIndexeur, LieChamps(ChampsIndexeur(), copie)),
                             GeometrieIndexeur(donnees, resultat),
                             PourAffichage(CapacitesIndexeur(resultat)),
                             {},
@@ -180,7 +180,7 @@ RapportGlobique RapportIndexeur(const DonneesIndexeur& donnees, const ResultatGl
 RapportGlobique RapportOscillateur(const DonneesOscillateur& donnees, const ResultatGlobique& resultat) {
     DonneesOscillateur copie = donnees;
     RapportGlobique rapport{524,
-                            LignesDonnees(mouvementOscillateur, LieChamps(ChampsOscillateur(), copie)),
+                            LignesDonnees(lignesOscillateur, LieChamps(ChampsOscillateur(), copie)),
                             GeometrieOscillateur(donnees, resultat),
                             PourAffichage(CapacitesOscillateur(resultat)),
                             {},

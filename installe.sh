@@ -3,7 +3,7 @@
 #   installe.sh [test]     with "test", also what only the tests and the checks need
 set -euo pipefail
 cd "$(dirname "$0")"
-paquets=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libsqlcipher-dev nlohmann-json3-dev
+paquets=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-translations-l10n libgl-dev libfontconfig-dev libsqlcipher-dev nlohmann-json3-dev
          fonts-liberation fonts-dejavu-core)
 if [ "${1:-}" = test ]; then
     paquets+=(libgtest-dev libbenchmark-dev clang-format clang-tidy git)

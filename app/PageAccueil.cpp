@@ -7,6 +7,8 @@
 #include "widgets/BoutonImage.h"
 #include "widgets/Chaines.h"
 #include "widgets/Nomme.h"
+#include "widgets/Polices.h"
+#include "widgets/TravailFond.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -76,16 +78,21 @@ void PageAccueil::ConstruitEtudes() {
     grille->setContentsMargins({});
     grille->addWidget(titre_ = FaitTitre(), 0, 0, 1, Colonnes);
     int place = 0;
+    std::vector<std::function<void()>> dessins;
     for (const ChoixEtude& choix : LesChoixEtude()) {
         auto* image = new BoutonImage(choix.dessine, TailleImage);
         image->setObjectName(QStringLiteral("Accueil") + QString::fromLatin1(choix.image));
-        // The start draws them here, while the fonts of the system are still being listed.
-        image->Prepare();
+        dessins.push_back(image->Prepare());
         connect(image, &BoutonImage::clicked, this, [this, &choix] { emit EtudeChoisie(choix); });
         grille->addWidget(image, 1 + place / Colonnes, place % Colonnes);
         etudes_.push_back(image);
         ++place;
     }
+    // The pictures are drawn while the rest of the window is built.
+    FaitAuFond([dessins] {
+        for (const auto& dessine : dessins) dessine();
+    });
+    AttendPolices();
     rangee_->setSpacing(EcartColonnes);
     rangee_->addStretch();
     rangee_->addWidget(etudes, 0, Qt::AlignTop);

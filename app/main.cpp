@@ -9,6 +9,7 @@
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
 #include "widgets/DialoguesQt.h"
+#include "widgets/Polices.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -49,12 +50,14 @@ int main(int argc, char** argv) {
         std::fputs(SansAffichage, stderr);
         return 1;
     }
+    LitPolices();
+    std::future<Configuration> demarrage = CommenceDemarrage(DossierExecutable());
     Application application(argc, argv);
     DialoguesQt dialogues;
     const InstalleDialogues installe(dialogues);
     int statut = 1;
     try {
-        const Configuration configuration = Demarre(DossierExecutable());
+        const Configuration configuration = demarrage.get();
         MdiCamA fenetre(configuration);
         ChoisitAide();
         fenetre.show();

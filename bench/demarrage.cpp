@@ -4,6 +4,7 @@
 #include "app/Demarre.h"
 #include "app/MdiCamA.h"
 #include "widgets/Application.h"
+#include "widgets/Polices.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -39,8 +40,10 @@ int FenetreVide(int argc, char** argv) {
 }
 
 int FenetreVelorin(int argc, char** argv) {
+    LitPolices();
+    std::future<Configuration> demarrage = CommenceDemarrage(VELORIN_DOSSIER);
     Application application(argc, argv);
-    MdiCamA fenetre(Demarre(VELORIN_DOSSIER));
+    MdiCamA fenetre(demarrage.get());
     ChoisitAide();
     return MontreFenetre(fenetre);
 }

@@ -3,6 +3,9 @@
 #include "data/Textes.h"
 #include "platform/Dialogues.h"
 #include "widgets/Icones.h"
+#include "widgets/Polices.h"
+#include "widgets/StyleVelorin.h"
+#include "widgets/TravailFond.h"
 
 #include <QAbstractSlider>
 #include <QComboBox>
@@ -24,12 +27,15 @@ void Annonce(const std::string& texte) {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QString::fromLatin1(NomProgramme));
-    setStyle(QStringLiteral("Fusion")); // the same on every desktop; its palette is light or dark as the system's
+    setStyle(new StyleVelorin);
     setDesktopFileName(QStringLiteral("velorin")); // by which a desktop finds the entry of a window
     setWindowIcon(IconeBarre(applicationName()));
     installEventFilter(this);
-    // Listing the fonts of the system takes as long as opening the catalogue: they go side by side.
-    polices_ = std::async(std::launch::async, [] { QFontDatabase::hasFamily(QString()); });
+    ListePolices();
+}
+
+Application::~Application() {
+    AttendFond(); // the jobs use what the toolkit clears away now
 }
 
 bool Application::eventFilter(QObject* objet, QEvent* evenement) {

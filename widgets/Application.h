@@ -4,13 +4,14 @@
 #include <QApplication>
 #include <QFont>
 
-#include <future>
-
 class Application : public QApplication {
     Q_OBJECT
 
 public:
     Application(int& argc, char** argv);
+    ~Application() override;
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
 
     /// Delivers an event. A failure that its handler lets out is told in a critical box, and the program goes on.
     bool notify(QObject* receveur, QEvent* evenement) override;
@@ -18,9 +19,6 @@ public:
 protected:
     /// The wheel scrolls the page under a list or a bar for entries that has no focus, and leaves what stands there.
     bool eventFilter(QObject* objet, QEvent* evenement) override;
-
-private:
-    std::future<void> polices_;
 };
 
 /// `base` when all its figures have one width, otherwise the fixed-pitch font of the system in the same size: numbers

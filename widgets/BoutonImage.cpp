@@ -2,11 +2,13 @@
 
 #include "widgets/DessinQt.h"
 
+#include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -17,6 +19,22 @@ constexpr int Souleve = 3; ///< how far it rises
 constexpr double RayonCoin = 4;
 constexpr double OpaciteInactif = 0.35;
 constexpr int Cadrage = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap; ///< of the name
+
+/// Works on a picture in memory only, so that any thread may do it.
+QImage DessineImage(const std::function<void(Dessin&)>& dessine, const QSizeF& taille, double finesse,
+                    const QPalette& couleurs) {
+    QImage surface(QSize(static_cast<int>(std::ceil(taille.width() * finesse)),
+                         static_cast<int>(std::ceil(taille.height() * finesse))),
+                   QImage::Format_RGB32);
+    surface.setDevicePixelRatio(finesse);
+    surface.fill(couleurs.color(QPalette::Base));
+    {
+        QPainter peintre(&surface);
+        DessinQt dessin(peintre, QRectF(QPointF(0, 0), taille), couleurs);
+        dessine(dessin);
+    }
+    return surface.copy(); // what was painted on keeps the painter's buffers, larger than the picture itself
+}
 
 } // namespace
 
@@ -40,20 +58,10 @@ QRectF BoutonImage::PlaceTexte() const {
 }
 
 const QPixmap& BoutonImage::Image(const QSizeF& taille) {
+    if (preparee_.valid()) image_ = QPixmap::fromImage(preparee_.get());
     const double finesse = devicePixelRatioF();
-    if (taille == tailleImage_ && image_.devicePixelRatio() == finesse) return image_;
-    QImage surface(QSize(static_cast<int>(std::ceil(taille.width() * finesse)),
-                         static_cast<int>(std::ceil(taille.height() * finesse))),
-                   QImage::Format_RGB32);
-    surface.setDevicePixelRatio(finesse);
-    surface.fill(palette().color(QPalette::Base));
-    {
-        QPainter peintre(&surface);
-        DessinQt dessin(peintre, QRectF(QPointF(0, 0), taille), palette());
-        dessine_(dessin);
-    }
-    // A copy: what was painted on keeps the painter's buffers, larger than the picture itself.
-    image_ = QPixmap::fromImage(surface.copy());
+    if (taille != tailleImage_ || image_.devicePixelRatio() != finesse)
+        image_ = QPixmap::fromImage(DessineImage(dessine_, taille, finesse, palette()));
     tailleImage_ = taille;
     return image_;
 }
@@ -66,8 +74,13 @@ QRectF BoutonImage::CadreImage(const QRectF& carte) const {
     return {carte.x() + Marge, carte.y() + Marge, carte.width() - 2 * Marge, taille_.height() - 1.0 * Marge};
 }
 
-void BoutonImage::Prepare() {
-    Image(CadreImage(Carte({taille_.width() + 2 * Souleve, taille_.height()})).size());
+std::function<void()> BoutonImage::Prepare() {
+    tailleImage_ = CadreImage(Carte({taille_.width() + 2 * Souleve, taille_.height()})).size();
+    auto image = std::make_shared<std::promise<QImage>>();
+    preparee_ = image->get_future();
+    return [image, dessine = dessine_, taille = tailleImage_, finesse = devicePixelRatioF(), couleurs = palette()] {
+        image->set_value(DessineImage(dessine, taille, finesse, couleurs));
+    };
 }
 
 void BoutonImage::paintEvent(QPaintEvent*) {

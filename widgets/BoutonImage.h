@@ -7,6 +7,7 @@
 #include <QPixmap>
 
 #include <functional>
+#include <future>
 
 class BoutonImage : public QAbstractButton {
     Q_OBJECT
@@ -15,8 +16,9 @@ public:
     /// @param taille room of the drawing, pixels; the text stands below it
     BoutonImage(std::function<void(Dessin&)> dessine, QSize taille, QWidget* parent = nullptr);
 
-    /// Draws the picture ahead of its first showing, in the size that the button asks for.
-    void Prepare();
+    /// The drawing of the picture in the size that the button asks for, to be done on any thread before the button is
+    /// shown for the first time: its showing waits for it.
+    std::function<void()> Prepare();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -47,4 +49,5 @@ private:
     QSize taille_;
     QPixmap image_;
     QSizeF tailleImage_;
+    std::future<QImage> preparee_;
 };

@@ -61,6 +61,9 @@ constexpr DessinIcone LesIcones[] = {
     {"Reduire", "O 10.5 10.5 6.5 M 15.3 15.3 L 21 21 M 7.5 10.5 L 13.5 10.5"},
     {"TrouvePrecedent", "M 5 15.5 L 12 8.5 L 19 15.5"},
     {"TrouveSuivant", "M 5 8.5 L 12 15.5 L 19 8.5"},
+    // a bar that goes on to the right, or below
+    {"SuiteDroite", "M 6 6 L 12 12 L 6 18 M 13 6 L 19 12 L 13 18"},
+    {"SuiteBas", "M 6 6 L 12 12 L 18 6 M 6 13 L 12 19 L 18 13"},
     {"Tourner", "F M 7 4 L 19.5 12 L 7 20 Z"},
     {"Arret", "F M 6 6 L 18 6 L 18 18 L 6 18 Z"},
 };

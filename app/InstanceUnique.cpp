@@ -7,7 +7,6 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
-#include <cstdlib>
 #include <memory>
 #include <string_view>
 #include <thread>
@@ -24,10 +23,10 @@ constexpr std::string_view MarqueRemise = "velorin 1", MarqueRecue = "velorin 1 
 /// Between two tries to start.
 constexpr std::chrono::milliseconds PasEssais{50};
 
+/// The display that windows of this run come up on.
 std::string Affichage() {
-    for (const char* nom : {"WAYLAND_DISPLAY", "DISPLAY"})
-        if (const char* affichage = std::getenv(nom)) return affichage;
-    return {};
+    const QByteArray premier = qgetenv("WAYLAND_DISPLAY");
+    return (premier.isEmpty() ? qgetenv("DISPLAY") : premier).toStdString();
 }
 
 std::string ComposeRemise(const Remise& remise) {
@@ -115,7 +114,7 @@ std::optional<Configuration> DemarreOuRemet(const std::function<Configuration()>
         } catch (const ErreurExecution& erreur) {
             if (erreur.numero != NumeroErreur::BaseOccupee) throw;
             const Remise remise{fichier.empty() ? fichier : fs::absolute(fichier),
-                                qEnvironmentVariable("XDG_ACTIVATION_TOKEN").toStdString()};
+                                qgetenv("XDG_ACTIVATION_TOKEN").toStdString()};
             const auto reste = fin - std::chrono::steady_clock::now();
             if (RemetInstance(CheminUtilisateur, remise, std::chrono::ceil<std::chrono::milliseconds>(reste)))
                 return {};

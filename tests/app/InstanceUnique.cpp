@@ -294,7 +294,7 @@ TEST_F(Instances, RealStartsHandOverAlsoAfterAKill) {
         EXPECT_TRUE(Attend("Cylindrique")) << Etat();
         instance_.reset();
     }
-    const auto ecoute = [] { return fs::exists(Adresse()) && RemetInstance(CheminUtilisateur, {}, AttenteInstance); };
+    const auto ecoute = [] { return static_cast<bool>(AppelleLocale(Adresse(), AttenteInstance)); };
     QProcess premier, suivant;
     programme.Lance(premier);
     ASSERT_TRUE(QTest::qWaitFor(ecoute, 20000));

@@ -72,6 +72,8 @@ MdiCamA::MdiCamA(const Configuration& configuration)
     for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
     bureau_->PlaceAccueil(accueil_);
     connect(&garde_, &QTimer::timeout, this, &MdiCamA::GardeTravaux);
+    attenteRemis_.setSingleShot(true);
+    connect(&attenteRemis_, &QTimer::timeout, this, &MdiCamA::OuvreRemis);
     Annonce(Texte(travaux_.Offerts() ? int{TexteRepriseOfferte} : int{TextePret}));
     TientSurEcran(*this, TailleFenetre);
 }

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <deque>
 #include <filesystem>
 #include <map>
 #include <span>
@@ -26,6 +27,7 @@ class PageAccueil;
 struct ChoixEtude;
 struct ChoixLoi;
 struct EcranEnfant;
+struct Remise;
 struct TypeEtude;
 
 class MdiCamA : public QMainWindow {
@@ -61,6 +63,10 @@ public:
     /// Opens a file as it was named, dropped or chosen again: a study file in the place of what is open, a list in the
     /// window that holds it.
     void OuvreAutre(const std::filesystem::path& chemin);
+
+    /// A later start of the program has come: this window comes to the front, and opens what that start was to open,
+    /// once no box, menu or other question is open.
+    void Accueille(const Remise& remise);
 
     /// Takes back what was given up last without being saved; what is open and not saved can be taken back in its turn.
     void Reprendre();
@@ -119,6 +125,10 @@ private:
     void MontreRecents();
     void MontreAccueil();
 
+    // Later starts of the program, in RemisesMdi.cpp.
+    void OuvreRemis();
+    void VientDevant(const std::string& jeton);
+
     // What is entered and not saved, in RepriseMdi.cpp.
     bool MontreEtude(const FenetreEnfant& fenetre) const;
     Travail TravailDe(FenetreEnfant& fenetre) const;
@@ -146,5 +156,7 @@ private:
     Aide aide_;
     std::map<std::string, std::string, std::less<>> sauves_; ///< what each window held when it was opened or last saved
     std::vector<std::filesystem::path> recents_;             ///< opened or saved in this run, the last first
+    std::deque<std::filesystem::path> remis_;                ///< handed over by later starts, and not opened yet
+    QTimer attenteRemis_;                                    ///< until the next of them can be opened
     QTimer garde_;                                           ///< brings the recovery file up to date
 };

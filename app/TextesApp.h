@@ -12,4 +12,5 @@ enum TextesApp {
     TexteRepriseOfferte = 933,
     TexteRepriseImpossible = 934,
     TexteExemples = 939,
+    TexteOuvertureAttend = 990,
 };

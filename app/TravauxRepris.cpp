@@ -2,11 +2,7 @@
 
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
-#include "widgets/Chaines.h"
-
-#include <QCryptographicHash>
-#include <QDir>
-#include <QStandardPaths>
+#include "widgets/DossiersPoste.h"
 
 #include <utility>
 
@@ -41,23 +37,10 @@ std::vector<Travail> Decompose(std::string_view contenu) {
     return travaux;
 }
 
-/// Where programs keep what is to outlast them, and is no document of the user's.
-QString DossierEtat() {
-#ifdef Q_OS_WIN
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-#else
-    const QString choisi = qEnvironmentVariable("XDG_STATE_HOME");
-    return QDir::isAbsolutePath(choisi) ? choisi : QDir::homePath() + "/.local/state";
-#endif
-}
-
 } // namespace
 
 std::filesystem::path FichierReprise(const std::filesystem::path& dossierBase) {
-    const QByteArray chemin = QChemin(dossierBase).toUtf8();
-    const QString empreinte =
-        QString::fromLatin1(QCryptographicHash::hash(chemin, QCryptographicHash::Md5).toHex().left(8));
-    return Chemin(DossierEtat()) / "velorin" / Chemin("reprise-" + empreinte + ".txt");
+    return DossierEtat() / "velorin" / ("reprise-" + EmpreinteDossier(dossierBase) + ".txt");
 }
 
 TravauxRepris::TravauxRepris(std::filesystem::path fichier) : fichier_(std::move(fichier)) {

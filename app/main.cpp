@@ -1,6 +1,7 @@
 // Start-up of the desktop program.
 #include "app/Aide.h"
 #include "app/Demarre.h"
+#include "app/InstanceUnique.h"
 #include "app/MdiCamA.h"
 #include "app/Version.h"
 #include "core/ErreurExecution.h"
@@ -55,14 +56,21 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     DialoguesQt dialogues;
     const InstalleDialogues installe(dialogues);
+    const std::filesystem::path fichier = Chemin(Application::arguments().value(1));
     int statut = 1;
     try {
-        const Configuration configuration = demarrage.get();
-        MdiCamA fenetre(configuration);
+        const auto configuration = DemarreOuRemet(
+            [&demarrage] {
+                if (!demarrage.valid()) demarrage = CommenceDemarrage(DossierExecutable()); // one more try
+                return demarrage.get();
+            },
+            fichier);
+        if (!configuration) return 0;
+        MdiCamA fenetre(*configuration);
+        const InstanceUnique instance(CheminUtilisateur, [&](const Remise& remise) { fenetre.Accueille(remise); });
         ChoisitAide();
         fenetre.show();
-        if (const QString fichier = Application::arguments().value(1); !fichier.isEmpty())
-            fenetre.OuvreAutre(Chemin(fichier));
+        if (!fichier.empty()) fenetre.OuvreAutre(fichier);
         statut = Application::exec();
     } catch (const std::exception& erreur) {
         AnnonceEchec(erreur);

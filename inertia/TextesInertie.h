@@ -71,4 +71,6 @@ enum NumeroTexteInertie {
     TexteResultatsAnciens, ///< the labels still show the last result
     TexteKg,
     TexteKgM2,
+
+    TexteAngleCompte = 990, ///< in front of the friction that counts the angle
 };

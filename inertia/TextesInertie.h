@@ -72,5 +72,5 @@ enum NumeroTexteInertie {
     TexteInertieTransmise,
     TexteResultatsAnciens, ///< the labels still show the last result
 
-    TexteAngleCompte = 990, ///< in front of the friction that counts the angle
+    TexteAngleCompte = 991, ///< in front of the friction that counts the angle
 };

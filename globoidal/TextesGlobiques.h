@@ -2,6 +2,8 @@
 #pragma once
 
 enum TexteGlobique : int {
+    TexteEntrezArbre = 678,
+
     PremierTexteGlobique = 878,
     TexteSansLigneFin = PremierTexteGlobique,
     TexteSansCharge,
@@ -29,8 +31,7 @@ enum TexteGlobique : int {
     TexteZones,
     TexteRetourArbre,
     TexteSymetrieCouple,
-    TexteEntrezArbre,
-    TexteAutreNom,
+    TexteAutreNom = 905,
     TextePartMontree,
     TexteProfondeurNonPrise = 989,
 };

@@ -137,6 +137,18 @@ bool TotauxTrompeurs(const Assemblage& assemblage) {
     return false;
 }
 
+std::vector<std::string> NotesTotaux(const Assemblage& assemblage) {
+    std::vector<std::string> notes;
+    if (TotauxTrompeurs(assemblage)) notes.push_back(Texte(TexteTotauxArrondis));
+    double friction = 0, vraie = 0;
+    for (const LigneAssemblage& ligne : assemblage.lignes) {
+        friction += ligne.exactes[3];
+        vraie += FrictionVraie(ligne.saisie, ligne.exactes);
+    }
+    if (const std::string note = NoteFriction(friction, vraie); !note.empty()) notes.push_back(note);
+    return notes;
+}
+
 TableTexte TableListe(const Assemblage& assemblage) {
     TableTexte table;
     table.lignes = static_cast<int>(assemblage.lignes.size());

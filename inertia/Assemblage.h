@@ -49,6 +49,9 @@ Grandeurs TotauxExacts(const Assemblage& assemblage);
 /// True when a total of the list is off its exact value by more than one percent.
 bool TotauxTrompeurs(const Assemblage& assemblage);
 
+/// What is said beside the totals of the list where they mislead.
+std::vector<std::string> NotesTotaux(const Assemblage& assemblage);
+
 /// The list as a table. Column 0 is that of the pictures, 1 to 4 hold the values, 5 to 14 what was typed, those behind
 /// them the values in full precision. @param assemblage must outlive it
 TableTexte TableListe(const Assemblage& assemblage);

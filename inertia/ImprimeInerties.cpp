@@ -127,7 +127,7 @@ void ImprimeTableGenre(Tirage& tirage, const Assemblage& assemblage, const Genre
     ImprimeTable(tirage, TableGenre(assemblage, genre.TypeSolide), Marge);
 }
 
-/// The totals of the list; a torque only when it is not zero.
+/// The totals of the list, a torque only when it is not zero, and what must be known of them.
 void ImprimeTotaux(Tirage& tirage, const Assemblage& assemblage) {
     constexpr int largeurNom = 20;
     LigneSoulignee(tirage, Texte(TexteTotaux));
@@ -135,11 +135,12 @@ void ImprimeTotaux(Tirage& tirage, const Assemblage& assemblage) {
         if (i < 2 || assemblage.totaux[i] != 0)
             LignePlaine(tirage, CadreAGauche(Texte(LesGrandeurs()[i].texte), largeurNom) + " =  " +
                                     Format(assemblage.totaux[i], "####.00") + UnitesTotaux[i]);
+    for (const std::string& note : NotesTotaux(assemblage))
+        for (const std::string& ligne : CoupeEnLignes(note, ColonnesPage - Marge)) LignePlaine(tirage, ligne);
 }
 
 /// The totals in full precision, on one line as long as they fit.
 void ImprimeExacts(Tirage& tirage, const Assemblage& assemblage) {
-    if (TotauxTrompeurs(assemblage)) LignePlaine(tirage, Texte(TexteTotauxArrondis));
     const Grandeurs exacts = TotauxExacts(assemblage);
     std::string ligne = Texte(TexteExact) + " :";
     for (std::size_t i = 0; i < exacts.size(); ++i) {
@@ -171,7 +172,7 @@ void ImprimeInerties(Imprimante& imprimante, const Assemblage& assemblage) {
                                .pied = false,
                                .enTete = DebutPageInerties});
     if (!genres.empty()) {
-        constexpr int lignesTotaux = 9;
+        constexpr int lignesTotaux = 12; // with their notes
         tirage.DebutRapport();
         ImprimeFigures(tirage, genres);
         for (const GenreUtilise& genre : genres) ImprimeTableGenre(tirage, assemblage, genre);

@@ -132,6 +132,11 @@ Effets EffetsDesequilibre(double M, const Cotes& c) {
     return {M * c.R * c.R, 0, c.R * M * Gravite};
 }
 
+/// The arm of the weight gets shorter as R rises off the horizontal.
+double FrictionDesequilibre(double F, const Cotes& c) {
+    return F * std::cos(c.H / RadDeg);
+}
+
 // ---- checks
 
 std::optional<FauteSolide> ControleDiametres(const SaisieSolide& saisie, const Cotes& c) {
@@ -186,7 +191,7 @@ constexpr GenreSolide solides[] = {
     {16, Excentres, "M_ObjetExcentreMasse", 618, "MasseExc", R, nullptr, EffetsMasse},
     {17, Divers, "M_ObjetDiversDivers", 619, "ValeursDonnees", Donnees, nullptr, EffetsDonnees},
     {18, Divers, "M_ObjetDiversConvoyeur", 620, "Convoyeur", Convoyeur, nullptr, EffetsConvoyeur, nullptr, false, TexteMasseTransportee},
-    {19, Divers, "M_ObjetDiversDesequilibre", 621, "Desequilibre", Desequilibre, nullptr, EffetsDesequilibre, ControleAngle},
+    {19, Divers, "M_ObjetDiversDesequilibre", 621, "Desequilibre", Desequilibre, nullptr, EffetsDesequilibre, ControleAngle, false, 0, FrictionDesequilibre},
 };
 
 constexpr GrandeurInertie grandeurs[4] = {
@@ -284,6 +289,17 @@ Grandeurs CalculeSolide(const SaisieSolide& saisie) {
             throw ErreurExecution(NumeroErreur::ResultatNonFini, Texte(grandeurs[i].texte));
     }
     return resultat;
+}
+
+double FrictionVraie(const SaisieSolide& saisie, const Grandeurs& valeurs) {
+    const GenreSolide& genre = GenreDe(saisie);
+    return genre.frictionVraie == nullptr ? valeurs[3] : genre.frictionVraie(valeurs[3], LitCotes(genre, saisie));
+}
+
+std::string NoteFriction(double friction, double vraie) {
+    constexpr const char* masque = "0.00";
+    const std::string valeur = Format(vraie, masque);
+    return valeur == Format(friction, masque) ? "" : Texte(TexteAngleCompte) + " " + valeur + " " + Texte(UniteNm);
 }
 
 Etiquettes EtiquettesDe(const Grandeurs& valeurs) {

@@ -81,6 +81,7 @@ struct GenreSolide {
     std::optional<FauteSolide> (*controle)(const SaisieSolide& saisie, const Cotes& c) = nullptr;
     bool parDensite = false; ///< its density is asked for at first
     int texteMasse = 0;      ///< text number of the caption of `Text3` where it is not the usual one
+    double (*frictionVraie)(double F, const Cotes& c) = nullptr; ///< where the calculation leaves a dimension out
 };
 
 /// All kinds, group by group.
@@ -107,6 +108,14 @@ std::optional<FauteSolide> ChercheFaute(const SaisieSolide& saisie);
 /// The four quantities of a solid without a fault.
 /// @throws ErreurExecution overflow; a result that is no finite number.
 Grandeurs CalculeSolide(const SaisieSolide& saisie);
+
+/// The friction torque of a solid with every dimension counted, N m.
+/// @param valeurs its four quantities
+double FrictionVraie(const SaisieSolide& saisie, const Grandeurs& valeurs);
+
+/// What is said beside a friction torque that leaves an angle out; empty when both
+/// read alike. @param vraie N m, with the angle counted
+std::string NoteFriction(double friction, double vraie);
 
 /// The texts of the four result labels: whole kilograms, the others to two decimals. A small solid reads "" and ".".
 Etiquettes EtiquettesDe(const Grandeurs& grandeurs);

@@ -46,6 +46,9 @@ enum NumeroTexteInertie {
     TexteFig = 671,
 
     TexteGenre = 25, ///< N
+    TexteKg = 22,
+    TexteKgM2 = 32,
+    TexteUniteDensite = 33, ///< kg/m³
     TexteValeurEntiere = 777,
 
     TexteManque = 907,    ///< in front of the caption of a field that is needed
@@ -54,8 +57,7 @@ enum NumeroTexteInertie {
     TexteExact,           ///< in front of full-precision values
     TexteTotauxArrondis,  ///< the totals of the list are far from the exact ones
     TexteSolideTropPetit, ///< all four labels of the solid round to zero
-    TexteUniteDensite,    ///< kg/m³
-    TexteFiltreListe,
+    TexteFiltreListe = 914,
     TexteFiltreCsv,
     TexteMenuListe,
     TexteOuvrirListe,
@@ -69,6 +71,6 @@ enum NumeroTexteInertie {
     TexteAucunChampInertie,
     TexteInertieTransmise,
     TexteResultatsAnciens, ///< the labels still show the last result
-    TexteKg,
-    TexteKgM2,
+
+    TexteAngleCompte = 991, ///< in front of the friction that counts the angle
 };

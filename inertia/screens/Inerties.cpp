@@ -15,6 +15,7 @@
 #include "widgets/Grille.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
+#include "widgets/Remarques.h"
 #include "widgets/ZoneDefilante.h"
 #include "widgets/ZoneDessin.h"
 
@@ -30,15 +31,8 @@
 namespace {
 
 constexpr Legende legendes[] = {
-    {"Inerties", 0, TexteCalculInerties},
-    {"Frame2", 0, 330},
-    {"TitreExact", 0, TexteExact},
-    {"Plus", 0, TexteAjouter},
-    {"Moins", 0, TexteEnlever},
-    {"Ok", 0, 340},
-    {"Imprimer", 0, 56},
-    {"NoteResultats", 0, TexteResultatsAnciens},
-    {"NoteTotaux", 0, TexteTotauxArrondis},
+    {"Inerties", 0, TexteCalculInerties}, {"Frame2", 0, 330}, {"TitreExact", 0, TexteExact}, {"Plus", 0, TexteAjouter},
+    {"Moins", 0, TexteEnlever},           {"Ok", 0, 340},     {"Imprimer", 0, 56},
 };
 
 constexpr QSize TailleFigure(272, 204);
@@ -54,13 +48,6 @@ void AjusteHauteur(Grille& grille) {
     grille.setFixedHeight(grille.horizontalHeader()->sizeHint().height() +
                           grille.NombreLignes() * grille.verticalHeader()->defaultSectionSize() +
                           2 * grille.frameWidth());
-}
-
-QLabel* FaitNote(const char* nom) {
-    auto* note = Nomme(new QLabel, nom);
-    note->setWordWrap(true);
-    note->hide();
-    return note;
 }
 
 } // namespace
@@ -120,8 +107,8 @@ QWidget* Inerties::FaitResultats() {
         grille->addWidget(ligne.exact, rang, 3);
         lignes_.push_back(ligne);
     }
-    anciens_ = FaitNote("NoteResultats");
-    grille->addWidget(anciens_, grille->rowCount(), 0, 1, 4);
+    remarques_ = Nomme(new Remarques, "NoteResultats");
+    grille->addWidget(remarques_, grille->rowCount(), 0, 1, 4);
     grille->setRowStretch(grille->rowCount(), 1);
     auto* boutons = new QHBoxLayout;
     plus_ = Nomme(new QPushButton, "Plus");
@@ -140,8 +127,8 @@ QLayout* Inerties::FaitValeurs() {
     auto* colonne = new QVBoxLayout;
     colonne->addWidget(FaitResultats());
     colonne->addWidget(grille2_);
-    note_ = FaitNote("NoteTotaux");
-    colonne->addWidget(note_);
+    remarquesTotaux_ = Nomme(new Remarques, "NoteTotaux");
+    colonne->addWidget(remarquesTotaux_);
     colonne->addStretch();
     return colonne;
 }
@@ -188,6 +175,7 @@ void Inerties::AppliqueTextes() {
         lignes_[i].unite->setText(QTexte(LesGrandeurs()[i].unite));
     }
     AppliqueTextesListe();
+    MontreResultats(ChercheFaute(panneau_->Saisie()).has_value());
     MontreListe();
 }
 
@@ -263,7 +251,11 @@ void Inerties::MontreResultats(bool anciens) {
         lignes_[i].exact->setText(exact);
         lignes_[i].etiquette->setToolTip(resultats_ ? QTexte(TexteValeurEntiere) + " " + exact : QString());
     }
-    anciens_->setVisible(anciens && resultats_.has_value());
+    std::string remarque;
+    if (resultats_)
+        remarque = anciens ? Texte(TexteResultatsAnciens)
+                           : NoteFriction((*resultats_)[3], FrictionVraie(panneau_->Saisie(), *resultats_));
+    remarques_->Montre(remarque.empty() ? std::vector<std::string>{} : std::vector{remarque});
 }
 
 // ---- the list
@@ -313,5 +305,5 @@ void Inerties::MontreListe() {
     RemplitTotaux(*grille2_, assemblage_);
     AjusteHauteur(*grille2_);
     moins_->setEnabled(!assemblage_.lignes.empty());
-    note_->setVisible(TotauxTrompeurs(assemblage_));
+    remarquesTotaux_->Montre(NotesTotaux(assemblage_));
 }

@@ -11,6 +11,7 @@
 class BarresSolides;
 class Grille;
 class PanneauSolide;
+class Remarques;
 class QLabel;
 class QPushButton;
 class QToolButton;
@@ -88,7 +89,8 @@ private:
         QLabel *nom, *etiquette, *unite, *exact;
     };
     std::vector<LigneResultat> lignes_;
-    QLabel *titreExact_, *anciens_, *note_;
+    QLabel* titreExact_;
+    Remarques *remarques_, *remarquesTotaux_;
     QToolButton* menuListe_;
     Grille *grille1_, *grille2_;
     QPushButton *plus_, *moins_, *ok_, *imprimer_;

@@ -342,7 +342,7 @@ void Persona::MontreEtat() {
     else if (manquants == 0)
         aTraduire_->setText(QTexte(TexteToutTraduit));
     else
-        aTraduire_->setText(QTexte(TexteATraduire) + " : " + QString::number(manquants) + "\n" +
+        aTraduire_->setText(QTexte(TexteATraduire) + " " + QString::number(manquants) + "\n" +
                             QTexte(TexteLangueOfferte));
     MontreFautes();
 }
@@ -424,7 +424,7 @@ void Persona::VaAuTrouve(int pas) {
 
 void Persona::MontreTrouves() {
     const QString rang = rangTrouve_ < 0 ? QString() : QString::number(rangTrouve_ + 1) + "/";
-    nombreTrouves_->setText(QTexte(TexteTrouves) + " : " + rang + QString::number(trouves_.size()));
+    nombreTrouves_->setText(QTexte(TexteTrouves) + " " + rang + QString::number(trouves_.size()));
     precedent_->setEnabled(!trouves_.empty());
     suivant_->setEnabled(!trouves_.empty());
 }

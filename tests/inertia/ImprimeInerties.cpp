@@ -56,3 +56,24 @@ TEST_F(RapportInerties, SolidsOfAKindShareFigureAndTable) {
     EXPECT_EQ(Suivante("Figure C", 3), "1    1      40        6       0.25   160     .28");
     EXPECT_EQ(Suivante("Totaux", 3), "Couple de travail    =  7.85 Nm");
 }
+
+TEST_F(RapportInerties, ADimensionWithoutAColumnStandsBehindItsRow) {
+    Imprime(Couronne + "11;1;1;True;4.5;210;62.5;40.5;30\n13;1;1;True;4.5;210;62.5;40.5;30\n1;1;1;True;2;;80;;10\n");
+    const auto fin = [](const std::string& ligne) { return Trim(ligne.substr(ligne.rfind("  ", ligne.find(" = ")))); };
+    EXPECT_EQ(fin(Suivante("Figure A", 3)), "d = 120");
+    EXPECT_EQ(fin(Suivante("Figure B", 3)), "d = 40.5");
+    EXPECT_NE(Suivante("Figure C", 3).find("d = 40.5  H = 30"), std::string::npos) << Suivante("Figure C", 3);
+    EXPECT_EQ(Suivante("Figure D", 3).find('='), std::string::npos);
+}
+
+TEST_F(RapportInerties, TheAngleThatIsNotCountedIsSaidBelowTheTotals) {
+    Imprime("19;2;1.5;True;4;150;;;37.5\n");
+    EXPECT_EQ(Suivante("Totaux", 3), "Couple de friction   =  7.85 Nm"); // 2 · 4 · 9.81 · 0.15 / 1.5
+    EXPECT_EQ(
+        Suivante("Totaux", 4) + " " + Suivante("Totaux", 5),
+        "L'angle ß ne compte pas : le couple de friction est celui du bras R horizontal. Avec l'angle ß : 6.23 Nm");
+    papier = {};
+    lignes.clear();
+    Imprime("19;2;1.5;True;4;150;;;0\n");
+    EXPECT_EQ(Suivante("Totaux", 4), lignes.back());
+}

@@ -60,7 +60,9 @@ void MdiCamA::OuvreAutre(const std::filesystem::path& chemin) {
 void MdiCamA::OuvreListe(const EcranEnfant& ecran, const std::filesystem::path& chemin) {
     bureau_->Montre(ecran.nom);
     try {
-        EcranOuvert(ecran.nom)->OuvreListe(chemin);
+        FenetreEnfant& liste = *EcranOuvert(ecran.nom);
+        liste.OuvreListe(chemin);
+        NoteSauve(liste);
         NoteRecent(chemin);
     } catch (const ErreurExecution& erreur) {
         Annonce(Texte(TexteLectureImpossible) + " " + S(QChemin(chemin.filename())) + " : " + SensErreur(erreur));

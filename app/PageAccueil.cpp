@@ -1,6 +1,7 @@
 #include "app/PageAccueil.h"
 
 #include "app/CameType.h"
+#include "app/Ecrans.h"
 #include "app/TextesApp.h"
 #include "data/Demarrage.h"
 #include "studies/TypesEtude.h"
@@ -161,7 +162,8 @@ std::vector<std::filesystem::path> LesExemples() {
     std::error_code sansImportance; // a folder that is gone has no examples
     for (const auto& entree : std::filesystem::directory_iterator(CheminAppli / NomDossierEtudes, sansImportance)) {
         const TypeEtude* type = TrouveTypeFichier(entree.path());
-        if (type != nullptr && type->Disponible()) exemples.push_back(entree.path());
+        const bool calculable = type != nullptr && type->Disponible();
+        if (calculable || TrouveEcranFichier(entree.path()) != nullptr) exemples.push_back(entree.path());
     }
     std::sort(exemples.begin(), exemples.end());
     return exemples;

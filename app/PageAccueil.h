@@ -41,5 +41,5 @@ private:
     QWidget* fichiers_ = nullptr;
 };
 
-/// The study files that are delivered with the program, by name; those that can be calculated.
+/// The files that are delivered with the program and that it opens by themselves, by name.
 std::vector<std::filesystem::path> LesExemples();

@@ -1,5 +1,6 @@
 // The first page: one click to every study, and room for what stands on a small display.
 #include "app/CameType.h"
+#include "app/Ecrans.h"
 #include "app/PageAccueil.h"
 #include "laws/ChoixLois.h"
 #include "outils/FenetrePrincipale.h"
@@ -67,7 +68,7 @@ TEST_F(Accueil, AKindOfStudyIsOneClickAway) {
 
 TEST_F(Accueil, ExamplesAndRecentFilesAreOneClickAway) {
     EXPECT_EQ(Liens("Exemple"), (QStringList{"Balancier.Osc", "Barillet.Cyl", "Conjuguees.Cjg", "Deux-tours.Cyl",
-                                             "Exemple.Ang", "Translation.Lin"}));
+                                             "Exemple.Ang", "Plateau.Ine", "Translation.Lin"}));
     EXPECT_TRUE(Liens("Recent").isEmpty());
     Clique(Page().findChildren<QPushButton*>("Exemple")[1]);
     EXPECT_EQ(etude.donnees.NomFichier, "Barillet.Cyl");
@@ -99,7 +100,9 @@ TEST_F(Accueil, ASmallDisplayHasRoomInEveryLanguage) {
         }
         for (const std::filesystem::path& exemple : LesExemples()) {
             mdi_->OuvreAutre(exemple);
-            AttendTient(TrouveTypeFichier(exemple)->ecranResultats, langue + exemple.filename().string());
+            const TypeEtude* type = TrouveTypeFichier(exemple);
+            AttendTient(type != nullptr ? type->ecranResultats : TrouveEcranFichier(exemple)->nom,
+                        langue + exemple.filename().string());
         }
         mdi_->FermeEcrans();
     }

@@ -17,6 +17,7 @@ protected:
 
 TEST_F(InertiesAuBureau, TheListOutlivesStudiesAndIsSavedWhileItIsInFront) {
     Ouvre("Exemple.Ang");
+    EXPECT_FALSE(Action("FichierReprendre").isEnabled()) << "a list that was only opened is no lost work";
     Lance("Inerties");
     EXPECT_TRUE(Calculateur().EnAvant());
     dialogues_.fichiers = {dossier_ / "copie.Ine"};

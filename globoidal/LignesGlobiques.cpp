@@ -3,6 +3,8 @@
 #include "core/Nombres.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "globoidal/CapaciteOscillateur.h"
+#include "globoidal/CataloguesGlobiques.h"
 #include "globoidal/TextesGlobiques.h"
 #include "globoidal/UnitesGlobiques.h"
 
@@ -209,7 +211,12 @@ bool ProfondeurNonPrise(const ResultatGlobique& r) {
 std::vector<std::string> NotesIndexeur(const DonneesIndexeur& d, const ResultatGlobique& r) {
     std::vector<std::string> notes{BaseDuree()};
     if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
-    if (d.NomLoi != NomLoiFichier && d.CoefSymetrie != 0.5) notes.push_back(Texte(TexteSymetrieCouple));
+    if (d.NomLoi == NomLoiFichier) {
+        notes.push_back(Texte(TexteLoiSansSigne));
+    } else if (d.CoefSymetrie != 0.5) {
+        notes.push_back(Texte(TexteSymetrieCouple));
+    }
+    if (d.NomLoi.starts_with("MSH")) notes.push_back(Texte(TexteMshSansRetour));
     return notes;
 }
 
@@ -217,5 +224,11 @@ std::vector<std::string> NotesOscillateur(const DonneesOscillateur& d, const Res
     std::vector<std::string> notes{BaseDuree(), Texte(TexteRetourArbre)};
     if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
     if (d.CapaciteArbreEntree == 0.0) notes.push_back(Texte(TexteArbreNul));
+    if (LoiParFichier(d)) notes.push_back(Texte(TexteLoiSansSigne));
+    if (!r.Sauts.empty()) {
+        std::string raccords;
+        for (const std::string& raccord : r.Sauts) raccords += (raccords.empty() ? " " : ", ") + raccord;
+        notes.push_back(Texte(TexteSauts) + raccords);
+    }
     return notes;
 }

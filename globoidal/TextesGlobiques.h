@@ -33,4 +33,7 @@ enum TexteGlobique : int {
     TexteAutreNom,
     TextePartMontree,
     TexteProfondeurNonPrise = 989,
+    TexteLoiSansSigne,  ///< a law file is read without signs
+    TexteMshSansRetour, ///< what an indexer makes of a law of rise and return
+    TexteSauts,         ///< followed by the joints of zones
 };

@@ -3,10 +3,12 @@
 #include "globoidal/ExemplesGlobiques.h"
 #include "globoidal/LignesGlobiques.h"
 #include "globoidal/LoisGlobiques.h"
+#include "globoidal/TextesGlobiques.h"
 #include "globoidal/UnitesGlobiques.h"
 #include "outils/Catalogue.h"
 #include "outils/DossierTemporaire.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -136,6 +138,19 @@ TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
     EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], 0.9 * 150 / 360 * 8 / VmaxMs * 370 * 8.85), 1e-4);
     d.FichierLoi = dossier.Ecrit("sans-fin.Lmi", contenu.substr(0, contenu.find("1;0;0")));
     EXPECT_THROW(Calcule(d), ErreurExecution);
+}
+
+TEST_F(CapaciteIndexeur, ALawOfRiseAndReturnIsTakenByItsShares) {
+    DonneesIndexeur d = UnIndexeur(8, 8, 142.5);
+    const auto dit = [&] {
+        const auto notes = NotesIndexeur(d, Calcule(d));
+        return std::find(notes.begin(), notes.end(), Texte(TexteMshSansRetour)) != notes.end();
+    };
+    EXPECT_FALSE(dit());
+    const TableCapacites sansRetour = Calcule(d).Resultats;
+    d.NomLoi = "MSH";
+    EXPECT_EQ(Calcule(d).Resultats, sansRetour);
+    EXPECT_TRUE(dit()) << "and said";
 }
 
 TEST_F(CapaciteIndexeur, ValuesBeyondTheirLimitAreRedAndSayWhy) {

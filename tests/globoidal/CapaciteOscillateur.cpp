@@ -1,6 +1,7 @@
 #include "globoidal/CapaciteOscillateur.h"
 
 #include "globoidal/ExemplesGlobiques.h"
+#include "globoidal/LignesGlobiques.h"
 #include "globoidal/LoisGlobiques.h"
 #include "globoidal/ZonesOscillateur.h"
 #include "outils/Catalogue.h"
@@ -92,6 +93,24 @@ TEST_F(CapaciteOscillateur, ALawOfRiseAndReturnIsRunBackwardsWhereNoDwellFollows
     EXPECT_GT(retour(), -2);
     d.AngleZoneB = 0;
     EXPECT_NEAR(retour(), -5.2, 0.05);
+}
+
+TEST_F(CapaciteOscillateur, JointsAtWhichTheAccelerationJumpsAreNamed) {
+    using Noms = std::vector<std::string>;
+    DonneesOscillateur d = UnOscillateur();
+    const auto sauts = [&](const char* aller, const char* retour, std::array<double, 4> zones) {
+        d.LoiZoneA = aller, d.LoiZoneC = retour;
+        d.AngleZoneA = zones[0], d.AngleZoneB = zones[1], d.AngleZoneC = zones[2], d.AngleZoneD = zones[3];
+        return Calcule(d).Sauts;
+    };
+    EXPECT_EQ(sauts("MS", "MTC50", {120.5, 60, 119.5, 60}), Noms{});
+    EXPECT_EQ(sauts("MSH", "MSHC33", {120, 60, 120, 60}), (Noms{"A-B", "C-D"})) << "two dwells";
+    // One dwell: full deceleration runs into the way back, of the same size only in the same time.
+    EXPECT_EQ(sauts("MSHC20", "MSHC20", {130.25, 0, 130.25, 99.5}), Noms{});
+    EXPECT_EQ(sauts("MSHC20", "MSHC20", {120, 0, 140.5, 99.5}), Noms{"A-C"});
+    EXPECT_EQ(sauts("MSHC20", "MS", {110, 140, 110, 0}), Noms{"C-A"});
+    EXPECT_EQ(sauts("MS", "SHM", {110, 70, 110, 70}), (Noms{"B-C", "C-D"}));
+    EXPECT_NE(NotesOscillateur(d, Calcule(d)).back().find(": B-C, C-D"), std::string::npos);
 }
 
 TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {

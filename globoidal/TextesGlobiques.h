@@ -36,4 +36,6 @@ enum TexteGlobique : int {
     TexteLoiSansSigne,  ///< a law file is read without signs
     TexteMshSansRetour, ///< what an indexer makes of a law of rise and return
     TexteSauts,         ///< followed by the joints of zones
+    TexteCodeBoitier,   ///< followed by the code in use of a casing that is typed
+    TexteCodeGalet,     ///< the same of a roller
 };

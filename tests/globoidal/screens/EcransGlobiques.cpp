@@ -1,6 +1,7 @@
 #include "globoidal/screens/GlobiqueIndexeur.h"
 #include "globoidal/screens/GlobiqueOscillateur.h"
 
+#include "globoidal/TextesGlobiques.h"
 #include "outils/EcranDeCalculateur.h"
 
 namespace {
@@ -48,6 +49,28 @@ TEST_F(IndexerScreen, CataloguesFillAndTheExampleIsCalculated) {
     EXPECT_FALSE(Offert());
     Clique("Calculer");
     EXPECT_EQ(Valeur("Label63").substr(Valeur("Label63").size() - 2), "??");
+}
+
+TEST_F(IndexerScreen, ATypedHousingSaysWhichCodeItKeeps) {
+    const auto note = [&] {
+        Clique("Calculer");
+        EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+        return S(Le<QLabel>("RayonPrimitif")->toolTip());
+    };
+    TapeExemple();
+    EXPECT_EQ(note(), "");
+    Revient();
+    TapeCle("DerouleModeles", "Mien");
+    Tape({{"Text1", "160"}, {"Text2", "90"}});
+    EXPECT_EQ(note(), Texte(TexteCodeBoitier) + " 5");
+    Revient();
+    TapeCle("DerouleGalets", "Rond");
+    Tape({{"Text8", "35"}, {"Text9", "20"}, {"Text10", "11850"}, {"Text11", "17300"}});
+    EXPECT_EQ(note(), Texte(TexteCodeBoitier) + " 5\n" + Texte(TexteCodeGalet) + " 8");
+    Revient();
+    TapeCle("DerouleModeles", "MG-200"); // a name of the catalogue brings its own code, and needs none of the roller
+    EXPECT_EQ(note(), "");
+    EXPECT_EQ(Valeur("RayonPrimitif"), "118");
 }
 
 TEST_F(IndexerScreen, ReturnWalksTheFields) {

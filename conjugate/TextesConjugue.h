@@ -49,4 +49,6 @@ enum TexteConjugue {
     TexteLimiteSurface,
     TexteLimiteStatique,
     TexteVitesseLimiteGalets,
+    TexteNoteStops = 996,
+    TexteNoteBornesPart,
 };

@@ -1,6 +1,7 @@
 #include "globoidal/screens/PanneauxGlobiques.h"
 
 #include "globoidal/CataloguesGlobiques.h"
+#include "globoidal/DonneesGlobiques.h"
 #include "indexers/screens/PanneauLoi.h"
 #include "indexers/screens/PanneauSaisie.h"
 
@@ -9,7 +10,6 @@
 namespace {
 
 constexpr int TexteBoitier = 593, TexteMouvement = 776, TexteGalets = 289;
-constexpr double PartVitesseMax = 0.99; ///< of a law whose shares are typed
 
 } // namespace
 

@@ -22,7 +22,8 @@
 
 namespace {
 
-constexpr int TexteTitre = 422, TexteMecanisme = 451, TexteGarderGalet = 452, TexteDonneesIncorrectes = 453;
+constexpr int TexteQuitter = 47, TexteTitre = 422, TexteMecanisme = 451, TexteGarderGalet = 452,
+              TexteDonneesIncorrectes = 453;
 constexpr int TexteRapport = 460, TexteLigne = 461, TexteGraphiques = 134;
 // What the captions say, and behind it what the calculation does.
 constexpr int NotesMecanisme[] = {447, 448, 449, 450, TexteNoteStops, TexteNoteBornesPart}, NoteHuile[] = {446};
@@ -76,6 +77,7 @@ CamesConjugueesIndexeur::CamesConjugueesIndexeur(QWidget* parent)
     composition.ordre = ordre;
     composition.resultats = {{FaitRapport(), TexteRapport}, {FaitGraphiques(), TexteGraphiques}};
     composition.sauvegarde = false;
+    composition.quitter = TexteQuitter;
     Compose(composition);
 }
 

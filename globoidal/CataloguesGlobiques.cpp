@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int TexteSuiteImpossible = 509;
+
 // A value that the table does not have shows as 0.
 constexpr ChampCatalogue champsBoitiers[] = {
     {"Entraxe", "Entraxe", false, true, 547},
@@ -25,7 +27,17 @@ constexpr ChampCatalogue champsGalets[] = {
 
 } // namespace
 
-const Catalogue CatalogueBoitiers{"Table Mécanismes Globique", "Modele", "Modele", champsBoitiers, 546,
-                                  {550, TexteAutreNom}};
-const Catalogue CatalogueGalets{"Table Galets",      "ReferenceGalet", "ReferenceGalet", champsGalets, 541,
-                                {673, TexteAutreNom}};
+const Catalogue CatalogueBoitiers{.table = "Table Mécanismes Globique",
+                                  .champCle = "Modele",
+                                  .membreCle = "Modele",
+                                  .champs = champsBoitiers,
+                                  .texteCleVide = 546,
+                                  .texteCleExiste = {550, TexteAutreNom},
+                                  .titreCleExiste = TexteSuiteImpossible};
+const Catalogue CatalogueGalets{.table = "Table Galets",
+                                .champCle = "ReferenceGalet",
+                                .membreCle = "ReferenceGalet",
+                                .champs = champsGalets,
+                                .texteCleVide = 541,
+                                .texteCleExiste = {673, TexteAutreNom},
+                                .titreCleExiste = TexteSuiteImpossible};

@@ -40,6 +40,7 @@ std::optional<FauteSaisie> ChercheFauteLigne(const Catalogue& catalogue, const s
     jeu.Seek(cle);
     if (jeu.NoMatch()) return {};
     FauteSaisie existe{catalogue.membreCle, {}};
+    if (catalogue.titreCleExiste != 0) existe.titre = Texte(catalogue.titreCleExiste);
     for (const int texte : catalogue.texteCleExiste) existe.texte += (existe.texte.empty() ? "" : "\n") + Texte(texte);
     if (catalogue.finitParSaut) existe.texte += "\n";
     return existe;

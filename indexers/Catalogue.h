@@ -28,6 +28,7 @@ struct Catalogue {
     int texteCleVide;                ///< said of a new row without a key
     std::vector<int> texteCleExiste; ///< said of a key that the table has, line by line
     bool finitParSaut = false;       ///< an empty line ends that text
+    int titreCleExiste = 0;          ///< text number of that box's title; 0 for none of its own
 };
 
 /// The values of a row by member name; none where the table has none.

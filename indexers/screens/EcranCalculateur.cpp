@@ -151,7 +151,7 @@ void EcranCalculateur::LitSaisie() {
 
 void EcranCalculateur::MontreFaute(const FauteSaisie& faute) {
     onglets_->setCurrentIndex(0);
-    if (!faute.texte.empty()) LesDialogues().Message(faute.icone, faute.texte);
+    if (!faute.texte.empty()) LesDialogues().Message(faute.icone, faute.texte, faute.titre);
     QWidget* controle = ControleDe(faute.champ);
     if (controle == nullptr) return;
     controle->setFocus(Qt::OtherFocusReason);

@@ -17,11 +17,12 @@ constexpr ChampCatalogue champsBoitiers[] = {
     {"Boitier", "Boitier"},
 };
 
+// A roller is kept with any number but 0, on purpose: the drum, which shares the table, wants them above it.
 constexpr ChampCatalogue champsGalets[] = {
-    {"DiametreGalet", "DiametreGalet", false, true, 542},
-    {"HauteurGalet", "HauteurGalet", false, true, 543},
-    {"CapaciteB10", "CapaciteB10", false, true, 544},
-    {"CapaciteLimite", "CapaciteLimite", false, true, 545},
+    {"DiametreGalet", "DiametreGalet", false, true, 542, Nul},
+    {"HauteurGalet", "HauteurGalet", false, true, 543, Nul},
+    {"CapaciteB10", "CapaciteB10", false, true, 544, Nul},
+    {"CapaciteLimite", "CapaciteLimite", false, true, 545, Nul},
     {"codemi", "codemi", false, false},
 };
 

@@ -17,7 +17,8 @@ struct ChampCatalogue {
     const char* champ;      ///< field of the table
     bool nullable = false;  ///< a missing value leaves the input empty, and an empty input is stored as one
     bool enregistre = true; ///< false for a field that is read, and left out of a new row
-    int texteFaute = 0;     ///< said of a new row in which it is not above 0; 0 where any number will do
+    int texteFaute = 0;     ///< said of a new row in which it is `interdit`; 0 where any number will do
+    bool (*interdit)(double valeur) = NulOuNegatif;
 };
 
 struct Catalogue {

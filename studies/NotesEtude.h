@@ -26,5 +26,5 @@ struct NoteValeur {
 
 std::span<const NoteValeur> LesNotes();
 
-/// The notes that apply to the present results of a kind of study.
+/// The notes that apply to the present results of a kind of study; of several cams, those of each.
 Notes NotesEnVigueur(const TypeEtude& type);

@@ -1,7 +1,9 @@
 #include "globoidal/screens/GlobiqueIndexeur.h"
 #include "globoidal/screens/GlobiqueOscillateur.h"
 
+#include "globoidal/CataloguesGlobiques.h"
 #include "globoidal/TextesGlobiques.h"
+#include "outils/BaseAEcrire.h"
 #include "outils/EcranDeCalculateur.h"
 
 namespace {
@@ -71,6 +73,22 @@ TEST_F(IndexerScreen, ATypedHousingSaysWhichCodeItKeeps) {
     TapeCle("DerouleModeles", "MG-200"); // a name of the catalogue brings its own code, and needs none of the roller
     EXPECT_EQ(note(), "");
     EXPECT_EQ(Valeur("RayonPrimitif"), "118");
+}
+
+TEST_F(IndexerScreen, ARollerIsKeptOnceWithAnyNumberButZero) {
+    const BaseAEcrire base;
+    Ouvre();
+    TapeCle("DerouleGalets", "Rond", Qt::Key_Tab);
+    Tape({{"Text8", "-35"}, {"Text9", "20"}, {"Text10", "0"}, {"Text11", "17300"}});
+    Clique("GardeGalets");
+    EXPECT_EQ(DerniereBoite(), Texte(544));
+    EXPECT_TRUE(AFocus("Text10"));
+    Tape({{"Text10", "11850.5"}});
+    Clique("GardeGalets");
+    EXPECT_EQ(ChercheLigne(CatalogueGalets, "Rond")->at("DiametreGalet"), -35);
+    Clique("GardeGalets");
+    EXPECT_TRUE(DerniereBoite().starts_with(Texte(673) + "\n")) << "it is there now";
+    EXPECT_EQ(dialogues.boites.back().titre, "Suite Impossible");
 }
 
 TEST_F(IndexerScreen, ReturnWalksTheFields) {

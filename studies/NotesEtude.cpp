@@ -72,6 +72,17 @@ std::string EcritPlages() {
     return texte;
 }
 
+// ---- a law out of a file
+
+bool LoiDeFichier(const TypeEtude&) {
+    return etude.donnees.NombreZones == 1 && etude.donnees.Zones[1].NomLoi == NomLoiFichier;
+}
+
+// The radius under an arm takes its acceleration from both of the arm's, signs included.
+bool BrasDeFichier(const TypeEtude& type) {
+    return type.Bras() && LoiDeFichier(type);
+}
+
 // ---- a pair whose data make up for each other
 
 bool PaireNegative(const TypeEtude& type) {
@@ -79,6 +90,9 @@ bool PaireNegative(const TypeEtude& type) {
 }
 
 constexpr NoteValeur notes[] = {
+    {"AccelRayonMax", BrasDeFichier, TexteFichierSansSigne},
+    {"ForceGaletMax", LoiDeFichier, TexteFichierSansSigne},
+    {"CoupleMax", LoiDeFichier, TexteFichierSansSigne},
     {"ForceGaletMax", PaireNegative, TexteProduitSeul},
     {"CoupleMax", PaireNegative, TexteProduitSeul},
     {"RayonMin", PaireNegative, TexteProduitSeul},

@@ -21,10 +21,6 @@ protected:
 /// Vmax of the modified sine, as published.
 constexpr double VmaxMs = 1.7596033859537705;
 
-double Relatif(double valeur, double attendu) {
-    return std::abs(valeur / attendu - 1);
-}
-
 } // namespace
 
 TEST_F(CapaciteIndexeur, SteepestContactIsThatOfTheMiddleOfTheIndex) {
@@ -122,12 +118,10 @@ TEST_F(CapaciteIndexeur, ALoneRollerCarriesThePreloadAndLiftsOff) {
 }
 
 TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
-    std::string contenu;
     const LoiCinqSegments loi{PrepareCinqSegments({0.25, 0, 0.75, 0})};
-    for (int i = 0; i < 722; ++i) {
-        const PointLoi p = i < 300 ? Evalue(loi, i / 300.0, 0.5, JointsIndexeur) : PointLoi{1, 0, 0};
-        contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
-    }
+    const std::string contenu = ContenuLoi([&](int i) {
+        return i < 300 ? Evalue(loi, i / 300.0, 0.5, JointsIndexeur) : PointLoi{1, 0, 0};
+    });
     const DossierTemporaire dossier;
     DonneesIndexeur d = UnIndexeur(8, 8, 99);
     d.NomLoi = "Fichier";

@@ -24,31 +24,20 @@ protected:
     std::string EcritLoi(int a, int b, int c) {
         const int fin = a + b + c;
         const LoiCinqSegments loi = PrepareCinqSegments({0.5, 0, 0.5, 0});
-        std::string contenu;
-        for (int i = 0; i < 722; ++i) {
-            const double x = i / 2.0;
-            const auto zone = [&](double u, double angle, int sens) {
-                const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
-                const double r = fin / angle;
-                return PointLoi{sens > 0 ? p.Course : 1 - p.Course, p.Vitesse * r * sens, p.Accel * r * r * sens};
-            };
-            PointLoi p{};
-            if (x <= a)
-                p = zone(x / a, a, 1);
-            else if (x <= a + b)
-                p = {1, 0, 0};
-            else if (x <= fin)
-                p = zone((x - a - b) / c, c, -1);
-            contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
-        }
-        return dossier.Ecrit("loi.Lmi", contenu);
+        const auto zone = [&](double u, double angle, int sens) {
+            const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
+            const double r = fin / angle;
+            return PointLoi{sens > 0 ? p.Course : 1 - p.Course, p.Vitesse * r * sens, p.Accel * r * r * sens};
+        };
+        return dossier.Ecrit("loi.Lmi", ContenuLoi([&](int i) {
+                                 const double x = i / 2.0;
+                                 if (x <= a) return zone(x / a, a, 1);
+                                 if (x <= a + b) return PointLoi{1, 0, 0};
+                                 return x <= fin ? zone((x - a - b) / c, c, -1) : PointLoi{};
+                             }));
     }
     DossierTemporaire dossier;
 };
-
-double Relatif(double valeur, double attendu) {
-    return std::abs(valeur / attendu - 1);
-}
 
 } // namespace
 

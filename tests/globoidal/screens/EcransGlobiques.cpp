@@ -85,7 +85,9 @@ TEST_F(IndexerScreen, ARollerIsKeptOnceWithAnyNumberButZero) {
     EXPECT_TRUE(AFocus("Text10"));
     Tape({{"Text10", "11850.5"}});
     Clique("GardeGalets");
-    EXPECT_EQ(ChercheLigne(CatalogueGalets, "Rond")->at("DiametreGalet"), -35);
+    const auto ligne = ChercheLigne(CatalogueGalets, "Rond");
+    ASSERT_TRUE(ligne);
+    EXPECT_EQ(ligne->at("DiametreGalet"), -35);
     Clique("GardeGalets");
     EXPECT_TRUE(DerniereBoite().starts_with(Texte(673) + "\n")) << "it is there now";
     EXPECT_EQ(dialogues.boites.back().titre, "Suite Impossible");

@@ -49,6 +49,6 @@ enum TexteConjugue {
     TexteLimiteSurface,
     TexteLimiteStatique,
     TexteVitesseLimiteGalets,
-    TexteNoteStops = 996,
+    TexteNoteStops = 998,
     TexteNoteBornesPart,
 };

@@ -15,7 +15,7 @@ enum TextesEtudes {
     TexteCourbureUnPoint = 837,
     TextePenteMontee = 838,
     TexteNotes = 842,
-    TexteFichierSansSigne = 999,
+    TexteFichierSansSigne = 1001,
 };
 
 struct NoteValeur {

@@ -25,7 +25,9 @@ public:
         return {};
     }
 
-    void Message(Icone icone, const std::string& texte) override { boites_.push_back({NomIcone(icone), texte}); }
+    void Message(Icone icone, const std::string& texte, const std::string&) override {
+        boites_.push_back({NomIcone(icone), texte});
+    }
     bool Question(const std::string& texte) override {
         boites_.push_back({"question", texte});
         return oui_;

@@ -23,7 +23,7 @@ inline constexpr ChampEtude ChampsPaire[] = {
     {"RayonGaletG1", "Text3", 471, UniteMm, &DonneesEtude::RayonGaletG1, MasquePaire},
     {"RayonBrasR2", "Text4", 472, UniteMm, &DonneesEtude::RayonBrasR2, MasquePaire},
     {"RayonGaletG2", "Text5", 473, UniteMm, &DonneesEtude::RayonGaletG2, MasquePaire},
-    {"VitesseCame", "Text8", 157, UniteTours, &DonneesEtude::VitesseCame, MasquePaire},
+    {"VitesseCame", "Text8", 298, UniteTours, &DonneesEtude::VitesseCame, MasquePaire},
     {"AngleBras", "Text6", 474, UniteDegres, &DonneesEtude::AngleBras, MasquePaire},
     {"InertieO1", "Text7", 475, UniteKgM2, &DonneesEtude::InertieO1, MasquePaireLarge},
 };

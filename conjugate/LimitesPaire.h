@@ -17,3 +17,6 @@ std::optional<FautePaire> ChercheFauteVitesse(const DonneesEtude& donnees);
 
 /// Pivot, arms, rollers and inertia.
 std::optional<FautePaire> ChercheFautePaire(const DonneesEtude& donnees);
+
+/// True when some of the radii, rollers and the inertia are below 0, of which `ChercheFautePaire` lets pairs through.
+bool DonneesNegatives(const DonneesEtude& donnees);

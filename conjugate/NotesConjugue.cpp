@@ -34,6 +34,7 @@ void NoteReserves(ResultatConjugue& resultat) {
     const DonneesConjugue& d = *resultat.donnees;
     Note(notes, Texte(d.loi.Cvu < 2 ? TexteNoteMS : TexteNoteMT));
     Note(notes, Texte(TexteNoteLooping));
+    if (d.N > 5) Note(notes, Texte(TexteNoteStops));
     if (resultat.courbures) NoteCourbures(d, *resultat.courbures, notes);
     if (resultat.capacite) Note(notes, Texte(TexteNoteLimitesDynamiques));
     if (!resultat.tableau.empty()) NoteTableau(d, notes);

@@ -49,4 +49,6 @@ enum TexteConjugue {
     TexteLimiteSurface,
     TexteLimiteStatique,
     TexteVitesseLimiteGalets,
+    TexteNoteStops = 998,
+    TexteNoteBornesPart,
 };

@@ -31,7 +31,8 @@ void AjouteCoupe(std::vector<std::string>& lignes, const std::string& numero, co
 
 void Notes::Ajoute(std::string_view valeur, const std::string& texte) {
     const auto place = std::find(textes_.begin(), textes_.end(), texte);
-    renvois_.emplace_back(valeur, static_cast<std::size_t>(place - textes_.begin()));
+    const std::pair renvoi(std::string(valeur), static_cast<std::size_t>(place - textes_.begin()));
+    if (std::find(renvois_.begin(), renvois_.end(), renvoi) == renvois_.end()) renvois_.push_back(renvoi);
     if (place == textes_.end()) textes_.push_back(texte);
 }
 

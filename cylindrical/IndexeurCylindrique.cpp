@@ -2,9 +2,11 @@
 
 #include "cylindrical/TextesIndexeurCyl.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "data/Unites.h"
 #include "indexers/TextesIndexeurs.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -82,6 +84,10 @@ std::optional<FauteSaisie> ChercheFauteGalet(const Fiche& d) {
                                       {"CapaciteB10", d.CapaciteB10}})
         if (NulOuNegatif(valeur)) return Faute(nom, 683);
     return Faute("CapaciteLimite", 683);
+}
+
+bool GaletNegatif(const Fiche& d) {
+    return std::min({d.DiametreGalet, d.HauteurGalet, d.CapaciteB10, d.CapaciteLimite}) < 0.0;
 }
 
 std::optional<FauteSaisie> ChercheFauteMecanisme(const Fiche& d) {
@@ -212,6 +218,7 @@ void EpaisseurProfil(const Fiche& d, ResultatIndexeurCylindrique& r) {
         ligne.back() = Format(std::abs(y2) + y - d.DiametreGalet, "000.000");
     }
     r.notes.push_back(Texte(TexteEpaisseurProfil));
+    if (GaletNegatif(d)) r.notes.push_back(Texte(TexteProduitSeul));
     if (d.Sens < 0.0) r.notes.push_back(Texte(TexteEpaisseurGauche));
 }
 

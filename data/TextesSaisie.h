@@ -13,4 +13,5 @@ enum TextesSaisie {
     TexteLoisAuDemarrage = 824, ///< the catalogue that a law file replaced
     TexteBoutonPoints = 825,
     TexteBoutonScripts = 826,
+    TexteProduitSeul = 1000, ///< where only the product of some data is checked, and some are negative
 };

@@ -80,7 +80,7 @@ double RayonPrimitif(const CalculIndexeur& calcul) {
     const double H = calcul.came.H, beta = calcul.beta;
     const auto montage = [&](double stops, double galets) { return calcul.stops == stops && calcul.galets == galets; };
     if (boitier == 0 || boitier == 7 || boitier == 8) return calcul.came.R;
-    if (boitier == 5 && Entier16(calcul.donnees.codemi) == 13) return 4.055;
+    if (boitier == BoitierParGalet && Entier16(calcul.donnees.codemi) == 13) return 4.055;
     const bool fenetre = (montage(8, 8) && beta > 120 && beta < 210) || (montage(10, 10) && beta > 120 && beta < 240) ||
                          (montage(12, 12) && beta > 90) || (montage(16, 8) && (beta < 150 || beta > 210)) ||
                          (montage(20, 10) && beta > 150);

@@ -163,6 +163,8 @@ ResultatGlobique CalculeCapaciteOscillateur(const DonneesOscillateur& donnees, c
     resultat.AngleFlanc2 = calcul.flancs.flanc2;
     resultat.AngleFlancTravail = calcul.flancs.travail;
     resultat.Zones = calcul.mouvement.zones;
+    // The signs of a law file are lost, and with them what its joints are like.
+    if (!LoiParFichier(donnees)) resultat.Sauts = RaccordsRompus(calcul.mouvement);
     resultat.RayonPrimitif = came.Rp * MmParPouce;
     resultat.InertieTotale = InertieAvecGalets(came, donnees.NombreGalets, donnees.InertieTourelle);
     return std::move(resultat);

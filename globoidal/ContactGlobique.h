@@ -39,6 +39,9 @@ struct CameGlobique {
 /// @throws ErreurExecution subscript out of range for a code that no casing, or no roller, has
 CameGlobique LitCame(const MecanismeGlobique& donnees);
 
+/// The casing whose pitch radius depends on the code of the roller.
+inline constexpr int BoitierParGalet = 5;
+
 /// The code of the casing as a whole number.
 int CodeBoitier(const MecanismeGlobique& donnees);
 

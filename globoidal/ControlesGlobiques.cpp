@@ -12,7 +12,6 @@ namespace {
 constexpr double GaletsMinIndexeur = 5, GaletsMinOscillateur = 2;
 constexpr double AngleSortieMax = 180, AngleTour = 360, AngleFlancMax = 68;
 constexpr double SymetrieMin = 0.1, SymetrieMax = 0.9;
-constexpr double PartVitesseMax = 0.99;
 constexpr double ArrondiTour = 1e-9;
 
 using Faute = std::optional<FauteSaisie>;
@@ -76,9 +75,9 @@ Faute FlancsTropOuverts(const DonneesOscillateur& d) {
 } // namespace
 
 Faute VerifiePartsLoi(double a, double b, double c, const char* champ) {
-    const double d = CompleteParts(a, b, c).d;
-    if (d < 0.0 || d > PartVitesseMax) return Signale(champ, 551);
-    return {};
+    const std::string faute = TexteFauteD(CompleteParts(a, b, c).d, PartVitesseMax);
+    if (faute.empty()) return {};
+    return FauteSaisie{champ, faute};
 }
 
 Faute ChercheFauteIndexeur(const DonneesIndexeur& d) {

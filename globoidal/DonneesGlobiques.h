@@ -5,6 +5,9 @@
 #include "core/Champ.h"
 #include "indexers/SourceLoi.h"
 
+/// Largest share at constant speed of a law whose shares are typed.
+inline constexpr double PartVitesseMax = 0.99;
+
 /// What indexer and oscillator ask for alike.
 struct MecanismeGlobique {
     std::string Modele;             ///< of the casing

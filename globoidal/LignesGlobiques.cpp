@@ -3,6 +3,8 @@
 #include "core/Nombres.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "globoidal/CapaciteOscillateur.h"
+#include "globoidal/CataloguesGlobiques.h"
 #include "globoidal/TextesGlobiques.h"
 #include "globoidal/UnitesGlobiques.h"
 
@@ -104,8 +106,27 @@ GroupeResultats GroupeCourbure(const ResultatGlobique& r) {
             {LigneCourbure("Label29", 585, r.CourbureCentre), LigneCourbure("Label30", 173, r.CourbureRacine)}};
 }
 
+/// The code in use where it is not that of the name: a casing or a roller that is typed keeps the last one's.
+std::string NoteCode(const Catalogue& catalogue, const std::string& nom, const char* membre, double code, int texte) {
+    const auto ligne = ChercheLigne(catalogue, nom);
+    if (ligne && ligne->at(membre).value_or(0.0) == code) return {};
+    return Texte(texte) + " " + TexteCourt(code);
+}
+
+std::string NoteBoitier(const MecanismeGlobique& d) {
+    return NoteCode(CatalogueBoitiers, d.Modele, "Boitier", d.Boitier, TexteCodeBoitier);
+}
+
+/// The code of the roller counts with one casing only.
+std::string NoteGalet(const MecanismeGlobique& d) {
+    if (CodeBoitier(d) != BoitierParGalet) return {};
+    return NoteCode(CatalogueGalets, d.ReferenceGalet, "codemi", d.codemi, TexteCodeGalet);
+}
+
 /// Pressure angle, pitch radius and inertia, and between them what an indexer has of its own.
-GroupeResultats GroupeContact(const ResultatGlobique& r, const std::vector<LigneResultat>& propres) {
+/// @param notesRayon what the pitch radius in use depends on unseen
+GroupeResultats GroupeContact(const ResultatGlobique& r, const std::vector<LigneResultat>& propres,
+                              const std::vector<std::string>& notesRayon) {
     const std::string angle = TexteArrondi(r.AnglePressionMaxi, DecimalesAngle);
     LigneResultat pression = Ligne("Label63", 581, angle, UniteDegres);
     Rougit(pression, Val(angle) > AnglePressionLimite, TextePressionForte);
@@ -114,8 +135,11 @@ GroupeResultats GroupeContact(const ResultatGlobique& r, const std::vector<Ligne
     GroupeResultats groupe{Texte(TexteContact), {pression}};
     groupe.lignes.insert(groupe.lignes.end(), propres.begin(), propres.end());
     groupe.lignes.push_back(primitif);
-    groupe.lignes.push_back(
-        Ligne("RayonPrimitif", TexteRayonPrimitifReel, TexteArrondi(r.RayonPrimitif, DecimalesMm), UniteMm));
+    LigneResultat employe =
+        Ligne("RayonPrimitif", TexteRayonPrimitifReel, TexteArrondi(r.RayonPrimitif, DecimalesMm), UniteMm);
+    for (const std::string& note : notesRayon)
+        if (!note.empty()) employe.note += (employe.note.empty() ? "" : "\n") + note;
+    groupe.lignes.push_back(employe);
     groupe.lignes.push_back(Ligne("Text18", 672, TexteArrondi(r.InertieTotale, DecimalesInertie), UniteKgM2));
     return groupe;
 }
@@ -163,8 +187,10 @@ std::vector<GroupeResultats> GeometrieIndexeur(const DonneesIndexeur& d, const R
              {Ligne("Label69", 578, mm(repos.Tete), UniteMm), Ligne("Label52", 585, mm(repos.Centre), UniteMm),
               Ligne("Label51", 173, mm(repos.Racine), UniteMm)}},
             GroupeCourbure(r),
-            GroupeContact(r, {Ligne("Label53", 597, TexteCourt(r.Type)), Ligne("Label73", 583, TexteCourt(r.Passages)),
-                              Ligne("Text19", 598, TexteCourt(r.AngleReel), UniteDegres)})};
+            GroupeContact(r,
+                          {Ligne("Label53", 597, TexteCourt(r.Type)), Ligne("Label73", 583, TexteCourt(r.Passages)),
+                           Ligne("Text19", 598, TexteCourt(r.AngleReel), UniteDegres)},
+                          {NoteBoitier(d), NoteGalet(d)})};
 }
 
 std::vector<GroupeResultats> GeometrieOscillateur(const DonneesOscillateur& d, const ResultatGlobique& r) {
@@ -184,7 +210,7 @@ std::vector<GroupeResultats> GeometrieOscillateur(const DonneesOscillateur& d, c
              {degres("AngleZoneA", 532, r.Zones[0]), degres("AngleZoneB", 533, r.Zones[1]),
               degres("AngleZoneC", 534, r.Zones[2]), degres("AngleZoneD", 540, r.Zones[3])}},
             GroupeCourbure(r),
-            GroupeContact(r, {})};
+            GroupeContact(r, {}, {NoteBoitier(d)})};
 }
 
 std::vector<TableResultats> PourAffichage(std::vector<TableResultats> tables) {
@@ -209,7 +235,12 @@ bool ProfondeurNonPrise(const ResultatGlobique& r) {
 std::vector<std::string> NotesIndexeur(const DonneesIndexeur& d, const ResultatGlobique& r) {
     std::vector<std::string> notes{BaseDuree()};
     if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
-    if (d.NomLoi != NomLoiFichier && d.CoefSymetrie != 0.5) notes.push_back(Texte(TexteSymetrieCouple));
+    if (d.NomLoi == NomLoiFichier) {
+        notes.push_back(Texte(TexteLoiSansSigne));
+    } else if (d.CoefSymetrie != 0.5) {
+        notes.push_back(Texte(TexteSymetrieCouple));
+    }
+    if (d.NomLoi.starts_with("MSH")) notes.push_back(Texte(TexteMshSansRetour));
     return notes;
 }
 
@@ -217,5 +248,11 @@ std::vector<std::string> NotesOscillateur(const DonneesOscillateur& d, const Res
     std::vector<std::string> notes{BaseDuree(), Texte(TexteRetourArbre)};
     if (ProfondeurNonPrise(r)) notes.push_back(Texte(TexteProfondeurNonPrise));
     if (d.CapaciteArbreEntree == 0.0) notes.push_back(Texte(TexteArbreNul));
+    if (LoiParFichier(d)) notes.push_back(Texte(TexteLoiSansSigne));
+    if (!r.Sauts.empty()) {
+        std::string raccords;
+        for (const std::string& raccord : r.Sauts) raccords += (raccords.empty() ? " " : ", ") + raccord;
+        notes.push_back(Texte(TexteSauts) + raccords);
+    }
     return notes;
 }

@@ -4,6 +4,7 @@
 #include "globoidal/CapacitesGlobiques.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 /// Along the height of the roller: at the tip of the rib, halfway, at its root.
@@ -32,6 +33,7 @@ struct ResultatGlobique {
     double DiametreRogne = 0, LargeurRognee = 0;                    ///< of the cam with its edges trimmed, mm
     double AngleFlanc1 = 0, AngleFlanc2 = 0, AngleFlancTravail = 0; ///< degrees
     std::array<double, 4> Zones{};                                  ///< cam angles in use, degrees
+    std::vector<std::string> Sauts; ///< joints of zones at which the acceleration jumps ("A-B")
 
     double RayonPrimitif = 0;                      ///< in use, mm
     double CameDiametre = 0, CameLargeur = 0;      ///< mm

@@ -34,4 +34,9 @@ enum TexteGlobique : int {
     TexteAutreNom = 905,
     TextePartMontree,
     TexteProfondeurNonPrise = 989,
+    TexteLoiSansSigne = 992, ///< a law file is read without signs
+    TexteMshSansRetour,      ///< what an indexer makes of a law of rise and return
+    TexteSauts,              ///< followed by the joints of zones
+    TexteCodeBoitier,        ///< followed by the code in use of a casing that is typed
+    TexteCodeGalet,          ///< the same of a roller
 };

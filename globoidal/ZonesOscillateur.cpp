@@ -161,3 +161,30 @@ MouvementOscillateur PrepareMouvement(const DonneesOscillateur& donnees, double 
     CalculeFacteurs(mouvement.retour);
     return mouvement;
 }
+
+std::vector<std::string> RaccordsRompus(const MouvementOscillateur& mouvement) {
+    // A rounding at the end of a law is no jump.
+    constexpr double arrondi = 1e-6;
+    struct Bouts {
+        char nom;
+        double debut = 0, fin = 0; ///< accelerations per unit of cam angle
+    };
+    std::vector<Bouts> suite;
+    double sommet = 0;
+    const auto ajoute = [&](char nom, const ZoneOscillateur& zone) {
+        const double parAngle = 1.0 / (zone.angle * zone.angle);
+        suite.push_back({nom, zone.points.front().Accel * parAngle, zone.points.back().Accel * parAngle});
+        for (const PointLoi& p : zone.points) sommet = std::max(sommet, std::abs(p.Accel) * parAngle);
+    };
+    ajoute('A', mouvement.aller);
+    if (mouvement.zones[1] != 0.0) suite.push_back({'B'});
+    ajoute('C', mouvement.retour);
+    if (mouvement.zones[3] != 0.0) suite.push_back({'D'});
+    std::vector<std::string> rompus;
+    for (std::size_t i = 0; i < suite.size(); ++i) {
+        const Bouts &avant = suite[i], &apres = suite[(i + 1) % suite.size()];
+        if (std::abs(avant.fin - apres.debut) > arrondi * sommet)
+            rompus.push_back(std::string{avant.nom, '-', apres.nom});
+    }
+    return rompus;
+}

@@ -5,6 +5,7 @@
 #include "core/Etude.h"
 #include "globoidal/CapacitesGlobiques.h"
 
+#include <string>
 #include <vector>
 
 /// Forward or back, as the walk needs it. `course` is the output's lift from where the motion of zone A begins, in
@@ -29,3 +30,7 @@ std::array<double, 4> ZonesDuFichier(const std::string& chemin);
 /// @param sortie output angle, degrees
 /// @throws ErreurExecution as `CalculeCapaciteOscillateur`
 MouvementOscillateur PrepareMouvement(const DonneesOscillateur& donnees, double sortie, const Tableau<Loi>& catalogue);
+
+/// The joints of zones at which the acceleration of the output jumps, as "A-B": what a law ends with is not what the
+/// dwell or the motion behind it begins with. A zone of no angle is left out.
+std::vector<std::string> RaccordsRompus(const MouvementOscillateur& mouvement);

@@ -33,13 +33,14 @@ std::optional<FauteSaisie> ChercheFauteLigne(const Catalogue& catalogue, const s
     for (const ChampCatalogue& c : catalogue.champs) {
         if (c.texteFaute == 0) continue;
         const auto valeur = valeurs.find(c.membre);
-        if (valeur == valeurs.end() || NulOuNegatif(valeur->second.value_or(0.0)))
+        if (c.interdit(valeur == valeurs.end() ? 0.0 : valeur->second.value_or(0.0)))
             return FauteSaisie{c.membre, Texte(c.texteFaute)};
     }
     JeuEnregistrements jeu = LaBase.OuvreTable(catalogue.table);
     jeu.Seek(cle);
     if (jeu.NoMatch()) return {};
     FauteSaisie existe{catalogue.membreCle, {}};
+    if (catalogue.titreCleExiste != 0) existe.titre = Texte(catalogue.titreCleExiste);
     for (const int texte : catalogue.texteCleExiste) existe.texte += (existe.texte.empty() ? "" : "\n") + Texte(texte);
     if (catalogue.finitParSaut) existe.texte += "\n";
     return existe;

@@ -17,7 +17,8 @@ struct ChampCatalogue {
     const char* champ;      ///< field of the table
     bool nullable = false;  ///< a missing value leaves the input empty, and an empty input is stored as one
     bool enregistre = true; ///< false for a field that is read, and left out of a new row
-    int texteFaute = 0;     ///< said of a new row in which it is not above 0; 0 where any number will do
+    int texteFaute = 0;     ///< said of a new row in which it is `interdit`; 0 where any number will do
+    bool (*interdit)(double valeur) = NulOuNegatif;
 };
 
 struct Catalogue {
@@ -28,6 +29,7 @@ struct Catalogue {
     int texteCleVide;                ///< said of a new row without a key
     std::vector<int> texteCleExiste; ///< said of a key that the table has, line by line
     bool finitParSaut = false;       ///< an empty line ends that text
+    int titreCleExiste = 0;          ///< text number of that box's title; 0 for none of its own
 };
 
 /// The values of a row by member name; none where the table has none.

@@ -10,4 +10,5 @@ struct FauteSaisie {
     std::string champ; ///< name of the record's member
     std::string texte; ///< as the box shows it, put together in the working language
     Icone icone = Icone::Avertissement;
+    std::string titre = {}; ///< of the box; empty for the name of the program
 };

@@ -3,6 +3,7 @@
 #include "core/FichierEntier.h"
 #include "core/Lignes.h"
 #include "data/Textes.h"
+#include "indexers/TextesIndexeurs.h"
 #include "laws/CalculLois.h"
 #include "laws/FichierLoi.h"
 
@@ -24,11 +25,18 @@ double CoefD(const SourceLoi& source) {
     return d;
 }
 
+std::string TexteFauteD(double d, double maximum) {
+    if (d >= 0.0 && d <= maximum) return {};
+    std::string texte = Texte(TexteCoefs);
+    if (d > maximum && d <= 1.0) texte += "\n" + Texte(TexteDMaximum) + " " + TexteCourt(maximum) + ".";
+    return texte;
+}
+
 std::optional<FauteSaisie> ChercheFauteCoefs(const SourceLoi& source, double maximum) {
     if (!source.Speciale()) return {};
-    const double d = CoefD(source);
-    if (d >= 0.0 && d <= maximum) return {};
-    return FauteSaisie{"CoefA", Texte(TexteCoefs), Icone::Critique};
+    const std::string faute = TexteFauteD(CoefD(source), maximum);
+    if (faute.empty()) return {};
+    return FauteSaisie{"CoefA", faute, Icone::Critique};
 }
 
 Loi LoiDeSource(const SourceLoi& source, const Tableau<Loi>& lois) {

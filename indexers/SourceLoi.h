@@ -29,6 +29,10 @@ struct SourceLoi {
 /// add up exactly.
 double CoefD(const SourceLoi& source);
 
+/// What is said of a share d at constant speed that is not from 0 to `maximum`, empty for one that is. The box names 0
+/// and 1; a bound below 1 is told where it is the reason.
+std::string TexteFauteD(double d, double maximum);
+
 /// Shares that leave no share at constant speed from 0 to `maximum`; none for a law whose shares are not typed.
 std::optional<FauteSaisie> ChercheFauteCoefs(const SourceLoi& source, double maximum = 1.0);
 

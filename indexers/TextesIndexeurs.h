@@ -3,4 +3,5 @@
 
 enum TextesIndexeurs {
     TexteLoiSansFin = 843, ///< a law file that no lift of 1 ends
+    TexteDMaximum = 997,   ///< followed by the largest share at constant speed, where it is below 1
 };

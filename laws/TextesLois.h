@@ -7,4 +7,6 @@ enum TextesLois {
     TexteReluFin = 829,
     TexteParMontee = 830,
     TexteEchelleMontee = 831,
+    TexteSymetrieVitesse = 1002,
+    TexteSymetrieAccel,
 };

@@ -4,7 +4,7 @@ namespace {
 
 class DialoguesMuets final : public Dialogues {
 public:
-    void Message(Icone, const std::string&) override {}
+    void Message(Icone, const std::string&, const std::string&) override {}
     bool Question(const std::string&) override { return false; }
     std::optional<std::string> Saisie(const std::string&, const std::string&, const std::string&) override {
         return {};

@@ -28,7 +28,8 @@ public:
     virtual ~Dialogues() = default;
 
     /// Shows a box with one button and waits for it.
-    virtual void Message(Icone icone, const std::string& texte) = 0;
+    /// @param titre of the box; empty for the name of the program
+    virtual void Message(Icone icone, const std::string& texte, const std::string& titre = {}) = 0;
 
     /// Asks with Yes and No; true for Yes.
     virtual bool Question(const std::string& texte) = 0;

@@ -4,6 +4,7 @@
 #include "core/ValeurPoint.h"
 #include "data/Textes.h"
 #include "data/Unites.h"
+#include "studies/NotesEtude.h"
 #include "studies/ValeursRemarquables.h"
 
 #include <memory>
@@ -101,10 +102,11 @@ TableTexte TableEffortsCames(const TypeEtude& type) {
 }
 
 TableTexte TableRemarquablesCames(const TypeEtude& type) {
+    const Notes notes = NotesEnVigueur(type);
     std::vector<std::string> noms, unites;
     for (const ValeurRemarquable& valeur : LesValeursRemarquables()) {
         if (valeur.texte(type) == 0) continue;
-        noms.push_back(Texte(valeur.groupe) + " : " + Texte(valeur.texte(type)));
+        noms.push_back(Texte(valeur.groupe) + " : " + Texte(valeur.texte(type)) + notes.Renvoi(valeur.nom));
         unites.push_back(Texte(valeur.unite));
     }
     TableTexte table{{}, static_cast<int>(noms.size())};

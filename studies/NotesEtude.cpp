@@ -2,7 +2,9 @@
 
 #include "cams/Courbure.h"
 #include "cams/Pente.h"
+#include "conjugate/LimitesPaire.h"
 #include "data/Textes.h"
+#include "data/TextesSaisie.h"
 #include "data/Unites.h"
 #include "studies/ValeursRemarquables.h"
 
@@ -70,7 +72,30 @@ std::string EcritPlages() {
     return texte;
 }
 
+// ---- a law out of a file
+
+bool LoiDeFichier(const TypeEtude&) {
+    return etude.donnees.NombreZones == 1 && etude.donnees.Zones[1].NomLoi == NomLoiFichier;
+}
+
+// The radius under an arm takes its acceleration from both of the arm's, signs included.
+bool BrasDeFichier(const TypeEtude& type) {
+    return type.Bras() && LoiDeFichier(type);
+}
+
+// ---- a pair whose data make up for each other
+
+bool PaireNegative(const TypeEtude& type) {
+    return !type.passes.empty() && DonneesNegatives(etude.donnees);
+}
+
 constexpr NoteValeur notes[] = {
+    {"AccelRayonMax", BrasDeFichier, TexteFichierSansSigne},
+    {"ForceGaletMax", LoiDeFichier, TexteFichierSansSigne},
+    {"CoupleMax", LoiDeFichier, TexteFichierSansSigne},
+    {"ForceGaletMax", PaireNegative, TexteProduitSeul},
+    {"CoupleMax", PaireNegative, TexteProduitSeul},
+    {"RayonMin", PaireNegative, TexteProduitSeul},
     {"RayonCourbureMin", TropCourbee, TexteTropCourbe, EcritPlages},
     {"RayonCourbureMin", CourbureUnPoint, TexteCourbureUnPoint},
     {"AngleTangentMax", MonteePlusForte, TextePenteMontee, EcritPenteMontee},
@@ -107,8 +132,13 @@ Notes NotesEnVigueur(const TypeEtude& type) {
         return valeur != nullptr && valeur->texte(type) != 0 && note.vaut(type);
     };
     Notes enVigueur;
-    for (const NoteValeur& note : notes)
-        if (montre(note))
-            enVigueur.Ajoute(note.valeur, Texte(note.texte) + (note.suite == nullptr ? "" : note.suite()));
+    PourChaqueCame(type, [&](const DescriptionPasse* came) {
+        for (const NoteValeur& note : notes) {
+            if (!montre(note)) continue;
+            const bool propre = came != nullptr && note.suite != nullptr; // what follows differs from cam to cam
+            enVigueur.Ajoute(note.valeur, (propre ? Texte(came->titre) + " : " : "") + Texte(note.texte) +
+                                              (note.suite == nullptr ? "" : note.suite()));
+        }
+    });
     return enVigueur;
 }

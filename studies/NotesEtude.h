@@ -15,6 +15,7 @@ enum TextesEtudes {
     TexteCourbureUnPoint = 837,
     TextePenteMontee = 838,
     TexteNotes = 842,
+    TexteFichierSansSigne = 1001,
 };
 
 struct NoteValeur {
@@ -26,5 +27,5 @@ struct NoteValeur {
 
 std::span<const NoteValeur> LesNotes();
 
-/// The notes that apply to the present results of a kind of study.
+/// The notes that apply to the present results of a kind of study; of several cams, those of each.
 Notes NotesEnVigueur(const TypeEtude& type);

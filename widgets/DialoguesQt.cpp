@@ -114,11 +114,11 @@ std::filesystem::path AvecExtension(const std::filesystem::path& chemin, const s
     return complet;
 }
 
-void DialoguesQt::Message(Icone icone, const std::string& texte) {
+void DialoguesQt::Message(Icone icone, const std::string& texte, const std::string& titre) {
     const bool longue =
         texte.size() > LongueurBoiteMax || std::count(texte.begin(), texte.end(), '\n') > LignesBoiteMax;
-    QMessageBox boite(IconeQt(icone), QCoreApplication::applicationName(), longue ? QString() : Q(texte),
-                      QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox boite(IconeQt(icone), titre.empty() ? QCoreApplication::applicationName() : Q(titre),
+                      longue ? QString() : Q(texte), QMessageBox::NoButton, QApplication::activeWindow());
     boite.setTextFormat(Qt::PlainText);
     if (longue) AjouteTexteDefilant(boite, Q(texte));
     boite.addButton(TexteOuReserve(TexteOk, "OK"), QMessageBox::AcceptRole);

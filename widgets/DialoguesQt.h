@@ -6,7 +6,7 @@
 
 class DialoguesQt : public Dialogues {
 public:
-    void Message(Icone icone, const std::string& texte) override;
+    void Message(Icone icone, const std::string& texte, const std::string& titre) override;
     bool Question(const std::string& texte) override;
     std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                       const std::string& defaut) override;

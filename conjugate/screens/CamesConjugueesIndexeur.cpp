@@ -22,9 +22,11 @@
 
 namespace {
 
-constexpr int TexteTitre = 422, TexteMecanisme = 451, TexteGarderGalet = 452, TexteDonneesIncorrectes = 453;
+constexpr int TexteQuitter = 47, TexteTitre = 422, TexteMecanisme = 451, TexteGarderGalet = 452,
+              TexteDonneesIncorrectes = 453;
 constexpr int TexteRapport = 460, TexteLigne = 461, TexteGraphiques = 134;
-constexpr int NotesDesStops[] = {447, 448, 449, 450}, NoteHuile[] = {446};
+// What the captions say, and behind it what the calculation does.
+constexpr int NotesMecanisme[] = {447, 448, 449, 450, TexteNoteStops, TexteNoteBornesPart}, NoteHuile[] = {446};
 
 constexpr std::size_t NombreGraphes = 3;
 
@@ -70,11 +72,12 @@ CamesConjugueesIndexeur::CamesConjugueesIndexeur(QWidget* parent)
     auto ordre = mecanisme->Controles();
     for (QWidget* controle : panneauGalet->Controles()) ordre.push_back(controle);
     Composition composition;
-    composition.colonnes = {{mecanisme, FaitNotes(NotesDesStops)}, {panneauGalet, FaitNotes(NoteHuile)}};
+    composition.colonnes = {{mecanisme, FaitNotes(NotesMecanisme)}, {panneauGalet, FaitNotes(NoteHuile)}};
     composition.panneaux = {mecanisme, panneauGalet};
     composition.ordre = ordre;
     composition.resultats = {{FaitRapport(), TexteRapport}, {FaitGraphiques(), TexteGraphiques}};
     composition.sauvegarde = false;
+    composition.quitter = TexteQuitter;
     Compose(composition);
 }
 

@@ -21,7 +21,7 @@ namespace {
 /// No example of the help asks anything.
 class SansDialogues : public Dialogues {
 public:
-    void Message(Icone, const std::string& texte) override { throw std::runtime_error(texte); }
+    void Message(Icone, const std::string& texte, const std::string&) override { throw std::runtime_error(texte); }
     bool Question(const std::string& texte) override { throw std::runtime_error(texte); }
     std::optional<std::string> Saisie(const std::string&, const std::string& invite, const std::string&) override {
         throw std::runtime_error(invite);

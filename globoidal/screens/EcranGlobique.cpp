@@ -34,8 +34,9 @@ QWidget* Defilante(QWidget* contenu) {
 
 } // namespace
 
-EcranGlobique::EcranGlobique(const char* nom, int titre, Booleen16 DonneesEtude::*active, QWidget* parent)
-    : EcranCalculateur(nom, titre, active, parent) {}
+EcranGlobique::EcranGlobique(const char* nom, int titre, Booleen16 DonneesEtude::*active,
+                             const MecanismeGlobique& mecanisme, QWidget* parent)
+    : EcranCalculateur(nom, titre, active, parent), mecanisme_(mecanisme) {}
 
 void EcranGlobique::ComposeGlobique(const Groupes& groupes) {
     capacites_ = new PanneauResultats;
@@ -80,6 +81,7 @@ void EcranGlobique::ComposeGlobique(const Groupes& groupes) {
     mene(groupes.boitier, ControleDe("Precontrainte"));
     mene(groupes.galet, groupes.lois.front()->Controles().front());
     RevientAuxSymetries(groupes.lois);
+    for (PanneauLoi* loi : groupes.lois) connect(loi, &PanneauLoi::FichierChoisi, this, [this] { ChoisitFichier(); });
 }
 
 QWidget* EcranGlobique::FaitFeuilleParcours() {
@@ -141,8 +143,10 @@ void EcranGlobique::VideLoi(const char* membre) {
     liste->setFocus(Qt::OtherFocusReason);
 }
 
-std::optional<FauteSaisie> EcranGlobique::AvecTourelleVidee(std::optional<FauteSaisie> faute) {
-    if (faute && Mecanisme().RayonTourelle / 2 > Mecanisme().Entraxe)
+/// A turret too large for its casing is blanked.
+std::optional<FauteSaisie> EcranGlobique::ChercheFaute() {
+    auto faute = ChercheFauteDonnees();
+    if (faute && mecanisme_.RayonTourelle / 2 > mecanisme_.Entraxe)
         if (auto* champ = qobject_cast<ChampNombre*>(ControleDe("RayonTourelle"))) champ->clear();
     return faute;
 }
@@ -153,11 +157,11 @@ void EcranGlobique::MontreResultats() {
     geometrie_->Montre(rapport.geometrie);
     section_->Peint(rapport.section);
     parcours_->Peint([this](Dessin& dessin) {
-        DessineParcours(dessin, Mecanisme(), resultat_, static_cast<std::size_t>(part_->currentIndex()));
+        DessineParcours(dessin, mecanisme_, resultat_, static_cast<std::size_t>(part_->currentIndex()));
     });
     limites_->Peint([this](Dessin& dessin) { DessineCapacites(dessin, resultat_); });
 }
 
 void EcranGlobique::Imprime(Imprimante& imprimante) const {
-    ImprimeCapacites(imprimante, Rapport(), Mecanisme(), resultat_);
+    ImprimeCapacites(imprimante, Rapport(), mecanisme_, resultat_);
 }

@@ -18,7 +18,9 @@ public:
     void Imprime(Imprimante& imprimante) const override;
 
 protected:
-    EcranGlobique(const char* nom, int titre, Booleen16 DonneesEtude::*active, QWidget* parent);
+    /// @param mecanisme the record of the screen, which need not be made yet
+    EcranGlobique(const char* nom, int titre, Booleen16 DonneesEtude::*active, const MecanismeGlobique& mecanisme,
+                  QWidget* parent);
 
     /// The groups of inputs, made by the screen.
     struct Groupes {
@@ -28,6 +30,7 @@ protected:
     /// Lays out the screen. The symmetry of each law begins at one half.
     void ComposeGlobique(const Groupes& groupes);
 
+    std::optional<FauteSaisie> ChercheFaute() final;
     void MontreResultats() override;
     void SauveResultats() override {}
 
@@ -35,11 +38,10 @@ protected:
     bool DemandeFichier(std::string& fichier);
     /// No law in a list.
     void VideLoi(const char* membre);
-    /// The first check that fails; it may blank the field that is too large.
-    std::optional<FauteSaisie> AvecTourelleVidee(std::optional<FauteSaisie> faute);
-
-    virtual const MecanismeGlobique& Mecanisme() const = 0;
+    virtual std::optional<FauteSaisie> ChercheFauteDonnees() const = 0;
     virtual RapportGlobique Rapport() const = 0;
+    /// A list of laws says "Fichier".
+    virtual void ChoisitFichier() = 0;
 
     ResultatGlobique resultat_;
 
@@ -49,6 +51,7 @@ private:
     void VideAvecLeNom(const char* liste, const std::vector<std::string>& membres);
     void RevientAuxSymetries(const std::vector<PanneauLoi*>& lois);
 
+    const MecanismeGlobique& mecanisme_;
     bool nomSeTape_ = false;
     PanneauResultats *capacites_ = nullptr, *geometrie_ = nullptr;
     ZoneDessin *section_ = nullptr, *parcours_ = nullptr, *limites_ = nullptr;

@@ -12,31 +12,22 @@ namespace {
 
 constexpr int TexteTitre = 592;
 
-/// The laws that rise only, and the first of rise and return.
-std::vector<std::string> NomsLois() {
-    std::vector<std::string> noms = NomsLoisZones();
-    std::erase(noms, NomLoiFichier);
-    noms.insert(noms.end(), {"MSH", NomLoiFichier});
-    return noms;
-}
-
 } // namespace
 
 GlobiqueIndexeur::GlobiqueIndexeur(QWidget* parent)
-    : EcranGlobique("GlobiqueIndexeur", TexteTitre, &DonneesEtude::GlobiqueIndexeurActif, parent) {
+    : EcranGlobique("GlobiqueIndexeur", TexteTitre, &DonneesEtude::GlobiqueIndexeurActif, donnees_, parent) {
     const PanneauxGlobiques panneaux(LieChamps(ChampsIndexeur(), donnees_));
     auto* loi = panneaux.FaitLoi("Frame5", 105, {"NomLoi", "CoefSymetrie", "CoefA", "CoefB", "CoefC"}, "LoiSpeciale",
-                                 "Ok", NomsLois());
+                                 "Ok", {"MSH"});
     ComposeGlobique({panneaux.FaitBoitier(), panneaux.FaitMouvement(MouvementIndexeur), panneaux.FaitGalet(), {loi}});
-    connect(loi, &PanneauLoi::FichierChoisi, this, &GlobiqueIndexeur::ChoisitFichier);
 }
 
 void GlobiqueIndexeur::ChoisitFichier() {
     if (!DemandeFichier(donnees_.FichierLoi)) VideLoi("NomLoi");
 }
 
-std::optional<FauteSaisie> GlobiqueIndexeur::ChercheFaute() {
-    return AvecTourelleVidee(ChercheFauteIndexeur(donnees_));
+std::optional<FauteSaisie> GlobiqueIndexeur::ChercheFauteDonnees() const {
+    return ChercheFauteIndexeur(donnees_);
 }
 
 void GlobiqueIndexeur::CalculeResultats() {

@@ -10,13 +10,11 @@ public:
     explicit GlobiqueIndexeur(QWidget* parent = nullptr);
 
 protected:
-    std::optional<FauteSaisie> ChercheFaute() override;
+    std::optional<FauteSaisie> ChercheFauteDonnees() const override;
     void CalculeResultats() override;
-    const MecanismeGlobique& Mecanisme() const override { return donnees_; }
     RapportGlobique Rapport() const override;
+    void ChoisitFichier() override;
 
 private:
-    void ChoisitFichier();
-
     DonneesIndexeur donnees_;
 };

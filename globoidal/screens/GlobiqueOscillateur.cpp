@@ -14,30 +14,22 @@ namespace {
 constexpr int TexteTitre = 524;
 constexpr double Tour = 360;
 constexpr const char* zones[] = {"AngleZoneA", "AngleZoneB", "AngleZoneC", "AngleZoneD"};
+constexpr std::initializer_list<const char*> loisRetour = {"MSH", "MSHC20", "MSHC33", "MSHC50"};
 constexpr const char* lois[] = {"LoiZoneA", "LoiZoneC"};
-
-std::vector<std::string> NomsLois() {
-    std::vector<std::string> noms = NomsLoisZones();
-    std::erase(noms, NomLoiFichier);
-    noms.insert(noms.end(), {"MSH", "MSHC20", "MSHC33", "MSHC50", NomLoiFichier});
-    return noms;
-}
 
 } // namespace
 
 GlobiqueOscillateur::GlobiqueOscillateur(QWidget* parent)
-    : EcranGlobique("GlobiqueOscillateur", TexteTitre, &DonneesEtude::GlobiqueOscillateurActif, parent) {
+    : EcranGlobique("GlobiqueOscillateur", TexteTitre, &DonneesEtude::GlobiqueOscillateurActif, donnees_, parent) {
     const PanneauxGlobiques panneaux(LieChamps(ChampsOscillateur(), donnees_));
     auto* aller = panneaux.FaitLoi("Frame5", 552, {"LoiZoneA", "SymetrieA", "CoefA1", "CoefB1", "CoefC1"},
-                                   "LoiSpeciale1", "Ok1", NomsLois());
+                                   "LoiSpeciale1", "Ok1", loisRetour);
     auto* retour = panneaux.FaitLoi("Frame6", 553, {"LoiZoneC", "SymetrieC", "CoefA2", "CoefB2", "CoefC2"},
-                                    "LoiSpeciale2", "Ok2", NomsLois());
+                                    "LoiSpeciale2", "Ok2", loisRetour);
     ComposeGlobique({panneaux.FaitBoitier(),
                      panneaux.FaitMouvement(MouvementOscillateurSaisi),
                      panneaux.FaitGalet(),
                      {aller, retour}});
-    for (PanneauLoi* loi : {aller, retour})
-        connect(loi, &PanneauLoi::FichierChoisi, this, &GlobiqueOscillateur::ChoisitFichier);
     for (const char* zone : {zones[0], zones[1], zones[2]})
         connect(qobject_cast<ChampNombre*>(ControleDe(zone)), &QLineEdit::textEdited, this,
                 &GlobiqueOscillateur::CompleteTour);
@@ -63,8 +55,8 @@ void GlobiqueOscillateur::ChoisitFichier() {
     for (std::size_t i = 0; i < angles.size(); ++i) MontreSansPerimer(zones[i], angles[i]);
 }
 
-std::optional<FauteSaisie> GlobiqueOscillateur::ChercheFaute() {
-    return AvecTourelleVidee(ChercheFauteOscillateur(donnees_));
+std::optional<FauteSaisie> GlobiqueOscillateur::ChercheFauteDonnees() const {
+    return ChercheFauteOscillateur(donnees_);
 }
 
 void GlobiqueOscillateur::CalculeResultats() {

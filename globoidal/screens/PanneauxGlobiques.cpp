@@ -1,15 +1,16 @@
 #include "globoidal/screens/PanneauxGlobiques.h"
 
 #include "globoidal/CataloguesGlobiques.h"
+#include "globoidal/DonneesGlobiques.h"
 #include "indexers/screens/PanneauLoi.h"
 #include "indexers/screens/PanneauSaisie.h"
+#include "laws/CalculLois.h"
 
 #include <stdexcept>
 
 namespace {
 
 constexpr int TexteBoitier = 593, TexteMouvement = 776, TexteGalets = 289;
-constexpr double PartVitesseMax = 0.99; ///< of a law whose shares are typed
 
 } // namespace
 
@@ -41,8 +42,12 @@ PanneauSaisie* PanneauxGlobiques::FaitGalet() const {
 
 PanneauLoi* PanneauxGlobiques::FaitLoi(const char* nom, int titre, const std::array<const char*, 5>& membres,
                                        const char* panneau, const char* ok,
-                                       const std::vector<std::string>& lois) const {
+                                       std::initializer_list<const char*> retour) const {
     const std::vector<ChampLie> c = Choisis(membres);
+    std::vector<std::string> lois = NomsLoisZones();
+    std::erase(lois, NomLoiFichier);
+    lois.insert(lois.end(), retour.begin(), retour.end());
+    lois.emplace_back(NomLoiFichier);
     return new PanneauLoi(nom, titre, {c[0], c[1], c[2], c[3], c[4], panneau, ok, PartVitesseMax, Icone::Avertissement},
                           lois);
 }

@@ -4,6 +4,7 @@
 #include "core/Champ.h"
 
 #include <array>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <vector>
@@ -26,8 +27,9 @@ public:
     PanneauSaisie* FaitGalet() const;
 
     /// @param membres law, symmetry, and the shares a, b, c
+    /// @param retour laws of rise and return that are offered behind those that rise only and before "Fichier"
     PanneauLoi* FaitLoi(const char* nom, int titre, const std::array<const char*, 5>& membres, const char* panneau,
-                        const char* ok, const std::vector<std::string>& lois) const;
+                        const char* ok, std::initializer_list<const char*> retour) const;
 
 private:
     std::vector<ChampLie> Choisis(std::span<const char* const> membres) const;

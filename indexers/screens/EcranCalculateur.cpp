@@ -25,7 +25,7 @@ constexpr int TexteRienASauver = 23;
 constexpr int TexteGarde = 514;
 constexpr int TexteImprimer = 56;
 
-constexpr Legende legendes[] = {{"Quitter", 0, 340}, {"Calculer", 0, 11}, {"Sauvegarde", 0, 417}};
+constexpr Legende legendes[] = {{"Calculer", 0, 11}, {"Sauvegarde", 0, 417}};
 
 } // namespace
 
@@ -70,7 +70,7 @@ QWidget* EcranCalculateur::FaitSaisie(const Composition& composition) {
 }
 
 QLayout* EcranCalculateur::FaitBoutons(const Composition& composition) {
-    auto* retour = Nomme(new QPushButton, "Quitter");
+    auto* retour = Nomme(new QPushButton(QTexte(composition.quitter)), "Quitter");
     calculer_ = Nomme(new QPushButton, "Calculer");
     auto* imprimer = Nomme(new QPushButton(QTexte(TexteImprimer)), composition.imprimer);
     auto* sauver = Nomme(new QPushButton, "Sauvegarde");
@@ -151,7 +151,7 @@ void EcranCalculateur::LitSaisie() {
 
 void EcranCalculateur::MontreFaute(const FauteSaisie& faute) {
     onglets_->setCurrentIndex(0);
-    if (!faute.texte.empty()) LesDialogues().Message(faute.icone, faute.texte);
+    if (!faute.texte.empty()) LesDialogues().Message(faute.icone, faute.texte, faute.titre);
     QWidget* controle = ControleDe(faute.champ);
     if (controle == nullptr) return;
     controle->setFocus(Qt::OtherFocusReason);

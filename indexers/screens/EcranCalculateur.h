@@ -51,6 +51,7 @@ protected:
         std::vector<QWidget*> sorties; ///< beside the print and save buttons
         bool sauvegarde = true;        ///< there is something to save
         const char* imprimer = "Imprimer";
+        int quitter = 340;        ///< text number of the way back
         bool derouleVide = false; ///< a fault of an empty list drops it open
     };
     void Compose(const Composition& composition);

@@ -12,11 +12,13 @@
 #include "platform/Dialogues.h"
 #include "studies/Graphique.h"
 #include "studies/ListagesCames.h"
+#include "studies/NotesEtude.h"
 #include "widgets/Chaines.h"
 #include "widgets/Etiquettes.h"
 #include "widgets/Grille.h"
 #include "widgets/Legendes.h"
 #include "widgets/Nomme.h"
+#include "widgets/Remarques.h"
 #include "widgets/ZoneDessin.h"
 
 #include <QBoxLayout>
@@ -125,7 +127,9 @@ QWidget* CamesConjugeesOscillation::FaitResultats() {
     auto* disposition = new QVBoxLayout(feuille);
     remarquables_ = Nomme(new Grille, "Resultats");
     controle_ = Nomme(new Grille, "Fermeture");
+    notesRemarquables_ = Nomme(new Remarques, "NotesRemarquables");
     disposition->addWidget(remarquables_, 3);
+    disposition->addWidget(notesRemarquables_);
     disposition->addWidget(controle_, 2);
     disposition->addWidget(FaitNote("NoteFermeture", QTexte(LeType().controle.note)));
     return feuille;
@@ -154,6 +158,7 @@ QWidget* CamesConjugeesOscillation::FaitGraphiques(int titre1, ZoneDessin** zone
 void CamesConjugeesOscillation::Montre() {
     const TypeEtude& type = LeType();
     remarquables_->Remplit(TableRemarquablesCames(type));
+    notesRemarquables_->Montre(NotesEnVigueur(type).Lignes());
     controle_->Remplit(TableControle(type));
     mouvement_->Remplit(TableMouvementCames(type));
     efforts_->Remplit(TableEffortsCames(type));

@@ -8,6 +8,7 @@ class Grille;
 class PanneauRotation;
 class QLabel;
 class QTabWidget;
+class Remarques;
 class ZoneDessin;
 
 class CamesConjugeesOscillation : public SaisieCame {
@@ -39,5 +40,6 @@ private:
     PanneauRotation* cames_;
     QLabel* echelle_;
     Grille *remarquables_, *controle_, *mouvement_, *efforts_;
+    Remarques* notesRemarquables_;
     ZoneDessin *profils_, *bras_, *rayons_, *forces_, *couples_;
 };

@@ -53,8 +53,9 @@ TEST(EcransLus, EveryNumberStandsBesideItsCaptionAndUnit) {
          "Moment d'Inertie en O1 .06 Kgm²; Couples constants en O1 4 Nm; Nombre de zones 4 ; Points par degré 2; Angle "
          "départ -15 degrés; Angle final 15 degrés; Angle Came 120 degrés; Loi MS; Coefficient de Symétrie .5 ; "},
         {"Conjuguees.Cjg", "CamesConjugeesOscillation",
-         "Distance  a 100 mm; Distance  b 60 mm; Angle des bras 74 degrés; Vitesse Came 120 Tr/min; Rayon du bras R1 "
-         "100 mm; Rayon du galet G1 16 mm; Rayon du bras R2 104 mm; Rayon du galet G2 18 mm; Inertie à entrainer en O1 "
+         "Distance  a 100 mm; Distance  b 60 mm; Angle des bras 74 degrés; Vitesse de rotation 120 Tr/min; Rayon du "
+         "bras R1 100 mm; Rayon du galet G1 16 mm; Rayon du bras R2 104 mm; Rayon du galet G2 18 mm; Inertie à "
+         "entrainer en O1 "
          ".35 Kgm²; Nombre de zones 4 ; Points par degré 2; Angle départ (Ø) 62 degrés; Angle final (Ø) 74 degrés; "
          "Angle Came 110 degrés; Loi MS; Coefficient de Symétrie .5 ; Angle de rotation 0 degrés; "}};
     const DialoguesScript dialogues;

@@ -138,8 +138,8 @@ TEST_F(PaireOscillante, LimitsOfTheScreen) {
         double DonneesEtude::*membre;
         const char* champ;
         int texte;
-    } cas[] = {{&DonneesEtude::RayonGaletG2, "InertieO1", 498},
-               {&DonneesEtude::CoteA, "CoteA", 197},
+    } cas[] = {{&DonneesEtude::CoteA, "CoteA", 197},
+               {&DonneesEtude::RayonGaletG2, "InertieO1", 498},
                {&DonneesEtude::CoteB, "CoteA", 657}};
     for (const auto& c : cas) { // each is found before those above it, which stay
         etude.donnees.*c.membre = 0;
@@ -148,4 +148,12 @@ TEST_F(PaireOscillante, LimitsOfTheScreen) {
         EXPECT_STREQ(faute->champ, c.champ);
         EXPECT_EQ(faute->texte, c.texte);
     }
+}
+
+TEST_F(PaireOscillante, TheProductOfRadiiRollersAndInertiaDecides) {
+    etude.donnees.RayonGaletG1 *= -1;
+    EXPECT_TRUE(ChercheFautePaire(etude.donnees));
+    etude.donnees.InertieO1 *= -1;
+    EXPECT_FALSE(ChercheFautePaire(etude.donnees));
+    EXPECT_TRUE(DonneesNegatives(etude.donnees));
 }

@@ -9,6 +9,7 @@ TEST(Notes, ATextStandsOnceAndIsReferredToByNumber) {
     notes.Ajoute("Couple", "un");
     notes.Ajoute("Force", "été déjà dit");
     notes.Ajoute("Couple", "été déjà dit");
+    notes.Ajoute("Couple", "un"); // of another cam
     EXPECT_EQ(notes.Renvoi("Couple"), " (1,2)");
     EXPECT_EQ(notes.Renvoi("Force"), " (2)");
     EXPECT_EQ(notes.Textes("Couple"), "(1) un\n(2) été déjà dit");

@@ -2,6 +2,7 @@
 
 #include "cylindrical/FichiersIndexeurCyl.h"
 #include "cylindrical/TextesIndexeurCyl.h"
+#include "data/TextesSaisie.h"
 #include "indexers/TextesIndexeurs.h"
 #include "outils/Catalogue.h"
 #include "outils/LesLignes.h"
@@ -85,6 +86,10 @@ TEST_F(Drum, SizesFollowThePitchAndWhatTheCentresUse) {
     const auto gauche = Calcule();
     EXPECT_NEAR(Val(gauche.Grille[1].back()), -donnees.DiametreGalet, 1.5e-3);
     EXPECT_EQ(gauche.notes.back(), Texte(TexteEpaisseurGauche));
+    // The product of the roller's numbers is checked, not each.
+    donnees.Sens = 1;
+    donnees.HauteurGalet *= -1, donnees.CapaciteB10 *= -1;
+    EXPECT_EQ(Calcule().notes.back(), Texte(TexteProduitSeul));
 }
 
 TEST_F(Drum, FaultsComeInOrderWithTheirField) {

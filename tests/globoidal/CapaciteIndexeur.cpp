@@ -3,10 +3,12 @@
 #include "globoidal/ExemplesGlobiques.h"
 #include "globoidal/LignesGlobiques.h"
 #include "globoidal/LoisGlobiques.h"
+#include "globoidal/TextesGlobiques.h"
 #include "globoidal/UnitesGlobiques.h"
 #include "outils/Catalogue.h"
 #include "outils/DossierTemporaire.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -18,10 +20,6 @@ protected:
 
 /// Vmax of the modified sine, as published.
 constexpr double VmaxMs = 1.7596033859537705;
-
-double Relatif(double valeur, double attendu) {
-    return std::abs(valeur / attendu - 1);
-}
 
 } // namespace
 
@@ -120,12 +118,10 @@ TEST_F(CapaciteIndexeur, ALoneRollerCarriesThePreloadAndLiftsOff) {
 }
 
 TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
-    std::string contenu;
     const LoiCinqSegments loi{PrepareCinqSegments({0.25, 0, 0.75, 0})};
-    for (int i = 0; i < 722; ++i) {
-        const PointLoi p = i < 300 ? Evalue(loi, i / 300.0, 0.5, JointsIndexeur) : PointLoi{1, 0, 0};
-        contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
-    }
+    const std::string contenu = ContenuLoi([&](int i) {
+        return i < 300 ? Evalue(loi, i / 300.0, 0.5, JointsIndexeur) : PointLoi{1, 0, 0};
+    });
     const DossierTemporaire dossier;
     DonneesIndexeur d = UnIndexeur(8, 8, 99);
     d.NomLoi = "Fichier";
@@ -136,6 +132,19 @@ TEST_F(CapaciteIndexeur, ALawFileOfTheSameLawGivesTheSameSteepness) {
     EXPECT_LT(Relatif(r.Resultats[LimiteArbre][0], 0.9 * 150 / 360 * 8 / VmaxMs * 370 * 8.85), 1e-4);
     d.FichierLoi = dossier.Ecrit("sans-fin.Lmi", contenu.substr(0, contenu.find("1;0;0")));
     EXPECT_THROW(Calcule(d), ErreurExecution);
+}
+
+TEST_F(CapaciteIndexeur, ALawOfRiseAndReturnIsTakenByItsShares) {
+    DonneesIndexeur d = UnIndexeur(8, 8, 142.5);
+    const auto dit = [&] {
+        const auto notes = NotesIndexeur(d, Calcule(d));
+        return std::find(notes.begin(), notes.end(), Texte(TexteMshSansRetour)) != notes.end();
+    };
+    EXPECT_FALSE(dit());
+    const TableCapacites sansRetour = Calcule(d).Resultats;
+    d.NomLoi = "MSH";
+    EXPECT_EQ(Calcule(d).Resultats, sansRetour);
+    EXPECT_TRUE(dit()) << "and said";
 }
 
 TEST_F(CapaciteIndexeur, ValuesBeyondTheirLimitAreRedAndSayWhy) {

@@ -1,6 +1,7 @@
 #include "globoidal/CapaciteOscillateur.h"
 
 #include "globoidal/ExemplesGlobiques.h"
+#include "globoidal/LignesGlobiques.h"
 #include "globoidal/LoisGlobiques.h"
 #include "globoidal/ZonesOscillateur.h"
 #include "outils/Catalogue.h"
@@ -23,31 +24,20 @@ protected:
     std::string EcritLoi(int a, int b, int c) {
         const int fin = a + b + c;
         const LoiCinqSegments loi = PrepareCinqSegments({0.5, 0, 0.5, 0});
-        std::string contenu;
-        for (int i = 0; i < 722; ++i) {
-            const double x = i / 2.0;
-            const auto zone = [&](double u, double angle, int sens) {
-                const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
-                const double r = fin / angle;
-                return PointLoi{sens > 0 ? p.Course : 1 - p.Course, p.Vitesse * r * sens, p.Accel * r * r * sens};
-            };
-            PointLoi p{};
-            if (x <= a)
-                p = zone(x / a, a, 1);
-            else if (x <= a + b)
-                p = {1, 0, 0};
-            else if (x <= fin)
-                p = zone((x - a - b) / c, c, -1);
-            contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
-        }
-        return dossier.Ecrit("loi.Lmi", contenu);
+        const auto zone = [&](double u, double angle, int sens) {
+            const PointLoi p = Evalue(loi, u, 0.5, JointsIndexeur);
+            const double r = fin / angle;
+            return PointLoi{sens > 0 ? p.Course : 1 - p.Course, p.Vitesse * r * sens, p.Accel * r * r * sens};
+        };
+        return dossier.Ecrit("loi.Lmi", ContenuLoi([&](int i) {
+                                 const double x = i / 2.0;
+                                 if (x <= a) return zone(x / a, a, 1);
+                                 if (x <= a + b) return PointLoi{1, 0, 0};
+                                 return x <= fin ? zone((x - a - b) / c, c, -1) : PointLoi{};
+                             }));
     }
     DossierTemporaire dossier;
 };
-
-double Relatif(double valeur, double attendu) {
-    return std::abs(valeur / attendu - 1);
-}
 
 } // namespace
 
@@ -92,6 +82,24 @@ TEST_F(CapaciteOscillateur, ALawOfRiseAndReturnIsRunBackwardsWhereNoDwellFollows
     EXPECT_GT(retour(), -2);
     d.AngleZoneB = 0;
     EXPECT_NEAR(retour(), -5.2, 0.05);
+}
+
+TEST_F(CapaciteOscillateur, JointsAtWhichTheAccelerationJumpsAreNamed) {
+    using Noms = std::vector<std::string>;
+    DonneesOscillateur d = UnOscillateur();
+    const auto sauts = [&](const char* aller, const char* retour, std::array<double, 4> zones) {
+        d.LoiZoneA = aller, d.LoiZoneC = retour;
+        d.AngleZoneA = zones[0], d.AngleZoneB = zones[1], d.AngleZoneC = zones[2], d.AngleZoneD = zones[3];
+        return Calcule(d).Sauts;
+    };
+    EXPECT_EQ(sauts("MS", "MTC50", {120.5, 60, 119.5, 60}), Noms{});
+    EXPECT_EQ(sauts("MSH", "MSHC33", {120, 60, 120, 60}), (Noms{"A-B", "C-D"})) << "two dwells";
+    // One dwell: full deceleration runs into the way back, of the same size only in the same time.
+    EXPECT_EQ(sauts("MSHC20", "MSHC20", {130.25, 0, 130.25, 99.5}), Noms{});
+    EXPECT_EQ(sauts("MSHC20", "MSHC20", {120, 0, 140.5, 99.5}), Noms{"A-C"});
+    EXPECT_EQ(sauts("MSHC20", "MS", {110, 140, 110, 0}), Noms{"C-A"});
+    EXPECT_EQ(sauts("MS", "SHM", {110, 70, 110, 70}), (Noms{"B-C", "C-D"}));
+    EXPECT_NE(NotesOscillateur(d, Calcule(d)).back().find(": B-C, C-D"), std::string::npos);
 }
 
 TEST_F(CapaciteOscillateur, ZonesOfALawFileAreFoundInIt) {

@@ -2,6 +2,7 @@
 #include "globoidal/CapaciteOscillateur.h"
 
 #include "globoidal/ExemplesGlobiques.h"
+#include "indexers/TextesIndexeurs.h"
 #include "outils/Catalogue.h"
 
 namespace {
@@ -38,7 +39,7 @@ TEST_F(ControlesGlobiques, AnIndexerIsCheckedInOrderAndTheFirstFaultStops) {
     d.NomLoi = "MS_Spe", d.CoefA = 0.5, d.CoefB = 0.3, d.CoefC = 0.3;
     EXPECT_EQ(dit(), Faute("CoefA", 551));
     d.CoefB = d.CoefC = 0, d.CoefA = 0.005;
-    EXPECT_EQ(dit(), Faute("CoefA", 551)) << "nearly all at constant speed";
+    EXPECT_EQ(dit(), Faute("CoefA", 551) + "\n" + Texte(TexteDMaximum) + " 0.99.") << "nearly all at constant speed";
     d.CoefA = 0.3, d.CoefB = 0.3, d.CoefC = 0.4;
     EXPECT_EQ(dit(), Faute("AngleIndexage", 623));
     d.AngleIndexage = 360.4;

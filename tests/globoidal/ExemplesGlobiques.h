@@ -1,7 +1,11 @@
 // Plausible globoidal mechanisms for tests.
 #pragma once
 
+#include "core/Nombres.h"
 #include "globoidal/DonneesGlobiques.h"
+
+#include <cmath>
+#include <string>
 
 inline void PoseMecanisme(MecanismeGlobique& d) {
     d.Modele = "MG-160";
@@ -38,4 +42,18 @@ inline DonneesOscillateur UnOscillateur(double galets = 2) {
     d.AngleZoneB = d.AngleZoneD = 60;
     d.LoiZoneA = d.LoiZoneC = "MS";
     return d;
+}
+
+/// The lines of a law file. @param point of half a degree
+template <class PointDe> std::string ContenuLoi(PointDe point) {
+    std::string contenu;
+    for (int i = 0; i < 722; ++i) {
+        const PointLoi p = point(i);
+        contenu += StrTrim(p.Course) + ";" + StrTrim(p.Vitesse) + ";" + StrTrim(p.Accel) + "\r\n";
+    }
+    return contenu;
+}
+
+inline double Relatif(double valeur, double attendu) {
+    return std::abs(valeur / attendu - 1);
 }

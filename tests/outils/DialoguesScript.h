@@ -13,6 +13,7 @@ public:
     struct Boite {
         Icone icone;
         std::string texte;
+        std::string titre = {};
     };
 
     std::vector<Boite> boites;
@@ -24,7 +25,9 @@ public:
     /// Text of the last box; empty before the first.
     std::string Derniere() const { return boites.empty() ? "" : boites.back().texte; }
 
-    void Message(Icone icone, const std::string& texte) override { boites.push_back({icone, texte}); }
+    void Message(Icone icone, const std::string& texte, const std::string& titre) override {
+        boites.push_back({icone, texte, titre});
+    }
     bool Question(const std::string& texte) override { return Suivante(reponses, texte); }
     std::optional<std::string> Saisie(const std::string& titre, const std::string& invite,
                                       const std::string& defaut) override {

@@ -2,6 +2,7 @@
 
 #include "cams/Courbure.h"
 #include "cylindrical/GeometrieCyl.h"
+#include "laws/FichierLoi.h"
 #include "studies/EtudeImprimee.h"
 
 #include <set>
@@ -65,6 +66,15 @@ TEST_F(NotesEtudes, TheArmOfACylinderMovesInDegreesOverAThousand) {
     const Notes notes = Calcule();
     for (const char* valeur : {"LoiVitesseMax", "AccelRayonMax", "ForceGaletMax", "VitesseGaletMax"})
         EXPECT_TRUE(A(notes, valeur, TexteEchelleOsc)) << valeur;
+}
+
+TEST_F(NotesEtudes, ALawFileHasLostItsSigns) {
+    Pose("Angulaire", 2);
+    PoseZones({{25, 40, 360, "MS"}});
+    EXPECT_FALSE(A(Calcule(), "ForceGaletMax", TexteFichierSansSigne));
+    LitFichierLoi(VELORIN_SOURCES "/Profils/Aller-retour.Lmi");
+    etude.donnees.Zones[1].NomLoi = NomLoiFichier;
+    EXPECT_TRUE(A(Calcule(), "ForceGaletMax", TexteFichierSansSigne));
 }
 
 TEST_F(NotesEtudes, AMaximumOfAnEarlierCalculationIsMarkedWithItsOwn) {

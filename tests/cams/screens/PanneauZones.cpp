@@ -51,8 +51,8 @@ protected:
 class Guette : public DialoguesScript {
 public:
     std::function<void()> pendant;
-    void Message(Icone icone, const std::string& texte) override {
-        DialoguesScript::Message(icone, texte);
+    void Message(Icone icone, const std::string& texte, const std::string& titre) override {
+        DialoguesScript::Message(icone, texte, titre);
         pendant();
     }
 };

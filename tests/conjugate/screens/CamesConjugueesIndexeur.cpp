@@ -1,5 +1,6 @@
 #include "conjugate/screens/CamesConjugueesIndexeur.h"
 
+#include "conjugate/TextesConjugue.h"
 #include "outils/BaseAEcrire.h"
 #include "outils/EcranDeCalculateur.h"
 #include "outils/ImprimanteNotee.h"
@@ -51,6 +52,7 @@ TEST_F(ConjugateScreen, ReportOfWhatWasTyped) {
     EXPECT_EQ(lignes[0], "Entre axes                   (Q) =100.25 mm");
     EXPECT_EQ(lignes[8], "Coefficient de vitesse       (Cvu) =1.76");
     EXPECT_TRUE(Imprimable());
+    EXPECT_NE(Notes().find(Texte(TexteNoteStops)), std::string::npos) << "what the captions beside it do not say";
     ImprimanteNotee imprimante;
     ecran->Imprime(imprimante);
     const auto papier = imprimante.pages.front().Textes();
@@ -65,6 +67,8 @@ TEST_F(ConjugateScreen, ReportOfWhatWasTyped) {
     EXPECT_EQ(Lignes()[8], "Coefficient de vitesse       (Cvu) =2");
     CalculeAvec("Text5", "8,5");
     EXPECT_EQ(Lignes()[2], "Nombre de galets             (M) =8") << "half to even";
+    CalculeAvec("Text3", "5");
+    EXPECT_EQ(Notes().find(Texte(TexteNoteStops)), std::string::npos);
 }
 
 TEST_F(ConjugateScreen, StopsTellTheirReasonAndShowWhatWasWritten) {

@@ -1,6 +1,9 @@
 #include "globoidal/screens/GlobiqueIndexeur.h"
 #include "globoidal/screens/GlobiqueOscillateur.h"
 
+#include "globoidal/CataloguesGlobiques.h"
+#include "globoidal/TextesGlobiques.h"
+#include "outils/BaseAEcrire.h"
 #include "outils/EcranDeCalculateur.h"
 
 namespace {
@@ -48,6 +51,46 @@ TEST_F(IndexerScreen, CataloguesFillAndTheExampleIsCalculated) {
     EXPECT_FALSE(Offert());
     Clique("Calculer");
     EXPECT_EQ(Valeur("Label63").substr(Valeur("Label63").size() - 2), "??");
+}
+
+TEST_F(IndexerScreen, ATypedHousingSaysWhichCodeItKeeps) {
+    const auto note = [&] {
+        Clique("Calculer");
+        EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
+        return S(Le<QLabel>("RayonPrimitif")->toolTip());
+    };
+    TapeExemple();
+    EXPECT_EQ(note(), "");
+    Revient();
+    TapeCle("DerouleModeles", "Mien");
+    Tape({{"Text1", "160"}, {"Text2", "90"}});
+    EXPECT_EQ(note(), Texte(TexteCodeBoitier) + " 5");
+    Revient();
+    TapeCle("DerouleGalets", "Rond");
+    Tape({{"Text8", "35"}, {"Text9", "20"}, {"Text10", "11850"}, {"Text11", "17300"}});
+    EXPECT_EQ(note(), Texte(TexteCodeBoitier) + " 5\n" + Texte(TexteCodeGalet) + " 8");
+    Revient();
+    TapeCle("DerouleModeles", "MG-200"); // a name of the catalogue brings its own code, and needs none of the roller
+    EXPECT_EQ(note(), "");
+    EXPECT_EQ(Valeur("RayonPrimitif"), "118");
+}
+
+TEST_F(IndexerScreen, ARollerIsKeptOnceWithAnyNumberButZero) {
+    const BaseAEcrire base;
+    Ouvre();
+    TapeCle("DerouleGalets", "Rond", Qt::Key_Tab);
+    Tape({{"Text8", "-35"}, {"Text9", "20"}, {"Text10", "0"}, {"Text11", "17300"}});
+    Clique("GardeGalets");
+    EXPECT_EQ(DerniereBoite(), Texte(544));
+    EXPECT_TRUE(AFocus("Text10"));
+    Tape({{"Text10", "11850.5"}});
+    Clique("GardeGalets");
+    const auto ligne = ChercheLigne(CatalogueGalets, "Rond");
+    ASSERT_TRUE(ligne);
+    EXPECT_EQ(ligne->at("DiametreGalet"), -35);
+    Clique("GardeGalets");
+    EXPECT_TRUE(DerniereBoite().starts_with(Texte(673) + "\n")) << "it is there now";
+    EXPECT_EQ(dialogues.boites.back().titre, "Suite Impossible");
 }
 
 TEST_F(IndexerScreen, ReturnWalksTheFields) {

@@ -170,6 +170,30 @@ TEST_F(EcransLois, AReturnIsToldToBeScaledAsItsRise) {
     }
 }
 
+TEST_F(EcransLois, ASymmetryIsToldWithTheTrueCoefficients) {
+    for (const char* S : {"0.3", "0.7"}) {
+        Ouvre("LoiMouv", {S, "200", "0", "50", "60"}, "MS");
+        Controle<QComboBox>(*ecran_, "Combo1")->setCurrentText("10");
+        Calcule();
+        const std::string notes = Montre("Notes");
+        const auto suit = [&](int texte) {
+            const auto place = notes.find(Texte(texte));
+            return place == std::string::npos ? 0.0 : Val(notes.substr(place + Texte(texte).size()));
+        };
+        double vitesse = 0, accel = 0;
+        for (const PointLoi& p : etude.lois.LoiUnite) {
+            vitesse = std::max(vitesse, std::abs(p.Vitesse));
+            accel = std::max(accel, std::abs(p.Accel));
+        }
+        EXPECT_NEAR(suit(TexteSymetrieVitesse), vitesse, 1e-3) << S;
+        // The larger acceleration is that of the shorter side: of the rise its coefficient is the one shown.
+        if (std::string(S) == "0.7")
+            EXPECT_NEAR(suit(TexteSymetrieAccel), accel, 1e-3);
+        else
+            EXPECT_EQ(suit(TexteSymetrieAccel), 0);
+    }
+}
+
 TEST(QuelLoi, PicturesAreChosenByKeyAndShowTheirCoefficients) {
     QuelLoi ecran("QuelLoi");
     ecran.show();

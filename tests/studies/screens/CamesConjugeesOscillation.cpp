@@ -1,6 +1,8 @@
 #include "studies/screens/CamesConjugeesOscillation.h"
 
+#include "data/TextesSaisie.h"
 #include "outils/EcranDeSaisie.h"
+#include "studies/NotesEtude.h"
 
 namespace {
 
@@ -65,9 +67,9 @@ TEST_F(EcranPaire, BadNumbersKeepTheScreenAndTheFocusGoesToTheField) {
         int texte;
         const char* focus;
     } fautes[] = {{"", 657, "Text14"},
-                  {"Text15=60", 197, "Text14"},
-                  {"Text14=100 Text2=100 Text3=16 Text4=104 Text5=18", 498, "Text7"},
-                  {"Text7=1 Text2=-100 Text3=-16", 498, "Text2"}};
+                  {"Text15=60", 498, "Text7"},
+                  {"Text2=100 Text3=16 Text4=104 Text5=18 Text7=.35", 197, "Text14"},
+                  {"Text14=100 Text3=-16", 498, "Text7"}};
     for (const auto& faute : fautes) {
         TapeLigne(faute.saisies);
         Clique("Calculer");
@@ -76,4 +78,26 @@ TEST_F(EcranPaire, BadNumbersKeepTheScreenAndTheFocusGoesToTheField) {
     }
     EXPECT_EQ(calculee.count(), 0);
     EXPECT_EQ(Feuilles().currentIndex(), 0);
+}
+
+TEST_F(EcranPaire, WhatMisleadsIsSaidBelowTheValues) {
+    const auto notes = [&] {
+        Clique("Calculer");
+        ecran->Montre();
+        return S(Le<QLabel>("NotesRemarquables")->text());
+    };
+    TapeLaPaire();
+    EXPECT_EQ(notes().find(Texte(TexteCourbureUnPoint)), std::string::npos);
+    Feuilles().setCurrentIndex(0);
+    auto* points = Le<QComboBox>("Combo2")->lineEdit();
+    points->setFocus();
+    points->selectAll();
+    QTest::keyClicks(points, "2");
+    const std::string deux = notes();
+    EXPECT_NE(deux.find(Texte(TexteCourbureUnPoint)), std::string::npos) << deux;
+    EXPECT_EQ(deux.find(Texte(TexteProduitSeul)), std::string::npos);
+    // Two negative numbers make up for each other in the check.
+    Feuilles().setCurrentIndex(0);
+    Tape({{"Text3", "-16"}, {"Text7", "-.35"}});
+    EXPECT_NE(notes().find(Texte(TexteProduitSeul)), std::string::npos);
 }

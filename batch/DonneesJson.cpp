@@ -5,6 +5,7 @@
 #include "data/Textes.h"
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -12,8 +13,8 @@ namespace {
 
 constexpr std::size_t LongueurExtrait = 40;
 
-/// Stops at the first object that has a member twice.
-class SansDoubles {
+/// Stops at the first object that has a member twice, and knows the member that was read last.
+class LectureJson {
 public:
     bool operator()(int, Donnees::parse_event_t evenement, const Donnees& valeur) {
         switch (evenement) {
@@ -24,8 +25,9 @@ public:
             membres_.pop_back();
             break;
         case Donnees::parse_event_t::key:
-            if (!membres_.back().insert(valeur.get<std::string>()).second)
-                throw DonneesIncorrectes(Texte(TexteMembreDouble) + " " + valeur.get<std::string>());
+            dernier_ = valeur.get<std::string>();
+            if (!membres_.back().insert(dernier_).second)
+                throw DonneesIncorrectes(Texte(TexteMembreDouble) + " " + dernier_);
             break;
         default:
             break;
@@ -33,8 +35,11 @@ public:
         return true;
     }
 
+    const std::string& Dernier() const { return dernier_; }
+
 private:
     std::vector<std::set<std::string>> membres_;
+    std::string dernier_;
 };
 
 /// Line and column of a byte, both from 1.
@@ -52,12 +57,14 @@ std::string Lieu(const std::string& contenu, std::size_t octet) {
 Donnees LitDonneesJson(const std::string& fichier) {
     const std::string contenu = LitFichierEntier(fichier, Source::Flux);
     Donnees donnees;
+    LectureJson lecture;
     try {
-        donnees = Donnees::parse(contenu, SansDoubles());
+        donnees = Donnees::parse(contenu, std::ref(lecture));
     } catch (const Donnees::parse_error& erreur) {
         throw DonneesIncorrectes(Texte(TexteJsonIllisible) + " " + Lieu(contenu, erreur.byte));
-    } catch (const Donnees::exception&) { // a number beyond all measure
-        throw DonneesIncorrectes(Texte(TexteObjetAttendu));
+    } catch (const Donnees::out_of_range&) {
+        throw DonneesIncorrectes(lecture.Dernier() + (lecture.Dernier().empty() ? "" : " : ") +
+                                 Texte(TexteNombreDemesure));
     }
     if (!donnees.is_object()) throw DonneesIncorrectes(Texte(TexteObjetAttendu));
     return donnees;
@@ -68,6 +75,10 @@ DonneesIncorrectes MembreIncorrect(const std::string& nom, const std::string& at
     if (extrait.size() > LongueurExtrait) extrait = extrait.substr(0, LongueurExtrait) + "...";
     return DonneesIncorrectes(nom + " : " + Texte(TexteAttendu) + " " + attendu + ", " + Texte(TexteTrouve) + " " +
                               extrait);
+}
+
+std::string TexteOuNombre() {
+    return "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre);
 }
 
 double LitNombre(const Donnees& donnees, const char* nom) {

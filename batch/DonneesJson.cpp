@@ -12,11 +12,21 @@
 namespace {
 
 constexpr std::size_t LongueurExtrait = 40;
+/// No data are nested so deep; the library copies and writes a value by recursion, however deep it is.
+constexpr int ProfondeurMax = 16;
+
+DonneesIncorrectes AutreAttendu(const std::string& nom, const std::string& attendu, const std::string& trouve) {
+    return DonneesIncorrectes(nom + " : " + Texte(TexteAttendu) + " " + attendu + ", " + Texte(TexteTrouve) + " " +
+                              trouve);
+}
 
 /// Stops at the first object that has a member twice, and knows the member that was read last.
 class LectureJson {
 public:
-    bool operator()(int, Donnees::parse_event_t evenement, const Donnees& valeur) {
+    bool operator()(int profondeur, Donnees::parse_event_t evenement, const Donnees& valeur) {
+        if (profondeur > ProfondeurMax)
+            throw dernier_.empty() ? DonneesIncorrectes(Texte(TexteObjetAttendu))
+                                   : AutreAttendu(dernier_, TexteOuNombre(), "[...]");
         switch (evenement) {
         case Donnees::parse_event_t::object_start:
             membres_.emplace_back();
@@ -73,8 +83,7 @@ Donnees LitDonneesJson(const std::string& fichier) {
 DonneesIncorrectes MembreIncorrect(const std::string& nom, const std::string& attendu, const Donnees& trouve) {
     std::string extrait = trouve.dump(-1, ' ', true, Donnees::error_handler_t::replace);
     if (extrait.size() > LongueurExtrait) extrait = extrait.substr(0, LongueurExtrait) + "...";
-    return DonneesIncorrectes(nom + " : " + Texte(TexteAttendu) + " " + attendu + ", " + Texte(TexteTrouve) + " " +
-                              extrait);
+    return AutreAttendu(nom, attendu, extrait);
 }
 
 std::string TexteOuNombre() {

@@ -103,6 +103,8 @@ TEST_F(CommandesIndexeurs, DataThatMakeNoSenseAreToldInTheWorkingLanguage) {
         {R"({"ReferenceGalet":1,"ReferenceGalet":2})", "miembro repetido: ReferenceGalet"},
         {R"({"Inconnu":1})", "miembro desconocido: Inconnu"},
         {R"({"ReferenceGalet":[1]})", R"(ReferenceGalet : se espera: "..." o un número, encontrado: [1])"},
+        {R"({"ReferenceGalet":)" + std::string(200000, '[') + std::string(200000, ']') + "}",
+         R"(ReferenceGalet : se espera: "..." o un número, encontrado: [...])"},
         {R"({"ReferenceGalet":1e999})", "ReferenceGalet : número demasiado grande"},
     };
     for (const auto& calculateur : {Globique, Oscillateur, Conjugue, Tambour})

@@ -39,12 +39,14 @@ constexpr Legende legendes[] = {
     {"TitreGrille", 0, 179},
 };
 
-/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too.
+/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too, and when the list
+/// has closed again.
 class LigneListe : public QLineEdit {
 protected:
     void focusInEvent(QFocusEvent* evenement) override {
         QLineEdit::focusInEvent(evenement);
         vientDeLaSouris_ = evenement->reason() == Qt::MouseFocusReason;
+        if (evenement->reason() == Qt::PopupFocusReason) selectAll();
     }
     void mouseReleaseEvent(QMouseEvent* evenement) override {
         QLineEdit::mouseReleaseEvent(evenement);

@@ -16,5 +16,5 @@ enum TextesBatch {
     TexteOu,
     TexteFichierIllisible,
     TexteSortieDouble,
-    TexteNombreDemesure = 990,
+    TexteNombreDemesure = 1004,
 };

@@ -168,6 +168,9 @@ TEST(Executable, FailedStartsAreToldInTheWorkingLanguageWithTheFile) {
         return LanceReelle("loi CYC --points 1 --base '" + base + "' --langue " + langue + " 2>&1").sortie;
     };
     EXPECT_EQ(erreur(absente, "English"), "velorin-batch: File not found : " + absente + "\n");
+    EXPECT_EQ(LanceReelle("loi CYC --points 1 --base '" + absente + "' 2>&1").sortie,
+              "velorin-batch: Fichier introuvable : " + absente + "\n")
+        << "the language of the configuration";
     EXPECT_NE(erreur(absente, "Deutsch").find("Fichier introuvable / Archivo no encontrado / File not found"),
               std::string::npos);
 }

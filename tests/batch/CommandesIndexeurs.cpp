@@ -92,9 +92,28 @@ TEST_F(CommandesIndexeurs, RefusalsHaveAReasonAndABoxWhereTheScreenHasOne) {
             EXPECT_EQ(o["echec"], Texte(c.boite));
         }
     }
-    const Passe usage = Lance(Globique, {{"Inconnu", 1}});
-    EXPECT_EQ(usage.statut, 2);
-    EXPECT_EQ(usage.LignesErreur(), 1) << usage.erreurs;
+}
+
+TEST_F(CommandesIndexeurs, DataThatMakeNoSenseAreToldInTheWorkingLanguage) {
+    const struct {
+        std::string donnees, attendu;
+    } fausses[] = {
+        {"nope", "no es JSON, línea 1, columna 2"},
+        {"[1]", "se espera un objeto JSON"},
+        {R"({"ReferenceGalet":1,"ReferenceGalet":2})", "miembro repetido: ReferenceGalet"},
+        {R"({"Inconnu":1})", "miembro desconocido: Inconnu"},
+        {R"({"ReferenceGalet":[1]})", R"(ReferenceGalet : se espera: "..." o un número, encontrado: [1])"},
+        {R"({"ReferenceGalet":)" + std::string(200000, '[') + std::string(200000, ']') + "}",
+         R"(ReferenceGalet : se espera: "..." o un número, encontrado: [...])"},
+        {R"({"ReferenceGalet":1e999})", "ReferenceGalet : número demasiado grande"},
+    };
+    for (const auto& calculateur : {Globique, Oscillateur, Conjugue, Tambour})
+        for (const auto& f : fausses) {
+            const std::string fichier = dossier.Ecrit("donnees.json", f.donnees);
+            const Passe passe = LancePasse({calculateur.commande, fichier}, "Español");
+            EXPECT_EQ(passe.statut, 2) << calculateur.commande;
+            EXPECT_EQ(passe.erreurs, "velorin-batch: " + fichier + ": " + f.attendu + "\n") << calculateur.commande;
+        }
 }
 
 TEST_F(CommandesIndexeurs, LawFilesAreSoughtBesideTheData) {

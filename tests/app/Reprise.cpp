@@ -51,8 +51,8 @@ bool Contient(const std::filesystem::path& fichier, const char* valeur) {
 /// A box that stands for as long as the recovery file is written in.
 class BoiteReelle : public DialoguesScript {
 public:
-    void Message(Icone icone, const std::string& texte) override {
-        DialoguesScript::Message(icone, texte);
+    void Message(Icone icone, const std::string& texte, const std::string& titre) override {
+        DialoguesScript::Message(icone, texte, titre);
         QMessageBox boite;
         QTimer::singleShot(boites.size() > 1 ? 0 : 2500, &boite, &QDialog::accept);
         boite.exec();

@@ -44,7 +44,7 @@ std::string ComposeReprise() {
     for (const auto& champ : type->champs) ligne(StrTrim(champ.Nombre(d)));
     ligne(StrTrim(d.PointsParDegre));
     ligne(StrTrim(d.NombreZones));
-    for (std::int16_t z = 1; z <= d.NombreZones; ++z) {
+    for (int z = 1; z <= d.NombreZones; ++z) {
         const Zone& zone = d.Zones[z];
         for (const double nombre : {zone.*type->zones->valeurDepart, zone.*type->zones->valeurFinale, zone.AngleCame})
             ligne(StrTrim(nombre));
@@ -69,7 +69,7 @@ void LitReprise(std::string_view contenu) {
     d.PointsParDegre = Entier16(Val(lignes.Suivante()));
     d.NombreZones = Entier16(Val(lignes.Suivante()));
     d.Zones.Redimensionne(d.NombreZones);
-    for (std::int16_t z = 1; z <= d.NombreZones; ++z) LitZone(lignes, type, d.Zones[z]);
+    for (int z = 1; z <= d.NombreZones; ++z) LitZone(lignes, type, d.Zones[z]);
     Complete(type);
     if (!lignes.Fin()) LitLoi(lignes.Reste());
 }

@@ -7,7 +7,6 @@
 #include "outils/Catalogue.h"
 #include "outils/LesLignes.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {

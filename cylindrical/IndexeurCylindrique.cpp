@@ -185,7 +185,7 @@ private:
     }
     PointDessin Centre(double alpha) const {
         const double R = d_.RayonTourelle;
-        return {R * std::cos(alpha) + arc_ - R * std::cos(h_ * Pi / 180.0), d_.Sens * R * std::sin(alpha)};
+        return {R * std::cos(alpha) + arc_ - R * std::cos(h_ * Pi / 180.0), sens_ * R * std::sin(alpha)};
     }
     void Pose(int j, PointDessin p) const {
         (*ligne_)[static_cast<std::size_t>(j)] = Format(p.x, "000.000") + " , " + Format(p.y, "000.000");
@@ -194,6 +194,7 @@ private:
     const Fiche& d_;
     ResultatIndexeurCylindrique& r_;
     const double h_ = r_.PasGalets / 2.0;
+    const double sens_ = d_.Sens < 0.0 ? -1.0 : 1.0;
     std::vector<std::string>* ligne_ = nullptr;
     double arc_ = 0;
 };

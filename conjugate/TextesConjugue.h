@@ -51,5 +51,5 @@ enum TexteConjugue {
     TexteVitesseLimiteGalets,
     TexteNoteStops = 998,
     TexteNoteBornesPart,
-    TexteNoteDonnees = 1005,
+    TexteNoteDonnees = 1006,
 };

@@ -39,5 +39,5 @@ enum TexteGlobique : int {
     TexteSauts,              ///< followed by the joints of zones
     TexteCodeBoitier,        ///< followed by the code in use of a casing that is typed
     TexteCodeGalet,          ///< the same of a roller
-    TexteValeurNegative = 1004,
+    TexteValeurNegative = 1005,
 };

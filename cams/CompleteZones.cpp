@@ -17,7 +17,7 @@ double RayonGaletCentre(double a, double b, double L, double angle, double decal
     return 0.0;
 }
 
-void CompleteZone(std::int16_t z, bool bras) {
+void CompleteZone(int z, bool bras) {
     Zone& zone = etude.donnees.Zones[z];
     zone.Temps = TempsZone(zone.AngleCame, etude.donnees.VitesseCame);
     etude.resultats.Erreur = Faux;
@@ -34,7 +34,7 @@ void CompleteZone(std::int16_t z, bool bras) {
 
 void CompleteZones(bool bras) {
     bool atteintes = true;
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         CompleteZone(z, bras);
         atteintes = atteintes && SansErreur();
     }

@@ -27,7 +27,7 @@ inline double TempsZone(double angleCame, double vitesseCame) {
 /// centre. The first zone starts at its own angle, a later one at the end of the zone before. `Erreur` is set when an
 /// end of the arm's travel cannot be reached.
 /// @throws ErreurExecution division by zero for a cam at rest or an arm of length 0.
-void CompleteZone(std::int16_t z, bool bras);
+void CompleteZone(int z, bool bras);
 
 /// Completes all zones; `Erreur` is set when one of them cannot be.
 void CompleteZones(bool bras);

@@ -10,8 +10,8 @@ double GraviteProjetee() {
 }
 
 void RemetEfforts() {
-    etude.resultats.ForceGaletMax = 0;
-    etude.resultats.CoupleMax = 0;
+    etude.resultats.ForceGaletMax = etude.resultats.CoupleMax = 0;
+    etude.resultats.ForceGaletMaxAngle = etude.resultats.CoupleMaxAngle = 0;
 }
 
 void SuitEfforts(const Point& p, double repere) {

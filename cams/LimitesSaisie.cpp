@@ -17,7 +17,7 @@ std::optional<FauteZone> ChercheFauteZone(const Zone& zone) {
 
 std::optional<std::string> NomLoiPersonnelle(double pourcentage) {
     if (!(pourcentage >= 1.0 && pourcentage <= 99.0)) return {};
-    return std::string(NomLoiPourcentage) + "_" + Str(pourcentage);
+    return std::string(NomLoiSpe) + "_" + Str(pourcentage);
 }
 
 bool EstPointsParDegre(const std::string& texte) {
@@ -27,12 +27,12 @@ bool EstPointsParDegre(const std::string& texte) {
 
 int FautePoints(std::int16_t pointsParDegre) {
     double points = 0, decalage = 0, dernier = 0;
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         const double n = etude.donnees.Zones[z].AngleCame * pointsParDegre;
         points += Arrondi(n);
         dernier = decalage + Int(n);
         decalage = Arrondi(decalage + n);
     }
     if (points > 32767.0) return 205;
-    return dernier == points ? 0 : 794;
+    return dernier == points && points > 0.0 ? 0 : 794;
 }

@@ -22,9 +22,6 @@ std::optional<FauteZone> ChercheFauteZone(const Zone& zone);
 /// calculation with it would overflow. Its refusal says this number.
 inline constexpr double LimiteNombre = 1e9;
 
-/// Name of the catalogue row that needs a percentage.
-inline constexpr const char* NomLoiPourcentage = "MS_Spe";
-
 /// The name of the custom law of a percentage: the row's name, "_" and the number as `Str` writes it. None outside 1
 /// to 99.
 std::optional<std::string> NomLoiPersonnelle(double pourcentage);
@@ -35,6 +32,6 @@ inline constexpr std::int16_t PointsParDegrePermis[] = {1, 2, 4, 5, 8, 10};
 /// True for exactly the text of one of `PointsParDegrePermis`.
 bool EstPointsParDegre(const std::string& texte);
 
-/// Text number of what is wrong with the points that the zones make: more than a 16-bit subscript reaches, or a last
-/// zone that does not end on a point. 0 when nothing is.
+/// Text number of what is wrong with the points that the zones make: more than a 16-bit subscript reaches, a last zone
+/// that does not end on a point, or no point behind the first. 0 when nothing is.
 int FautePoints(std::int16_t pointsParDegre);

@@ -11,11 +11,6 @@
 #include <cmath>
 #include <vector>
 
-/// True when a law file has filled the unit law already, and left the catalogue with its one row.
-inline bool LoiDeFichier() {
-    return etude.lois.DeFichier;
-}
-
 /// What a zone gives to each of its points.
 struct Parcours {
     double course;  ///< signed travel, degrees or mm
@@ -54,19 +49,19 @@ struct MarcheZones {
 };
 
 /// The unit law of a zone, from 1.
-inline const Tableau<PointLoi>& UniteZone(const MarcheZones& marche, std::int16_t z) {
+inline const Tableau<PointLoi>& UniteZone(const MarcheZones& marche, int z) {
     const auto rang = static_cast<std::size_t>(z);
     if (marche.lois != nullptr && rang <= marche.lois->size()) return (*marche.lois)[rang - 1];
-    if (!marche.loiDeFichier) AppliqueLoi(z);
+    if (!marche.loiDeFichier) AppliqueLoi(static_cast<std::int16_t>(z));
     return marche.lois == nullptr ? etude.lois.LoiUnite : marche.lois->emplace_back(etude.lois.LoiUnite);
 }
 
-/// Clears the extreme values of the radius that every walk starts with.
+/// Clears the extreme values of the radius and their places, which every walk starts with.
 inline void RemetExtremes() {
     etude.resultats.RayonMax = 0;
     etude.resultats.RayonMin = 1e18;
-    etude.resultats.VitesseRayonMax = 0;
-    etude.resultats.AccelRayonMax = 0;
+    etude.resultats.VitesseRayonMax = etude.resultats.AccelRayonMax = 0;
+    etude.resultats.VitesseRayonMaxAngle = etude.resultats.AccelRayonMaxAngle = 0;
 }
 
 inline void SuitExtremes(const Point& p, double repere) {
@@ -92,7 +87,7 @@ template <class Calcule> void DerouleZones(const MarcheZones& marche, Calcule ca
     RemetExtremes();
     std::int16_t decalage = 0;
     long atteint = 0;
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         const Tableau<PointLoi>& unite = UniteZone(marche, z);
         const Zone& zone = etude.donnees.Zones[z];
         if (z == 1) etude.donnees.Zones[0].*marche.valeurFinale = zone.*marche.valeurDepart;

@@ -14,7 +14,7 @@ ZonesEnPoints::~ZonesEnPoints() {
 
 void ZonesEnPoints::Passe() {
     etude.resultats.NombrePoints = 0;
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         Zone& zone = etude.donnees.Zones[z];
         zone.AngleCame = zone.AngleCame * etude.donnees.PointsParDegre;
         etude.resultats.NombrePoints = Entier16(etude.resultats.NombrePoints + Arrondi(zone.AngleCame));

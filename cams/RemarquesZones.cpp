@@ -47,14 +47,14 @@ bool ToursEntiers(const DescriptionZones& zones, double somme) {
 
 double SommeAngles(std::int16_t entrees) {
     double somme = 0;
-    for (std::int16_t z = 1; z <= entrees; ++z) somme += etude.donnees.Zones[z].AngleCame;
+    for (int z = 1; z <= entrees; ++z) somme += etude.donnees.Zones[z].AngleCame;
     return somme;
 }
 
 std::vector<std::string> RemarquesZones(const DescriptionZones& zones, std::int16_t entrees) {
     std::vector<std::string> remarques;
     const auto fin = [&](long z) { return etude.donnees.Zones[z].*zones.valeurFinale; };
-    for (std::int16_t z = 2; z <= entrees; ++z)
+    for (int z = 2; z <= entrees; ++z)
         if (Differe(zones.Depart(z), fin(z - 1)))
             remarques.push_back(Texte(187) + std::to_string(z) + " " + Texte(TexteZoneCommence) +
                                 Valeur(zones.Depart(z), zones.unite) + " " + Texte(TexteZonePrecedenteFinit) +

@@ -4,7 +4,6 @@
 
 #include "conjugate/PistesConjugue.h"
 
-#include <optional>
 #include <vector>
 
 /// Life that the dynamic limits are rated for, hours.

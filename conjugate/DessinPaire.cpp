@@ -7,7 +7,6 @@
 #include "drawing/PlanDessin.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 

@@ -9,7 +9,6 @@
 #include "cams/Passes.h"
 
 #include <array>
-#include <string>
 #include <vector>
 
 /// A whole cam angle from the first to the last of neighbouring points, degrees.

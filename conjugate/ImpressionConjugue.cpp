@@ -1,10 +1,11 @@
 #include "conjugate/ImpressionConjugue.h"
 
 #include "conjugate/GraphesConjugue.h"
+#include "core/Lignes.h"
+#include "reports/Cadrage.h"
 #include "reports/CadrePages.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -13,34 +14,15 @@ constexpr int ColonnesNotes = 78;
 /// Unit of length of the graphs, mm: their letters are then as high as those of the report.
 constexpr double UniteGraphes = 0.25;
 
-/// A text in lines of so many characters at most, broken at its blanks.
-std::vector<std::string> CoupeLignes(const std::string& texte, int colonnes) {
-    std::vector<std::string> lignes(1);
-    const auto ajoute = [&](const std::string& mot) {
-        if (!lignes.back().empty() && NombreCaracteres(lignes.back()) + 1 + NombreCaracteres(mot) > colonnes)
-            lignes.emplace_back();
-        lignes.back() += (lignes.back().empty() ? "" : " ") + mot;
-    };
-    std::string mot;
-    for (const char c : texte) {
-        if (c != ' ' && c != '\n') {
-            mot += c;
-            continue;
-        }
-        ajoute(std::exchange(mot, {}));
-        if (c == '\n') lignes.emplace_back();
-    }
-    ajoute(mot);
-    return lignes;
-}
-
 /// The lines of the report and of the notes.
 std::vector<std::string> LignesPapier(const ResultatConjugue& resultat) {
     std::vector<std::string> lignes = resultat.lignes;
     for (const std::string& note : resultat.notes) {
         lignes.emplace_back();
-        const auto coupees = CoupeLignes(note, ColonnesNotes);
-        lignes.insert(lignes.end(), coupees.begin(), coupees.end());
+        for (Lignes paragraphes(note); !paragraphes.Fin();) {
+            const auto coupees = CoupeEnLignes(std::string(paragraphes.Suivante()), ColonnesNotes);
+            lignes.insert(lignes.end(), coupees.begin(), coupees.end());
+        }
     }
     return lignes;
 }

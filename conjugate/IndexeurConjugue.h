@@ -4,6 +4,8 @@
 #include "conjugate/CapaciteConjugue.h"
 #include "core/Nombres.h"
 
+#include <optional>
+
 struct ResultatConjugue {
     Booleen16 Erreur = Faux;          ///< set unless the calculation came to its end
     std::vector<std::string> lignes;  ///< the report as far as it was written

@@ -5,7 +5,17 @@
 #include "conjugate/TextesConjugue.h"
 #include "data/Textes.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
+
+/// Nothing is checked before: the formulas take numbers that no mechanism has.
+bool SansMecanisme(const DonneesConjugue& d) {
+    const double grandeurs[] = {d.Q,    d.R,   static_cast<double>(d.M), d.N, d.loi.A, d.Ipm, d.D, d.F, d.B10,
+                                d.CLim, d.VMax};
+    return *std::min_element(std::begin(grandeurs), std::end(grandeurs)) < 0 || d.loi.W < 0 || d.loi.W > 1;
+}
 
 void NoteCourbures(const DonneesConjugue& d, const Courbures& courbures, std::vector<std::string>& notes) {
     if (courbures.RayonMaxi < courbures.RayonMini) {
@@ -32,6 +42,7 @@ void NoteReserves(ResultatConjugue& resultat) {
     if (!resultat.arret && !resultat.motif.empty()) Note(notes, resultat.motif);
     if (!resultat.donnees) return;
     const DonneesConjugue& d = *resultat.donnees;
+    if (SansMecanisme(d)) Note(notes, Texte(TexteNoteDonnees));
     Note(notes, Texte(d.loi.Cvu < 2 ? TexteNoteMS : TexteNoteMT));
     Note(notes, Texte(TexteNoteLooping));
     if (d.N > 5) Note(notes, Texte(TexteNoteStops));

@@ -1,21 +1,20 @@
 #include "conjugate/SchemaPaire.h"
 
+#include "core/Etude.h"
 #include "drawing/PlanDessin.h"
 
 #include <cmath>
-#include <numbers>
 #include <vector>
 
 namespace {
 
 /// A cam around the origin that touches the roller of radius `galet` at `P`.
 std::vector<PointDessin> ContourCame(PointDessin P, double galet, double bosse) {
-    constexpr double degres = 180 / std::numbers::pi;
-    const double base = std::hypot(P.x, P.y) - galet, direction = std::atan2(P.y, P.x) * degres;
+    const double base = std::hypot(P.x, P.y) - galet, direction = std::atan2(P.y, P.x) * RadDeg;
     std::vector<PointDessin> points;
     for (int i = 0; i <= 120; ++i) {
         const double angle = i * 3.0;
-        points.push_back(Polaire({0, 0}, base + bosse * (1 - std::cos((angle - direction) / degres)) / 2, angle));
+        points.push_back(Polaire({0, 0}, base + bosse * (1 - std::cos((angle - direction) / RadDeg)) / 2, angle));
     }
     return points;
 }

@@ -51,4 +51,5 @@ enum TexteConjugue {
     TexteVitesseLimiteGalets,
     TexteNoteStops = 998,
     TexteNoteBornesPart,
+    TexteNoteDonnees = 1006,
 };

@@ -9,7 +9,6 @@
 #include "drawing/PlanDessin.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 

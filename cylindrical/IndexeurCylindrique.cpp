@@ -140,7 +140,7 @@ public:
         for (auto& ligne : r_.Grille) ligne.assign(colonnes, {});
         auto& titres = r_.Grille[0];
         titres.front() = Texte(411);
-        for (std::int16_t j = 1; j <= r_.GaletsUtilises; ++j)
+        for (int j = 1; j <= r_.GaletsUtilises; ++j)
             titres[static_cast<std::size_t>(j)] = Texte(289) + " " + std::to_string(j);
         titres.back() = Texte(412) + " (mm)";
     }
@@ -151,7 +151,7 @@ public:
         const double demiLargeur = r_.LargeurCame / 2.0;
         for (long i = 0; static_cast<double>(i) <= r_.AngleIndexage; ++i) {
             Degre(static_cast<double>(i));
-            for (std::int16_t j = 1; j <= r_.GaletsUtilises; ++j) {
+            for (int j = 1; j <= r_.GaletsUtilises; ++j) {
                 const double alpha = (r_.AngleStop * r_.LoiUnitaire[i] + h_ - (j - 1) * r_.PasGalets) * Pi / 180.0;
                 if (alpha < -Pi / 2.0 || alpha > Pi / 2.0) continue;
                 const PointDessin p = Centre(alpha);
@@ -169,7 +169,7 @@ public:
     void Repos() {
         for (double i = r_.AngleIndexage; i <= 360.0; i += 1.0) {
             Degre(i);
-            for (std::int16_t j = 1; j <= r_.GaletsUtilises - 1; ++j) {
+            for (int j = 1; j <= r_.GaletsUtilises - 1; ++j) {
                 const double alpha = (h_ - (j - 1) * r_.PasGalets) * Pi / 180.0;
                 Pose(j, Centre(alpha + r_.AngleStop * Pi / 180.0));
             }
@@ -185,15 +185,16 @@ private:
     }
     PointDessin Centre(double alpha) const {
         const double R = d_.RayonTourelle;
-        return {R * std::cos(alpha) + arc_ - R * std::cos(h_ * Pi / 180.0), d_.Sens * R * std::sin(alpha)};
+        return {R * std::cos(alpha) + arc_ - R * std::cos(h_ * Pi / 180.0), sens_ * R * std::sin(alpha)};
     }
-    void Pose(std::int16_t j, PointDessin p) const {
+    void Pose(int j, PointDessin p) const {
         (*ligne_)[static_cast<std::size_t>(j)] = Format(p.x, "000.000") + " , " + Format(p.y, "000.000");
     }
 
     const Fiche& d_;
     ResultatIndexeurCylindrique& r_;
     const double h_ = r_.PasGalets / 2.0;
+    const double sens_ = d_.Sens < 0.0 ? -1.0 : 1.0;
     std::vector<std::string>* ligne_ = nullptr;
     double arc_ = 0;
 };

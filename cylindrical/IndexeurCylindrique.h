@@ -29,7 +29,7 @@ struct IndexeurCylindrique : SourceLoi {
     double NombreStops = 0;   ///< of the turret in one turn
     double NombreGalets = 0;  ///< on the turret; a 16-bit integer, rounded halves to even
     double AngleIndexage = 0; ///< of the cam; a law file brings its own
-    double Sens = 1;          ///< +1 cam to the right, -1 to the left
+    double Sens = 1;          ///< cam to the right, below 0 to the left
     std::string ReferenceGalet;
     double DiametreGalet = 0, HauteurGalet = 0;
     double CapaciteB10 = 0, CapaciteLimite = 0; ///< of the roller, N

@@ -38,7 +38,7 @@ PointLoi LigneMouvement(const PointLoi& unite, const Parcours& zone) {
 void MouvementCyl() {
     etude.durables.VitesseGaletMax = 0;
     const Galet galet;
-    DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, LoiDeFichier(), true, true},
+    DerouleZones({&Zone::RayonDepart, &Zone::RayonFinal, etude.lois.DeFichier, true, true},
                  [galet](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      const PointLoi m = LigneMouvement(unite, zone);
@@ -54,7 +54,7 @@ void MouvementCylOsc() {
     etude.durables.LoiVitesseMax = 0;
     etude.durables.LoiAccelMax = 0;
     const Galet galet;
-    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), true, true},
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, etude.lois.DeFichier, true, true},
                  [galet](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      PointLoi& m = etude.resultats.Mouvement[lieu.k];

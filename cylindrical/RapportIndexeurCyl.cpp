@@ -5,9 +5,6 @@
 #include "reports/Cadrage.h"
 #include "reports/CadrePages.h"
 
-#include <sstream>
-#include <utility>
-
 namespace {
 
 constexpr int MargeTable = 5, LargeurColonne = 20, MargeTitre = 10; ///< characters
@@ -27,18 +24,6 @@ std::string Rangee(const std::vector<std::string>& cellules) {
     std::string rangee = Espaces(MargeTable);
     for (const std::string& cellule : cellules) rangee += cellule + Espaces(LargeurColonne - NombreCaracteres(cellule));
     return rangee;
-}
-
-/// Prints a text in lines no longer than the table is wide.
-void ImprimeNote(Tirage& tirage, const std::string& note, int largeur) {
-    std::string ligne;
-    std::istringstream mots(note);
-    for (std::string mot; mots >> mot;) {
-        if (!ligne.empty() && NombreCaracteres(ligne + mot) >= largeur)
-            tirage.Ligne(Espaces(MargeTable) + std::exchange(ligne, {}));
-        ligne += (ligne.empty() ? "" : " ") + mot;
-    }
-    tirage.Ligne(Espaces(MargeTable) + ligne);
 }
 
 /// The head of a page of the table: seven lines.
@@ -83,7 +68,9 @@ void ImprimeTablePositions(Imprimante& imprimante, const ResultatIndexeurCylindr
     for (long i = 1; static_cast<double>(i) <= resultat.AngleIndexage + 1.0; ++i)
         tirage.Ligne(Rangee(resultat.Grille[i]));
     tirage.Ligne();
-    for (const std::string& note : resultat.notes) ImprimeNote(tirage, note, format.colonnes - MargeTable);
+    for (const std::string& note : resultat.notes)
+        for (const std::string& ligne : CoupeEnLignes(note, format.colonnes - MargeTable))
+            tirage.Ligne(Espaces(MargeTable) + ligne);
     tirage.FinRapport(false);
 }
 

@@ -187,7 +187,8 @@ Flancs FlancsOfferts(const CalculIndexeur& calcul, const ContactGalet& contact, 
     return flancs;
 }
 
-/// The third turn of a cam of the second kind has no curvature at the root: what it began with stands.
+/// On turn 2 a cam of the second kind, whose walk begins with turn 1, has no curvature at the root: what each position
+/// begins with stands.
 constexpr double CourbureRacineAbsente = 1e-6;
 
 /// Loads the studied roller at one position. @return false once it has left the cam

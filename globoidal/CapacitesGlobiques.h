@@ -4,7 +4,7 @@
 
 #include "globoidal/ContactGlobique.h"
 
-#include <vector>
+#include <array>
 
 enum RangCapacite : std::size_t {
     FigureContact,     ///< largest F/(H rho)

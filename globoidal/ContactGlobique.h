@@ -11,7 +11,6 @@
 
 #include "globoidal/DonneesGlobiques.h"
 
-#include <array>
 #include <cstddef>
 
 /// Shares of inertia in the load: 0, 25, 50, 75, 100 %.

@@ -4,8 +4,10 @@
 
 #include "data/Textes.h"
 #include "globoidal/LoisGlobiques.h"
+#include "globoidal/TextesGlobiques.h"
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -65,6 +67,39 @@ Faute TourOuvert(const DonneesOscillateur& d) {
     return {};
 }
 
+/// Sizes that the checks in their order let through, and that no cam can be made with.
+Faute MecanismeImpossible(const MecanismeGlobique& d) {
+    const struct {
+        const char* champ;
+        double valeur;
+        int texte;
+    } grandeurs[] = {{"Entraxe", d.Entraxe, 547},
+                     {"RayonTourelle", d.RayonTourelle, 548},
+                     {"DiametreGalet", d.DiametreGalet, 542},
+                     {"HauteurGalet", d.HauteurGalet, 543}};
+    for (const auto& g : grandeurs)
+        if (NulOuNegatif(g.valeur)) return Signale(g.champ, g.texte);
+    return {};
+}
+
+Faute IndexeurImpossible(const DonneesIndexeur& d) {
+    if (auto faute = MecanismeImpossible(d)) return faute;
+    if (NulOuNegatif(d.NombreStops)) return Signale("NombreStops", 681);
+    if (NulOuNegatif(d.AngleIndexage)) return Signale("AngleIndexage", 623);
+    return {};
+}
+
+/// A motion takes some angle; a dwell may take none.
+Faute OscillateurImpossible(const DonneesOscillateur& d) {
+    if (auto faute = MecanismeImpossible(d)) return faute;
+    if (LoiParFichier(d)) return {};
+    for (const auto& [champ, angle] : {std::pair{"AngleZoneA", d.AngleZoneA}, {"AngleZoneC", d.AngleZoneC}})
+        if (NulOuNegatif(angle)) return Signale(champ, 196);
+    for (const auto& [champ, angle] : {std::pair{"AngleZoneB", d.AngleZoneB}, {"AngleZoneD", d.AngleZoneD}})
+        if (angle < 0.0) return Signale(champ, TexteValeurNegative);
+    return {};
+}
+
 Faute FlancsTropOuverts(const DonneesOscillateur& d) {
     const AnglesFlancs angles = CalculeAnglesFlancs(d);
     for (const double angle : {angles.flanc1, angles.flanc2, angles.travail})
@@ -98,7 +133,8 @@ Faute ChercheFauteIndexeur(const DonneesIndexeur& d) {
             if (angle < 0.0 || angle > AngleTour) return Signale("AngleIndexage", 623);
             return {};
         },
-        [&] { return SymetrieHorsLimites(d.CoefSymetrie, "CoefSymetrie"); });
+        [&] { return SymetrieHorsLimites(d.CoefSymetrie, "CoefSymetrie"); }, //
+        [&] { return IndexeurImpossible(d); });
 }
 
 Faute ChercheFauteOscillateur(const DonneesOscillateur& d) {
@@ -121,5 +157,6 @@ Faute ChercheFauteOscillateur(const DonneesOscillateur& d) {
                     [&] { return AngleHorsLimites(d.AngleSortie, "AngleSortie", 572); }, //
                     [&] { return TourOuvert(d); }, [&] { return SymetrieHorsLimites(d.SymetrieA, "SymetrieA"); },
                     [&] { return SymetrieHorsLimites(d.SymetrieC, "SymetrieC"); }, //
+                    [&] { return OscillateurImpossible(d); },                      //
                     [&] { return FlancsTropOuverts(d); });
 }

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int UniteDegresMajuscule = 20; ///< as these screens write it
-
 template <class Fiche> void AjouteBoitier(std::vector<Champ<Fiche>>& champs) {
     const Champ<Fiche> boitier[] = {
         {"Modele", "DerouleModeles", 554, 0, &Fiche::Modele},

@@ -8,7 +8,6 @@
 #include "globoidal/TextesGlobiques.h"
 #include "globoidal/UnitesGlobiques.h"
 
-#include <algorithm>
 #include <span>
 
 namespace {
@@ -89,7 +88,7 @@ LigneResultat LigneNervure(const char* controle, int libelle, double mm, double 
 LigneResultat LigneCourbure(const char* controle, int libelle, double mm) {
     const std::string valeur = TexteArrondi(mm, DecimalesMm);
     LigneResultat ligne = Ligne(controle, libelle, valeur, UniteMm);
-    Rougit(ligne, Val(valeur) <= 0.0, TexteCourbureFaible);
+    Rougit(ligne, Val(valeur) <= 0.0, TexteCourbureInsuffisante);
     return ligne;
 }
 
@@ -158,6 +157,13 @@ std::string BaseDuree() {
     return Texte(565) + " " + Texte(600);
 }
 
+/// Whether some share of inertia leaves the depth of the nitrided layer out of its limit.
+bool ProfondeurNonPrise(const ResultatGlobique& r) {
+    for (std::size_t k = 0; k < NombreParts; ++k)
+        if (r.Resultats[LimiteProfondeur][k] < r.Resultats[LimiteNitruree][k]) return true;
+    return false;
+}
+
 } // namespace
 
 bool SansCharge(const ResultatGlobique& resultat, RangCapacite ligne, std::size_t part) {
@@ -220,17 +226,6 @@ std::vector<TableResultats> PourAffichage(std::vector<TableResultats> tables) {
                 if (!cellule.note.empty()) cellule.valeur = Tiret;
     return tables;
 }
-
-namespace {
-
-/// Whether some share of inertia leaves the depth of the nitrided layer out of its limit.
-bool ProfondeurNonPrise(const ResultatGlobique& r) {
-    for (std::size_t k = 0; k < NombreParts; ++k)
-        if (r.Resultats[LimiteProfondeur][k] < r.Resultats[LimiteNitruree][k]) return true;
-    return false;
-}
-
-} // namespace
 
 std::vector<std::string> NotesIndexeur(const DonneesIndexeur& d, const ResultatGlobique& r) {
     std::vector<std::string> notes{BaseDuree()};

@@ -4,10 +4,10 @@
 #include "data/Textes.h"
 #include "globoidal/DessinsGlobiques.h"
 #include "globoidal/TextesGlobiques.h"
+#include "reports/Cadrage.h"
 #include "reports/CadrePages.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace {
 
@@ -98,26 +98,19 @@ void ImprimeGeometrie(Tirage& tirage, const RapportGlobique& rapport) {
     tirage.Ligne();
 }
 
-/// A text in lines no wider than the page, cut between words.
-std::vector<std::string> Paragraphe(const std::string& texte) {
-    const int largeur = FormatPage{}.colonnes;
-    std::vector<std::string> lignes{""};
-    std::istringstream mots(texte);
-    for (std::string mot; mots >> mot;) {
-        std::string& ligne = lignes.back();
-        if (ligne.empty())
-            ligne = mot;
-        else if (NombreCaracteres(ligne) + 1 + NombreCaracteres(mot) <= largeur)
-            ligne += " " + mot;
-        else
-            lignes.push_back(mot);
+/// The notes in lines no wider than the page.
+std::vector<std::string> LignesNotes(const RapportGlobique& rapport) {
+    std::vector<std::string> lignes;
+    for (const std::string& note : rapport.notes) {
+        const auto coupees = CoupeEnLignes(note, FormatPage{}.colonnes);
+        lignes.insert(lignes.end(), coupees.begin(), coupees.end());
     }
     return lignes;
 }
 
 void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
-    int lignes = 3;
-    for (const std::string& note : rapport.notes) lignes += static_cast<int>(Paragraphe(note).size());
+    const std::vector<std::string> notes = LignesNotes(rapport);
+    int lignes = 3 + static_cast<int>(notes.size());
     for (const TableResultats& table : rapport.capacites) lignes += static_cast<int>(table.rangees.size()) + 1;
     tirage.Reserve(lignes);
     std::string titre = CadreAGauche(Texte(586), LargeurRangee);
@@ -133,8 +126,7 @@ void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
             tirage.Ligne(ligne);
         }
     }
-    for (const std::string& note : rapport.notes)
-        for (const std::string& ligne : Paragraphe(note)) tirage.Ligne(ligne);
+    for (const std::string& ligne : notes) tirage.Ligne(ligne);
 }
 
 /// The notes of values that are not what they look like, each once.

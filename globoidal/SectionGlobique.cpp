@@ -10,6 +10,7 @@
 #include "globoidal/CapaciteOscillateur.h"
 #include "globoidal/UnitesGlobiques.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

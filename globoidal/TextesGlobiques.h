@@ -8,7 +8,7 @@ enum TexteGlobique : int {
     TexteSansLigneFin = PremierTexteGlobique,
     TexteSansCharge,
     TexteNervureMince,
-    TexteCourbureFaible,
+    TexteCourbureInsuffisante,
     TextePressionForte,
     TexteBoitierDepasse,
     TexteRayonPrimitifNul,
@@ -39,4 +39,5 @@ enum TexteGlobique : int {
     TexteSauts,              ///< followed by the joints of zones
     TexteCodeBoitier,        ///< followed by the code in use of a casing that is typed
     TexteCodeGalet,          ///< the same of a roller
+    TexteValeurNegative = 1005,
 };

@@ -4,7 +4,6 @@
 #include "core/Lignes.h"
 #include "data/Textes.h"
 #include "indexers/TextesIndexeurs.h"
-#include "laws/CalculLois.h"
 #include "laws/FichierLoi.h"
 
 #include <cmath>

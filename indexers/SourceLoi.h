@@ -2,16 +2,13 @@
 // typed into the panel of coefficients, or a law file.
 #pragma once
 
-#include "core/Etude.h"
 #include "indexers/FauteSaisie.h"
+#include "laws/CalculLois.h"
 
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
-
-/// Name of the law whose shares are typed.
-inline constexpr const char* NomLoiSpe = "MS_Spe";
 
 /// The inputs of a law. A record of inputs derives from it, or fills one for each of its laws.
 struct SourceLoi {

@@ -85,7 +85,8 @@ double TubeCoucheJ(double M, const Cotes& c) {
 }
 double TroncDeConeJ(double M, const Cotes& c) {
     const double r = c.D / 2, s = c.d / 2;
-    return 3.0 / 10 * M * (std::pow(r, 5) - std::pow(s, 5)) / (std::pow(r, 3) - std::pow(s, 3));
+    // (r⁵ - s⁵) / (r³ - s³), both divided by r - s: nothing is lost where the radii nearly meet.
+    return 3.0 / 10 * M * (std::pow(r, 4) + r * s * (r * r + r * s + s * s) + std::pow(s, 4)) / (r * r + r * s + s * s);
 }
 double BlocJ(double M, const Cotes& c) {
     return M * (c.d * c.d + c.D * c.D) / 12;

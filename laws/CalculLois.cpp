@@ -2,6 +2,7 @@
 
 #include "data/Demarrage.h"
 
+#include <algorithm>
 #include <cmath>
 
 double LoiCourse = 0, LoiVitesse = 0, LoiAccel = 0;
@@ -96,8 +97,8 @@ double PourcentageLoiSpe(const std::string& nomLoi) {
 }
 
 std::int16_t ChercheLoi(const std::string& nomLoi) {
-    for (std::int16_t i = 1; i <= etude.lois.NombreLois && i <= etude.lois.ListeLois.BorneHaute(); ++i)
-        if (etude.lois.ListeLois[i].NomLoi == nomLoi) return i;
+    for (int i = 1; i <= etude.lois.NombreLois && i <= etude.lois.ListeLois.BorneHaute(); ++i)
+        if (etude.lois.ListeLois[i].NomLoi == nomLoi) return static_cast<std::int16_t>(i);
     return 0;
 }
 

@@ -23,6 +23,9 @@ void ChargeLois();
 ///         coefficient of 0; incorrect call for a custom name that cannot be cut.
 void AppliqueLoi(std::int16_t numeroZone);
 
+/// Key of the catalogue row that the custom laws come from: a zone's percentage, or the shares typed for a calculator.
+inline constexpr const char* NomLoiSpe = "MS_Spe";
+
 /// True for the name of a custom percentage: "Spe" at the second position or later.
 bool EstLoiSpe(const std::string& nomLoi);
 

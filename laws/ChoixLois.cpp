@@ -25,7 +25,7 @@ constexpr ChoixLoi choix[] = {
     {"QuelLoi", "Image11", "MSC50", "MSC50", "LoiMouv", 98, 228, " 50% ", "8.013", "1.275"},
     {"QuelLoi", "Image12", "MSC66", "MSC66", "LoiMouv", 99, 228, " 66% ", "11.009", "1.168"},
     {"QuelLoi", "Image14", "MSC80", "MSC80", "LoiMouv", 100, 228, " 80% ", "17.192", "1.094"},
-    {"QuelLoi", "Image15", "MSPerso", "MS_Spe", "LoiMouv", 104, 228, " ", "", ""},
+    {"QuelLoi", "Image15", "MSPerso", NomLoiSpe, "LoiMouv", 104, 228, " ", "", ""},
     {"QuelLoiSpe", "Image3", "MSH", "MSH", "LoiMouv", 110, 110, nullptr, "", ""},
     {"QuelLoiSpe", "Image4", "MSHC20", "MSHC20", "LoiMouv", 111, 110, " 20% ", "", ""},
     {"QuelLoiSpe", "Image5", "MSHC33", "MSHC33", "LoiMouv", 112, 110, " 33% ", "", ""},

@@ -1,6 +1,5 @@
 #include "laws/LoisSpeciales.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -6,7 +6,6 @@
 #include "platform/Dialogues.h"
 
 #include <cmath>
-#include <string>
 
 namespace {
 

@@ -110,15 +110,11 @@ private:
     const DurablesEtude anciens_ = etude.durables;
 };
 
-} // namespace
-
-namespace {
-
 void DerouleBras(LoisZones* lois) {
     const MaximaDurables maxima;
     const Bras bras;
     PointsTropPetits tropPetits;
-    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, LoiDeFichier(), false, false, lois},
+    DerouleZones({&Zone::AngleDepart, &Zone::AngleFinal, etude.lois.DeFichier, false, false, lois},
                  [&](const Lieu& lieu, const PointLoi& unite, const Parcours& zone) {
                      Point& p = etude.resultats.Points[lieu.k];
                      CalculePointBras(p, etude.resultats.Mouvement[lieu.k], unite, zone, bras);

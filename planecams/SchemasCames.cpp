@@ -3,7 +3,6 @@
 #include "core/Etude.h"
 #include "drawing/PlanDessin.h"
 
-#include <algorithm>
 #include <cmath>
 #include <vector>
 

@@ -65,7 +65,7 @@ bool LitEtude(std::string_view contenu, const TypeEtude& type) {
     etude.donnees.NombreZones = Entier16(LitNombre(lignes));
     etude.donnees.Zones.Redimensionne(etude.donnees.NombreZones);
     etude.donnees.TypeCame = type.nom;
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         Zone& zone = etude.donnees.Zones[z];
         LitZone(lignes, type, zone);
         if (!LoiConnue(zone.NomLoi)) {
@@ -101,7 +101,7 @@ std::string ComposeFichierEtude(const TypeEtude& type, char separateur) {
     ligne(Texte(387) + DateDuJour());
     for (const auto& champ : type.champs) nombre(Format(champ.Nombre(etude.donnees), champ.masque));
     nombre(Format(etude.donnees.NombreZones, type.masqueNombreZones));
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) {
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) {
         const Zone& zone = etude.donnees.Zones[z];
         ligne(Texte(187) + Format(z, "##"));
         nombre(Format(zone.*type.zones->valeurDepart, type.masqueValeur));

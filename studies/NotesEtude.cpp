@@ -23,6 +23,23 @@ template <auto membre, int unite> std::string EcritPropre() {
     return " " + Format(etude.resultats.MaximaPropres.*membre, "##0.##") + " " + Texte(unite);
 }
 
+// ---- a roller that turns backwards
+
+/// Its fastest speed that way, Tr/min, below 0: the maximum follows the speeds with their signs.
+double VitesseArriere() {
+    double vitesse = 0;
+    for (const Point& p : etude.resultats.Points) vitesse = std::min(vitesse, p.VitesseGalet);
+    return vitesse;
+}
+
+bool GaletEnArriere(const TypeEtude& type) {
+    return !type.developpee && -VitesseArriere() > etude.resultats.MaximaPropres.VitesseGaletMax;
+}
+
+std::string EcritVitesseArriere() {
+    return " " + Format(VitesseArriere(), "##0.##") + " " + Texte(UniteTours);
+}
+
 // ---- slopes
 
 bool ParDegre(const TypeEtude& type) {
@@ -118,6 +135,7 @@ constexpr NoteValeur notes[] = {
      EcritPropre<&DurablesEtude::LoiAccelMax, UniteRadS2>},
     {"VitesseGaletMax", Garde<&DurablesEtude::VitesseGaletMax>, TexteMaximumGarde,
      EcritPropre<&DurablesEtude::VitesseGaletMax, UniteTours>},
+    {"VitesseGaletMax", GaletEnArriere, TexteGaletEnArriere, EcritVitesseArriere},
 };
 
 } // namespace

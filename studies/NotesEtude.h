@@ -16,6 +16,7 @@ enum TextesEtudes {
     TextePenteMontee = 838,
     TexteNotes = 842,
     TexteFichierSansSigne = 1001,
+    TexteGaletEnArriere = 1007,
 };
 
 struct NoteValeur {

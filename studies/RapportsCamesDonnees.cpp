@@ -29,7 +29,7 @@ void AjouteGroupe(std::vector<LigneRapport>& lignes, const TypeEtude& type, cons
     }
 }
 
-void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, std::int16_t z) {
+void AjouteZone(std::vector<LigneRapport>& lignes, const TypeEtude& type, int z) {
     const Zone& zone = etude.donnees.Zones[z];
     const DescriptionZones& zones = *type.zones;
     const auto ligne = [&](int texte, int unite, const std::string& valeur) {
@@ -54,7 +54,7 @@ void ImprimeDonnees() {
     lignes.push_back({LigneValeur(Texte(172), SansUnite, std::to_string(etude.donnees.NombreZones))});
     lignes.push_back({LigneValeur(Texte(174), SansUnite, std::to_string(etude.donnees.PointsParDegre))});
     lignes.push_back({});
-    for (std::int16_t z = 1; z <= etude.donnees.NombreZones; ++z) AjouteZone(lignes, *type, z);
+    for (int z = 1; z <= etude.donnees.NombreZones; ++z) AjouteZone(lignes, *type, z);
     lignes.pop_back(); // the empty line behind the last block
     ImprimeRapportLignes(Texte(TitreDonnees), lignes);
 }

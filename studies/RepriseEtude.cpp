@@ -52,7 +52,7 @@ std::string ComposeReprise() {
     for (const auto& champ : type->champs) ligne(StrTrim(champ.Nombre(d)));
     ligne(StrTrim(d.PointsParDegre));
     ligne(StrTrim(d.NombreZones));
-    for (std::int16_t z = 1; z <= d.NombreZones; ++z) ComposeZone(contenu, *type, d.Zones[z]);
+    for (int z = 1; z <= d.NombreZones; ++z) ComposeZone(contenu, *type, d.Zones[z]);
     // The zone at hand, by its number; none where all that was typed is accepted.
     ligne(StrTrim(d.ZoneSaisie ? d.ZoneSaisie->numero : 0));
     if (d.ZoneSaisie) ComposeZone(contenu, *type, d.ZoneSaisie->zone);
@@ -74,7 +74,7 @@ void LitReprise(std::string_view contenu) {
     d.PointsParDegre = Entier16(Val(lignes.Suivante()));
     d.NombreZones = Entier16(Val(lignes.Suivante()));
     d.Zones.Redimensionne(d.NombreZones);
-    for (std::int16_t z = 1; z <= d.NombreZones; ++z) LitZone(lignes, type, d.Zones[z]);
+    for (int z = 1; z <= d.NombreZones; ++z) LitZone(lignes, type, d.Zones[z]);
     Complete(type);
     if (const std::int16_t numero = Entier16(Val(lignes.Suivante())); numero > 0) {
         d.ZoneSaisie = SaisieZone{numero, {}};

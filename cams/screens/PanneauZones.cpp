@@ -380,7 +380,7 @@ bool PanneauZones::AccepteZone() {
         ReprendSaisie(*champs[static_cast<int>(faute->champ)]);
         return false;
     }
-    if (zone.NomLoi == NomLoiPourcentage && !DemandePourcentage(zone.NomLoi)) return false;
+    if (zone.NomLoi == NomLoiSpe && !DemandePourcentage(zone.NomLoi)) return false;
     if (!acheve_(zone)) return false;
     GardeZone(zone);
     return true;

@@ -5,8 +5,6 @@
 #include "cylindrical/IndexeurCylindrique.h"
 #include "indexers/screens/EcranCalculateur.h"
 
-#include <filesystem>
-
 class Grille;
 class PanneauResultats;
 class QCheckBox;

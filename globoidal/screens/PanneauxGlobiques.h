@@ -6,7 +6,6 @@
 #include <array>
 #include <initializer_list>
 #include <span>
-#include <string>
 #include <vector>
 
 class PanneauLoi;

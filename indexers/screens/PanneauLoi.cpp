@@ -14,6 +14,8 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int TexteEntrezCoefs = 406;

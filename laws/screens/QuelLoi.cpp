@@ -15,8 +15,6 @@
 #include <QGridLayout>
 #include <QPushButton>
 
-#include <string_view>
-
 namespace {
 
 constexpr QSize TailleImage(168, 104);

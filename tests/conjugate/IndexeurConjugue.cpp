@@ -2,7 +2,9 @@
 
 #include "conjugate/ExempleConjugue.h"
 #include "conjugate/InertiePropre.h"
+#include "conjugate/TextesConjugue.h"
 #include "core/Etude.h"
+#include "data/Textes.h"
 #include "outils/Catalogue.h"
 #include "outils/Echec.h"
 
@@ -112,6 +114,25 @@ TEST_F(IndexeurConjugue, OwnInertiaIsKnownForCertainMechanismsOnly) {
                     1e-12);
     EXPECT_NEAR(Eig_mom(8, 42, 8, 100, 75, 120.5), Eig_mom(8, 42, 4, 100, 150, 120.5) / 2, 1e-12)
         << "eight stops: twice the angle";
+}
+
+TEST_F(IndexeurConjugue, NumbersThatNoMechanismHasAreToldBesideTheirResults) {
+    const auto dit = [&] {
+        const auto& notes = Calcule().notes;
+        return std::find(notes.begin(), notes.end(), Texte(TexteNoteDonnees)) != notes.end();
+    };
+    EXPECT_FALSE(dit());
+    for (const auto& [membre, valeur] : {std::pair{&SaisieConjugue::W, 1.25},
+                                         {&SaisieConjugue::W, -0.1},
+                                         {&SaisieConjugue::F, -15.5},
+                                         {&SaisieConjugue::Ipm, -0.5}}) {
+        saisie = ExempleConjugue();
+        saisie.*membre = valeur;
+        EXPECT_TRUE(dit()) << valeur;
+    }
+    saisie = ExempleConjugue();
+    saisie.W = 0;
+    EXPECT_FALSE(dit());
 }
 
 TEST_F(IndexeurConjugue, WhatCannotBeCalculatedNamesItsEntry) {

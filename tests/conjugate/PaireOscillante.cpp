@@ -7,6 +7,7 @@
 #include "outils/DialoguesScript.h"
 #include "planecams/CamesPlates.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

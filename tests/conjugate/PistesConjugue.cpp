@@ -5,6 +5,7 @@
 #include "core/Nombres.h"
 #include "outils/Catalogue.h"
 
+#include <cmath>
 #include <complex>
 
 namespace {

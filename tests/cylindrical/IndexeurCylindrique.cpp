@@ -7,7 +7,6 @@
 #include "outils/Catalogue.h"
 #include "outils/LesLignes.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -86,6 +85,8 @@ TEST_F(Drum, SizesFollowThePitchAndWhatTheCentresUse) {
     const auto gauche = Calcule();
     EXPECT_NEAR(Val(gauche.Grille[1].back()), -donnees.DiametreGalet, 1.5e-3);
     EXPECT_EQ(gauche.notes.back(), Texte(TexteEpaisseurGauche));
+    donnees.Sens = -2.5;
+    EXPECT_EQ(Calcule().MaxY, gauche.MaxY) << "its sign alone counts";
     // The product of the roller's numbers is checked, not each.
     donnees.Sens = 1;
     donnees.HauteurGalet *= -1, donnees.CapaciteB10 *= -1;

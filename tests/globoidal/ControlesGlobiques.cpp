@@ -2,6 +2,7 @@
 #include "globoidal/CapaciteOscillateur.h"
 
 #include "globoidal/ExemplesGlobiques.h"
+#include "globoidal/TextesGlobiques.h"
 #include "indexers/TextesIndexeurs.h"
 #include "outils/Catalogue.h"
 
@@ -45,9 +46,17 @@ TEST_F(ControlesGlobiques, AnIndexerIsCheckedInOrderAndTheFirstFaultStops) {
     d.AngleIndexage = 360.4;
     EXPECT_EQ(dit(), Faute("CoefSymetrie", 512, 513));
     d.CoefSymetrie = 0.9;
-    EXPECT_EQ(dit(), "");
-    d.AngleIndexage = -0.4;
+    EXPECT_EQ(dit(), Faute("DiametreGalet", 542)) << "what the formulas divide by comes last";
+    d.DiametreGalet = 22, d.HauteurGalet = -12;
+    EXPECT_EQ(dit(), Faute("HauteurGalet", 543));
+    d.HauteurGalet = 12;
     EXPECT_EQ(dit(), "") << "the angle is a whole number of degrees for its check";
+    d.AngleIndexage = -0.4;
+    EXPECT_EQ(dit(), Faute("AngleIndexage", 623)) << "but no index goes back";
+    d.AngleIndexage = 0.4, d.NombreStops = -8;
+    EXPECT_EQ(dit(), Faute("NombreStops", 681));
+    d.NombreStops = 8;
+    EXPECT_EQ(dit(), "");
     d.NombreStops = 40000;
     EXPECT_THROW(dit(), ErreurExecution);
 }
@@ -59,6 +68,8 @@ TEST_F(ControlesGlobiques, AnOscillatorIsCheckedInOrderAndTheFirstFaultStops) {
     EXPECT_EQ(dit(), "") << "flanks 68 degrees apart";
     d.AngleEntreGalets = 107;
     EXPECT_EQ(dit(), Faute("AngleEntreGalets", 564));
+    d.HauteurGalet = 0;
+    EXPECT_EQ(dit(), Faute("HauteurGalet", 543));
     d.SymetrieA = 0.05;
     EXPECT_EQ(dit(), Faute("SymetrieA", 512, 513));
     d.AngleZoneD = 61;
@@ -77,4 +88,16 @@ TEST_F(ControlesGlobiques, AnOscillatorIsCheckedInOrderAndTheFirstFaultStops) {
     EXPECT_EQ(dit(), Faute("AngleSortie", 69));
     d.Entraxe = 44;
     EXPECT_EQ(dit(), Faute("Entraxe", 535, 536));
+
+    // Zones that close the turn and cannot be.
+    const auto zones = [&](double a, double b, double c, double repos) {
+        d = UnOscillateur();
+        d.AngleZoneA = a, d.AngleZoneB = b, d.AngleZoneC = c, d.AngleZoneD = repos;
+        return dit();
+    };
+    EXPECT_EQ(zones(180, 60, 0, 120), Faute("AngleZoneC", 196));
+    EXPECT_EQ(zones(-20.5, 140.5, 120, 120), Faute("AngleZoneA", 196));
+    EXPECT_EQ(zones(200, -40, 160, 40), Faute("AngleZoneB", TexteValeurNegative));
+    EXPECT_EQ(zones(200, 0, 160.5, -.5), Faute("AngleZoneD", TexteValeurNegative));
+    EXPECT_EQ(zones(200, 0, 160, 0), "");
 }

@@ -6,6 +6,8 @@
 #include "outils/Catalogue.h"
 #include "outils/ImprimanteNotee.h"
 
+#include <algorithm>
+
 namespace {
 
 class RapportGlobiqueImprime : public AvecCatalogue {

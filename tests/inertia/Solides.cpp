@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 #include <numbers>
 
@@ -229,6 +230,12 @@ TEST_F(Solides, APolygonHasThreeSidesOrMoreAndTheyAreNotRounded) {
     EXPECT_LT(masse("6"), masse("6.5"));
     EXPECT_LT(masse("6.5"), masse("7"));
     EXPECT_NEAR(masse("100000"), 7850 * pi * 0.0016 * 0.03, 1e-8) << "ever more sides make a disc";
+}
+
+TEST_F(Solides, ANearlyStraightConeIsACylinder) {
+    SaisieSolide saisie = Saisie(5, "", "100", "99.9999999", "30");
+    saisie.Text3 = "7";
+    EXPECT_NEAR(CalculeSolide(saisie)[1], 7 * Carre(0.09999999995) / 8, 1e-16);
 }
 
 TEST_F(Solides, LabelsCutSmallSolidsToNothing) {

@@ -6,6 +6,7 @@
 #include "outils/Echec.h"
 #include "outils/VerifieLoi.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "outils/Catalogue.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 

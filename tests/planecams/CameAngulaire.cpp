@@ -105,6 +105,20 @@ TEST_F(CameAngulaire, ARestingArmCarriesItsWeightAndTheOuterForces) {
     EXPECT_NEAR(p.Couple, 0.1 * (25 * std::sin(a) - 40 * std::cos(a)), 1e-9);
 }
 
+TEST_F(CameAngulaire, APeakOfZeroKeepsNoPlaceOfTheCalculationBefore) {
+    using R = ResultatsEtude;
+    constexpr std::int16_t R::*places[] = {&R::VitesseRayonMaxAngle, &R::AccelRayonMaxAngle, &R::ForceGaletMaxAngle,
+                                           &R::CoupleMaxAngle};
+    CalculeCameAngulaire();
+    for (const auto place : places) ASSERT_NE(etude.resultats.*place, 0);
+    etude.donnees.MasseBrasO1A = etude.donnees.MasseBrasO1P = etude.donnees.MasseA = etude.donnees.ForceY = 0;
+    PoseZones({{25, 25, 360, "MS"}});
+    CalculeCameAngulaire();
+    EXPECT_EQ(etude.resultats.AccelRayonMax, 0);
+    EXPECT_EQ(etude.resultats.CoupleMax, 0);
+    for (const auto place : places) EXPECT_EQ(etude.resultats.*place, 0);
+}
+
 TEST_F(CameAngulaire, ChecksTellWhatIsWrong) {
     etude.donnees.RayonGalet = 60;
     CalculeCameAngulaire();

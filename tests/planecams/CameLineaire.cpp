@@ -1,3 +1,5 @@
+#include "cams/LimitesSaisie.h"
+#include "cams/RemarquesZones.h"
 #include "planecams/CamesPlates.h"
 
 #include "outils/Catalogue.h"
@@ -57,6 +59,19 @@ TEST_F(CameLineaire, ForcesAndTorqueBalanceTheSlope) {
     // The follower rests: no torque, weight and outer force alone.
     EXPECT_NEAR(etude.resultats.Points[600].ForceGalet, 2 * 9.81 + 50, 1e-9);
     EXPECT_NEAR(etude.resultats.Points[600].Couple, 0, 1e-12);
+}
+
+TEST_F(CameLineaire, AsManyZonesAndPointsAsANumberOfThemReaches) {
+    etude.donnees.PointsParDegre = 1;
+    std::vector<ZoneVoulue> zones(32767, {50, 50, 1, "MS"});
+    zones.back().final = 51;
+    PoseZones(zones);
+    EXPECT_EQ(FautePoints(1), 0);
+    CalculeCameLineaire();
+    EXPECT_EQ(etude.resultats.NombrePoints, 32767);
+    EXPECT_EQ(etude.resultats.Points[32766].Rayon, 50);
+    EXPECT_NEAR(etude.resultats.Points[32767].Rayon, 51, 1e-12);
+    EXPECT_EQ(SommeAngles(32767), 32767);
 }
 
 TEST_F(CameLineaire, ZonesContinueAndFailuresPutTheZonesBack) {

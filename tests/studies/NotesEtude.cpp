@@ -95,6 +95,22 @@ TEST_F(NotesEtudes, AMaximumOfAnEarlierCalculationIsMarkedWithItsOwn) {
     EXPECT_FALSE(A(calcule(90), "VitesseGaletMax", TexteMaximumGarde)) << "reached again";
 }
 
+TEST_F(NotesEtudes, ARollerThatTurnsBackwardsIsToldWithItsSpeed) {
+    Pose("Angulaire", 1);
+    PoseZones({{25, 40, 180, "MS"}, {40, 25, 180, "CYC"}});
+    EXPECT_FALSE(A(Calcule(), "VitesseGaletMax", TexteGaletEnArriere));
+    etude.donnees.VitesseCame *= -1;
+    PoseZones({{25, 40, 180, "MS"}, {40, 25, 180, "CYC"}});
+    const Notes notes = Calcule();
+    double arriere = 0;
+    for (const Point& p : etude.resultats.Points) arriere = std::min(arriere, p.VitesseGalet);
+    ASSERT_LT(arriere, -1);
+    EXPECT_TRUE(A(notes, "VitesseGaletMax", TexteGaletEnArriere));
+    EXPECT_NE(notes.Textes("VitesseGaletMax").find(" " + std::to_string(static_cast<int>(arriere)) + ". "),
+              std::string::npos)
+        << notes.Textes("VitesseGaletMax");
+}
+
 TEST_F(NotesEtudes, ASteeperRiseIsToldBesideTheSlopeOfTheFall) {
     Pose("Lineaire", 1);
     PoseZones({{50, 80, 60, "MS"}, {80, 50, 300, "MS"}});

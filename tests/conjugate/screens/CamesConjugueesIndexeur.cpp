@@ -6,6 +6,8 @@
 #include "outils/ImprimanteNotee.h"
 #include "widgets/Grille.h"
 
+#include <algorithm>
+
 namespace {
 
 class ConjugateScreen : public EcranDeCalculateur<CamesConjugueesIndexeur> {

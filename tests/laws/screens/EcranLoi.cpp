@@ -18,6 +18,9 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {

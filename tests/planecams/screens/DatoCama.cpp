@@ -116,6 +116,10 @@ TEST_F(SaisieBras, PointsPerDegree) {
     TapeZone("10", "89.7", "MS");
     Calcule("1");
     EXPECT_TRUE(AFocus("Combo2")) << "a zone must end on a point";
+    TapeZone("10", "0.3", "MS");
+    Calcule("1");
+    EXPECT_EQ(DerniereBoite(), Texte(794)) << "and have one behind its first";
+    TapeZone("10", "89.7", "MS");
     EXPECT_EQ(calculee.count(), 0);
     Calcule("10");
     EXPECT_EQ(calculee.count(), 1);

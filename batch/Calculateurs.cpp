@@ -1,7 +1,7 @@
 #include "batch/Calculateurs.h"
 
 #include "batch/Passage.h"
-#include "core/FichierEntier.h"
+#include "batch/TextesBatch.h"
 #include "data/Textes.h"
 
 #include <algorithm>
@@ -11,21 +11,21 @@ namespace {
 /// Text number of what is said where a fault has no text of its own.
 constexpr int TexteFichierIntrouvable = 716;
 
-Json LitObjet(const Calculateur& calculateur, const std::string& fichier) {
-    Json donnees = Json::parse(LitFichierEntier(fichier));
-    if (!donnees.is_object()) throw UsageIncorrect("not a JSON object");
+Donnees LitMembres(const Calculateur& calculateur, const std::string& fichier) {
+    Donnees donnees = LitDonneesJson(fichier);
     const auto& membres = calculateur.membres;
-    for (const auto& [nom, valeur] : donnees.items())
+    for (const auto& [nom, valeur] : donnees.items()) {
         if (std::find(membres.begin(), membres.end(), nom) == membres.end())
-            throw UsageIncorrect("unknown member " + nom);
-        else if (!valeur.is_null() && !valeur.is_number() && !valeur.is_string())
-            throw UsageIncorrect(nom + " is neither a number nor a text");
+            throw DonneesIncorrectes(Texte(TexteMembreInconnu) + " " + nom);
+        if (!valeur.is_null() && !valeur.is_number() && !valeur.is_string())
+            throw MembreIncorrect(nom, "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre), valeur);
+    }
     return donnees;
 }
 
 } // namespace
 
-void LitDonneesCalculateur(const Json& donnees, const std::vector<ChampLie>& champs) {
+void LitDonneesCalculateur(const Donnees& donnees, const std::vector<ChampLie>& champs) {
     for (const ChampLie& champ : champs) {
         const auto valeur = donnees.find(champ.nom);
         const bool absent = valeur == donnees.end() || valeur->is_null();
@@ -70,7 +70,7 @@ int DerouleCalculateur(const Calculateur& calculateur, const LigneCommande& lign
                        std::ostream& erreurs) {
     if (ligne.arguments.empty()) throw UsageIncorrect(std::string(calculateur.commande) + ": which data file?");
     return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
-        const Json donnees = LitObjet(calculateur, fichier);
+        const Donnees donnees = LitMembres(calculateur, fichier);
         IssueCalculateur issue;
         Calcul calcul;
         calcul.execute = [&](const DialoguesCollecte&) {

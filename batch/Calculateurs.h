@@ -2,6 +2,7 @@
 // data file, refusals told as the screens tell them.
 #pragma once
 
+#include "batch/DonneesJson.h"
 #include "batch/JsonEtude.h"
 #include "batch/LigneCommande.h"
 #include "core/Champ.h"
@@ -9,14 +10,13 @@
 
 #include <filesystem>
 #include <iosfwd>
-#include <optional>
 #include <string>
 #include <vector>
 
 /// The inputs out of data: a number, or the text that would be typed. What is missing or null is an empty field.
 /// @param champs the members, bound to the record that they are read into
 /// @throws ErreurExecution overflow for a number beyond a double; type mismatch for a member that is neither.
-void LitDonneesCalculateur(const Json& donnees, const std::vector<ChampLie>& champs);
+void LitDonneesCalculateur(const Donnees& donnees, const std::vector<ChampLie>& champs);
 
 /// The path of a law file: as given, or beside the data file where there is none as given.
 std::string TrouveFichierLoi(const std::string& donne, const std::filesystem::path& donnees);
@@ -37,7 +37,7 @@ struct Calculateur {
     const char* commande;
     std::vector<std::string> membres; ///< names of the data
     /// Reads and calculates; a run-time failure leaves what `resultats` holds by then.
-    void (*calcule)(const Json& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue);
+    void (*calcule)(const Donnees& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue);
 };
 
 /// One JSON object on `sortie` for each data file, each as if the program had just been started.

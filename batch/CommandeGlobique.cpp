@@ -86,7 +86,7 @@ template <class Fiche> std::vector<std::string> NomsChamps(std::span<const Champ
 constexpr const char* membresAvecDefaut[] = {"CoefSymetrie", "SymetrieA", "SymetrieC", "CodeLoiA", "CodeLoiC"};
 
 template <class Fiche>
-Fiche LitFiche(const Json& donnees, const std::filesystem::path& fichier, std::span<const Champ<Fiche>> champs) {
+Fiche LitFiche(const Donnees& donnees, const std::filesystem::path& fichier, std::span<const Champ<Fiche>> champs) {
     Fiche fiche;
     std::vector<ChampLie> lies = LieChamps(champs, fiche);
     std::erase_if(lies, [&](const ChampLie& champ) {
@@ -102,7 +102,7 @@ Fiche LitFiche(const Json& donnees, const std::filesystem::path& fichier, std::s
 
 /// Looks for a fault, and calculates where there is none. The flag tells of faults alone: a run-time failure leaves it.
 template <class Fiche>
-void Calcule(const Json& donnees, const std::filesystem::path& fichier, std::span<const Champ<Fiche>> champs,
+void Calcule(const Donnees& donnees, const std::filesystem::path& fichier, std::span<const Champ<Fiche>> champs,
              std::optional<FauteSaisie> (*chercheFaute)(const Fiche&),
              ResultatGlobique (*calcule)(const Fiche&, const Tableau<Loi>&),
              Json (*json)(const Fiche&, const ResultatGlobique&), IssueCalculateur& issue) {
@@ -117,11 +117,11 @@ void Calcule(const Json& donnees, const std::filesystem::path& fichier, std::spa
     issue.resultats = json(fiche, calcule(fiche, etude.lois.ListeLois));
 }
 
-void CalculeIndexeur(const Json& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
+void CalculeIndexeur(const Donnees& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
     Calcule(donnees, fichier, ChampsIndexeur(), ChercheFauteIndexeur, CalculeCapaciteIndexador, JsonIndexeur, issue);
 }
 
-void CalculeOscillateur(const Json& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
+void CalculeOscillateur(const Donnees& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
     Calcule(donnees, fichier, ChampsOscillateur(), ChercheFauteOscillateur, CalculeCapaciteOscillateur, JsonOscillateur,
             issue);
 }

@@ -62,7 +62,7 @@ Json JsonConjugue(const ResultatConjugue& r) {
     return objet;
 }
 
-void Calcule(const Json& donnees, const std::filesystem::path&, IssueCalculateur& issue) {
+void Calcule(const Donnees& donnees, const std::filesystem::path&, IssueCalculateur& issue) {
     SaisieConjugue saisie;
     ResultatConjugue resultat;
     issue.resultats = JsonConjugue(resultat);

@@ -24,7 +24,7 @@ Json JsonResultat(const ResultatIndexeurCylindrique& r) {
     return objet;
 }
 
-void Calcule(const Json& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
+void Calcule(const Donnees& donnees, const std::filesystem::path& fichier, IssueCalculateur& issue) {
     issue.resultats = SansValeurs(JsonResultat({}));
     IndexeurCylindrique saisie;
     LitDonneesCalculateur(donnees, LieChamps(ChampsIndexeurCylindrique(), saisie));

@@ -92,9 +92,25 @@ TEST_F(CommandesIndexeurs, RefusalsHaveAReasonAndABoxWhereTheScreenHasOne) {
             EXPECT_EQ(o["echec"], Texte(c.boite));
         }
     }
-    const Passe usage = Lance(Globique, {{"Inconnu", 1}});
-    EXPECT_EQ(usage.statut, 2);
-    EXPECT_EQ(usage.LignesErreur(), 1) << usage.erreurs;
+}
+
+TEST_F(CommandesIndexeurs, DataThatMakeNoSenseAreOneLineInTheWorkingLanguage) {
+    const struct {
+        const char *donnees, *attendu;
+    } fausses[] = {
+        {"{\"Entraxe\": 1,,}", "ce n'est pas du JSON, ligne 1, colonne 15"},
+        {"[]", "un objet JSON est attendu"},
+        {"{\"Inconnu\": 1}", "membre inconnu : Inconnu"},
+        {"{\"Entraxe\": 1, \"Entraxe\": 2}", "membre en double : Entraxe"},
+        {"{\"Entraxe\": [1]}", "Entraxe : attendu : \"...\" ou un nombre, trouvé : [1]"},
+    };
+    for (const auto& f : fausses) {
+        const Passe passe = LancePasse({Globique.commande, dossier.Ecrit("donnees.json", f.donnees)});
+        EXPECT_EQ(passe.statut, 2) << f.donnees;
+        EXPECT_EQ(passe.sortie, "");
+        EXPECT_EQ(passe.LignesErreur(), 1) << passe.erreurs;
+        EXPECT_TRUE(passe.erreurs.ends_with(std::string(": ") + f.attendu + "\n")) << passe.erreurs;
+    }
 }
 
 TEST_F(CommandesIndexeurs, LawFilesAreSoughtBesideTheData) {

@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QMdiSubWindow>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -50,11 +51,13 @@ FenetreEnfant* BureauEcrans::Ouvre(std::string_view nom) {
 
 /// In the middle of the desk; the main window grows where the display has room.
 void BureauEcrans::Place(QMdiSubWindow& cadre) {
-    const QSize besoin = cadre.sizeHint();
+    QSize besoin = cadre.sizeHint();
     const QSize manque = (besoin - viewport()->size()).expandedTo({0, 0});
     QWidget* principale = window();
     if (!principale->isMaximized() && !manque.isNull()) TientSurEcran(*principale, principale->size() + manque);
     const QSize place = viewport()->size();
+    // A sheet that is scrolled up and down keeps its width beside the bar.
+    if (besoin.height() > place.height()) besoin.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     cadre.resize(besoin.boundedTo(place));
     cadre.move((place.width() - cadre.width()) / 2, (place.height() - cadre.height()) / 2);
 }

@@ -71,7 +71,10 @@ MdiCamA::MdiCamA(const Configuration& configuration)
     const std::vector<QAction*> marques = EntreesMarques();
     for (std::size_t i = 0; i < marques.size(); ++i) marques[i]->setChecked(configuration.imprime.at(i));
     bureau_->PlaceAccueil(accueil_);
-    connect(&garde_, &QTimer::timeout, this, &MdiCamA::GardeTravaux);
+    connect(&garde_, &QTimer::timeout, this, [this] {
+        // The box of a calculation stands over zones that are in points.
+        if (QApplication::activeModalWidget() == nullptr) GardeTravaux();
+    });
     attenteRemis_.setSingleShot(true);
     connect(&attenteRemis_, &QTimer::timeout, this, &MdiCamA::OuvreRemis);
     Annonce(Texte(travaux_.Offerts() ? int{TexteRepriseOfferte} : int{TextePret}));

@@ -14,6 +14,8 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -24,17 +26,24 @@
 namespace {
 
 constexpr QSize TailleImage(172, 116);
+constexpr int MargeTitre = 4; // pixels
 constexpr int Colonnes = 4;
 constexpr int EcartColonnes = 32; // pixels
 constexpr int TexteNouvelleEtude = 80;
 
-QLabel* FaitTitre() {
-    auto* titre = new QLabel;
-    QFont gras = titre->font();
-    gras.setBold(true);
-    titre->setFont(gras);
-    return titre;
-}
+/// A heading, set off by a line below it. (A bold face would be one more font for every start to load.)
+class Titre : public QLabel {
+public:
+    Titre() { setContentsMargins(0, 0, 0, MargeTitre); }
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override {
+        QLabel::paintEvent(evenement);
+        QPainter peintre(this);
+        peintre.setPen(palette().color(QPalette::Mid));
+        peintre.drawLine(rect().bottomLeft(), rect().bottomRight());
+    }
+};
 
 /// A line that is a button, its text on the left. (A style sheet would do the same at three times the cost.)
 class Lien : public QPushButton {
@@ -78,7 +87,7 @@ void PageAccueil::ConstruitEtudes() {
     auto* etudes = new QWidget;
     auto* grille = new QGridLayout(etudes);
     grille->setContentsMargins({});
-    grille->addWidget(titre_ = FaitTitre(), 0, 0, 1, Colonnes);
+    grille->addWidget(titre_ = new Titre, 0, 0, 1, Colonnes);
     int place = 0;
     std::vector<std::function<void()>> dessins;
     for (const ChoixEtude& choix : LesChoixEtude()) {
@@ -147,7 +156,7 @@ void PageAccueil::AjouteFichiers(QVBoxLayout& colonne, const char* nom, int titr
                                  const std::vector<std::filesystem::path>& fichiers) {
     if (fichiers.empty()) return;
     if (colonne.count() > 0) colonne.addSpacing(fontMetrics().height());
-    auto* ligne = FaitTitre();
+    auto* ligne = new Titre;
     ligne->setText(QTexte(titre).remove('&'));
     colonne.addWidget(ligne);
     for (const std::filesystem::path& chemin : fichiers) {

@@ -33,6 +33,13 @@ bool AffichagePresent() {
 #endif
 }
 
+/// What the toolkit says while it starts. It gives up only where the display that is named cannot be reached.
+void RecoitMessageDepart(QtMsgType genre, const QMessageLogContext&, const QString&) {
+    if (genre != QtFatalMsg) return;
+    std::fputs(SansAffichage, stderr);
+    std::_Exit(1);
+}
+
 void AnnonceEchec(const std::exception& faute) {
     const auto* erreur = dynamic_cast<const ErreurExecution*>(&faute);
     const std::string sens = erreur == nullptr ? faute.what() : TexteEchecDemarrage(*erreur);
@@ -52,7 +59,9 @@ int main(int argc, char** argv) {
     }
     LitPolices();
     std::future<Configuration> demarrage = CommenceDemarrage(DossierExecutable());
+    qInstallMessageHandler(RecoitMessageDepart);
     Application application(argc, argv);
+    qInstallMessageHandler(nullptr);
     DialoguesQt dialogues;
     const InstalleDialogues installe(dialogues);
     const std::filesystem::path fichier = Chemin(Application::arguments().value(1));

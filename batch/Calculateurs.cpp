@@ -11,15 +11,14 @@ namespace {
 /// Text number of what is said where a fault has no text of its own.
 constexpr int TexteFichierIntrouvable = 716;
 
-Donnees LitMembres(const Calculateur& calculateur, const std::string& fichier) {
+Donnees LitObjet(const Calculateur& calculateur, const std::string& fichier) {
     Donnees donnees = LitDonneesJson(fichier);
     const auto& membres = calculateur.membres;
-    for (const auto& [nom, valeur] : donnees.items()) {
+    for (const auto& [nom, valeur] : donnees.items())
         if (std::find(membres.begin(), membres.end(), nom) == membres.end())
             throw DonneesIncorrectes(Texte(TexteMembreInconnu) + " " + nom);
-        if (!valeur.is_null() && !valeur.is_number() && !valeur.is_string())
-            throw MembreIncorrect(nom, "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre), valeur);
-    }
+        else if (!valeur.is_null() && !valeur.is_number() && !valeur.is_string())
+            throw MembreIncorrect(nom, TexteOuNombre(), valeur);
     return donnees;
 }
 
@@ -70,7 +69,7 @@ int DerouleCalculateur(const Calculateur& calculateur, const LigneCommande& lign
                        std::ostream& erreurs) {
     if (ligne.arguments.empty()) throw UsageIncorrect(std::string(calculateur.commande) + ": which data file?");
     return ParcourtFichiers(ligne.arguments, erreurs, [&](const std::string& fichier) {
-        const Donnees donnees = LitMembres(calculateur, fichier);
+        const Donnees donnees = LitObjet(calculateur, fichier);
         IssueCalculateur issue;
         Calcul calcul;
         calcul.execute = [&](const DialoguesCollecte&) {

@@ -23,7 +23,7 @@ constexpr std::pair<const char*, std::string S::*> textes[] = {
 std::string LitTexte(const std::string& nom, const Donnees& valeur) {
     if (valeur.is_string()) return valeur.get<std::string>();
     if (valeur.is_number()) return StrTrim(valeur.get<double>());
-    throw MembreIncorrect(nom, "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre), valeur);
+    throw MembreIncorrect(nom, TexteOuNombre(), valeur);
 }
 
 const GenreSolide& LitGenre(const std::string& nom, const Donnees& donnees) {

@@ -59,12 +59,14 @@ void EcritAide(std::ostream& sortie) {
               "  cannot be opened. Of several files all are calculated, and the worst status is returned.\n";
 }
 
-/// Opens the catalogue beside other readers, and loads the texts.
+/// Opens the catalogue beside other readers, and loads the texts. The working language is known first: a failure is
+/// told in it.
 void OuvreCatalogue(const LigneCommande& ligne) {
+    LangueTravail = ligne.langue;
     PrendDossiers(DossierExecutable(), LesDossiersPoste());
+    if (LangueTravail.empty()) LangueTravail = LitConfiguration(ConfigurationALire()).langue;
     LaBase = BaseDonnees::Ouvre(ligne.base.empty() ? BaseALire() : std::filesystem::path(ligne.base), MotDePasseBase,
                                 BaseDonnees::Usage::Lecture);
-    LangueTravail = ligne.langue.empty() ? LitConfiguration(ConfigurationALire()).langue : ligne.langue;
     ChargeTextes(LaBase);
     const auto& langues = LanguesCompletes();
     if (!ligne.langue.empty() && std::find(langues.begin(), langues.end(), ligne.langue) == langues.end())
@@ -72,8 +74,8 @@ void OuvreCatalogue(const LigneCommande& ligne) {
 }
 
 /// One line, though the texts may not be there yet.
-std::string EchecDemarrage(const ErreurExecution& erreur, const std::string& langue) {
-    std::string texte = TexteEchecDemarrage(erreur, langue);
+std::string EchecDemarrage(const ErreurExecution& erreur) {
+    std::string texte = TexteEchecDemarrage(erreur, LangueTravail);
     for (auto fin = texte.find('\n'); fin != std::string::npos; fin = texte.find('\n')) texte.replace(fin, 1, " / ");
     return texte;
 }
@@ -103,7 +105,7 @@ int LanceCommande(const std::vector<std::string>& mots, std::ostream& sortie, st
         try {
             OuvreCatalogue(ligne);
         } catch (const ErreurExecution& erreur) {
-            return refuse(EchecDemarrage(erreur, ligne.langue));
+            return refuse(EchecDemarrage(erreur));
         }
         return commande.execute(ligne, sortie, erreurs);
     } catch (const ErreurExecution& erreur) {

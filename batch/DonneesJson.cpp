@@ -5,17 +5,28 @@
 #include "data/Textes.h"
 
 #include <algorithm>
+#include <functional>
 #include <set>
 #include <vector>
 
 namespace {
 
 constexpr std::size_t LongueurExtrait = 40;
+/// No data are nested so deep; the library copies and writes a value by recursion, however deep it is.
+constexpr int ProfondeurMax = 16;
 
-/// Stops at the first object that has a member twice.
-class SansDoubles {
+DonneesIncorrectes AutreAttendu(const std::string& nom, const std::string& attendu, const std::string& trouve) {
+    return DonneesIncorrectes(nom + " : " + Texte(TexteAttendu) + " " + attendu + ", " + Texte(TexteTrouve) + " " +
+                              trouve);
+}
+
+/// Stops at the first object that has a member twice, and knows the member that was read last.
+class LectureJson {
 public:
-    bool operator()(int, Donnees::parse_event_t evenement, const Donnees& valeur) {
+    bool operator()(int profondeur, Donnees::parse_event_t evenement, const Donnees& valeur) {
+        if (profondeur > ProfondeurMax)
+            throw dernier_.empty() ? DonneesIncorrectes(Texte(TexteObjetAttendu))
+                                   : AutreAttendu(dernier_, TexteOuNombre(), "[...]");
         switch (evenement) {
         case Donnees::parse_event_t::object_start:
             membres_.emplace_back();
@@ -24,8 +35,9 @@ public:
             membres_.pop_back();
             break;
         case Donnees::parse_event_t::key:
-            if (!membres_.back().insert(valeur.get<std::string>()).second)
-                throw DonneesIncorrectes(Texte(TexteMembreDouble) + " " + valeur.get<std::string>());
+            dernier_ = valeur.get<std::string>();
+            if (!membres_.back().insert(dernier_).second)
+                throw DonneesIncorrectes(Texte(TexteMembreDouble) + " " + dernier_);
             break;
         default:
             break;
@@ -33,8 +45,11 @@ public:
         return true;
     }
 
+    const std::string& Dernier() const { return dernier_; }
+
 private:
     std::vector<std::set<std::string>> membres_;
+    std::string dernier_;
 };
 
 /// Line and column of a byte, both from 1.
@@ -52,12 +67,14 @@ std::string Lieu(const std::string& contenu, std::size_t octet) {
 Donnees LitDonneesJson(const std::string& fichier) {
     const std::string contenu = LitFichierEntier(fichier, Source::Flux);
     Donnees donnees;
+    LectureJson lecture;
     try {
-        donnees = Donnees::parse(contenu, SansDoubles());
+        donnees = Donnees::parse(contenu, std::ref(lecture));
     } catch (const Donnees::parse_error& erreur) {
         throw DonneesIncorrectes(Texte(TexteJsonIllisible) + " " + Lieu(contenu, erreur.byte));
-    } catch (const Donnees::exception&) { // a number beyond all measure
-        throw DonneesIncorrectes(Texte(TexteObjetAttendu));
+    } catch (const Donnees::out_of_range&) {
+        throw DonneesIncorrectes(lecture.Dernier() + (lecture.Dernier().empty() ? "" : " : ") +
+                                 Texte(TexteNombreDemesure));
     }
     if (!donnees.is_object()) throw DonneesIncorrectes(Texte(TexteObjetAttendu));
     return donnees;
@@ -66,8 +83,11 @@ Donnees LitDonneesJson(const std::string& fichier) {
 DonneesIncorrectes MembreIncorrect(const std::string& nom, const std::string& attendu, const Donnees& trouve) {
     std::string extrait = trouve.dump(-1, ' ', true, Donnees::error_handler_t::replace);
     if (extrait.size() > LongueurExtrait) extrait = extrait.substr(0, LongueurExtrait) + "...";
-    return DonneesIncorrectes(nom + " : " + Texte(TexteAttendu) + " " + attendu + ", " + Texte(TexteTrouve) + " " +
-                              extrait);
+    return AutreAttendu(nom, attendu, extrait);
+}
+
+std::string TexteOuNombre() {
+    return "\"...\" " + Texte(TexteOu) + " " + Texte(TexteUnNombre);
 }
 
 double LitNombre(const Donnees& donnees, const char* nom) {

@@ -16,11 +16,14 @@ public:
 };
 
 /// @throws ErreurExecution when the file cannot be read; DonneesIncorrectes when it is no JSON object, with the line
-///         and the column at fault, or when a member stands twice.
+///         and the column at fault, when a member stands twice, or when a number exceeds a double.
 Donnees LitDonneesJson(const std::string& fichier);
 
 /// "member: expected ..., found ...": what stands there is shortened to a few words.
 DonneesIncorrectes MembreIncorrect(const std::string& nom, const std::string& attendu, const Donnees& trouve);
+
+/// What is expected of a member that is read as it would be typed.
+std::string TexteOuNombre();
 
 /// @throws DonneesIncorrectes when there is no such member, or when it is no number
 double LitNombre(const Donnees& donnees, const char* nom);

@@ -2,6 +2,8 @@
 
 #include "batch/TextesBatch.h"
 #include "core/FichierEntier.h"
+#include "data/Configuration.h"
+#include "data/Demarrage.h"
 #include "data/Textes.h"
 #include "studies/Exports.h"
 #include "studies/RapportsCames.h"
@@ -81,6 +83,9 @@ bool MemeFichier(const fs::path& a, const fs::path& b) {
 
 void VerifieSorties(const LigneCommande& ligne, const std::string& fichierEtude) {
     std::vector<fs::path> prises{fichierEtude};
+    if (!ligne.base.empty()) prises.emplace_back(ligne.base);
+    for (const fs::path& dossier : {CheminAppli, CheminUtilisateur})
+        for (const char* nom : {NomBase, NomConfiguration}) prises.push_back(dossier / nom);
     for (const Sortie& sortie : SortiesDemandees(ligne)) {
         for (const fs::path& chemin : sortie.chemins)
             for (const fs::path& prise : prises)

@@ -3,7 +3,7 @@
 
 #include "batch/LigneCommande.h"
 
-/// Refuses outputs that would replace the study or one another.
+/// Refuses outputs that would replace the study, the catalogue, the configuration or one another.
 /// @throws UsageIncorrect with the name at fault
 void VerifieSorties(const LigneCommande& ligne, const std::string& fichierEtude);
 

@@ -16,4 +16,5 @@ enum TextesBatch {
     TexteOu,
     TexteFichierIllisible,
     TexteSortieDouble,
+    TexteNombreDemesure = 1004,
 };

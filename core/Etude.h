@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,12 @@ struct Zone {
     double RayonFinal = 0;   ///< the same at the end, mm
     std::string NomLoi;      ///< key of the law, "Fichier", or a key with "_" and a percentage
     double CoefSymetrie = 0; ///< 0 to 1; 0.5 is symmetric
+};
+
+/// A zone that stands typed.
+struct SaisieZone {
+    std::int16_t numero = 0; ///< from 1
+    Zone zone;
 };
 
 /// A row of the law catalogue: four segments of the unit acceleration, each a share of the whole interval.
@@ -113,9 +120,10 @@ struct DonneesEtude {
     double InertieO1 = 0;                     ///< inertia driven at O1, kg m²
 
     std::int16_t NombreZones = 0;
-    std::int16_t PointsParDegre = 0; ///< 1, 2, 4, 5, 8 or 10
-    std::int16_t ZoneCourante = 0;   ///< zone shown on the data screen
-    Tableau<Zone> Zones;             ///< 0..NombreZones; element 0 holds only the value that zone 1 starts from
+    std::int16_t PointsParDegre = 0;      ///< 1, 2, 4, 5, 8 or 10
+    std::int16_t ZoneCourante = 0;        ///< zone shown on the data screen
+    Tableau<Zone> Zones;                  ///< 0..NombreZones; element 0 holds only the value that zone 1 starts from
+    std::optional<SaisieZone> ZoneSaisie; ///< what stands typed on the data screen and is not accepted yet
     Tableau<Zone> ZonesConjuguees;
 
     // Of a law study.

@@ -128,10 +128,12 @@ void RetireRestes(const fs::path& chemin) {
     for (const fs::path& reste : restes) fs::remove(reste, echec);
 }
 
-/// The file that a chain of links ends at, whether it exists or not.
-fs::path SuitLiens(fs::path chemin) {
+/// The file that a chain of links ends at, whether it exists or not. One that runs in a circle ends nowhere.
+fs::path SuitLiens(const fs::path& debut) {
     std::error_code echec;
-    for (int liens = 0; liens < 40 && fs::is_symlink(chemin, echec); ++liens) {
+    fs::path chemin = debut;
+    for (int liens = 0; fs::is_symlink(chemin, echec); ++liens) {
+        if (liens == 40) SignaleErreur(ELOOP, debut);
         const fs::path vers = fs::read_symlink(chemin, echec);
         if (echec) break;
         chemin = vers.is_absolute() ? vers : chemin.parent_path() / vers;

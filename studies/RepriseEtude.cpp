@@ -13,6 +13,14 @@ bool LoiDeFichier() {
            etude.lois.LoiUnite.BorneHaute() >= PointsLoiFichier;
 }
 
+void ComposeZone(std::string& contenu, const TypeEtude& type, const Zone& zone) {
+    const auto ligne = [&contenu](const std::string& texte) { contenu += texte + FinDeLigne; };
+    for (const double nombre : {zone.*type.zones->valeurDepart, zone.*type.zones->valeurFinale, zone.AngleCame})
+        ligne(StrTrim(nombre));
+    ligne(zone.NomLoi);
+    ligne(StrTrim(zone.CoefSymetrie));
+}
+
 void LitZone(Lignes& lignes, const TypeEtude& type, Zone& zone) {
     zone.*type.zones->valeurDepart = Val(lignes.Suivante());
     zone.*type.zones->valeurFinale = Val(lignes.Suivante());
@@ -44,13 +52,10 @@ std::string ComposeReprise() {
     for (const auto& champ : type->champs) ligne(StrTrim(champ.Nombre(d)));
     ligne(StrTrim(d.PointsParDegre));
     ligne(StrTrim(d.NombreZones));
-    for (std::int16_t z = 1; z <= d.NombreZones; ++z) {
-        const Zone& zone = d.Zones[z];
-        for (const double nombre : {zone.*type->zones->valeurDepart, zone.*type->zones->valeurFinale, zone.AngleCame})
-            ligne(StrTrim(nombre));
-        ligne(zone.NomLoi);
-        ligne(StrTrim(zone.CoefSymetrie));
-    }
+    for (std::int16_t z = 1; z <= d.NombreZones; ++z) ComposeZone(contenu, *type, d.Zones[z]);
+    // The zone at hand, by its number; none where all that was typed is accepted.
+    ligne(StrTrim(d.ZoneSaisie ? d.ZoneSaisie->numero : 0));
+    if (d.ZoneSaisie) ComposeZone(contenu, *type, d.ZoneSaisie->zone);
     if (LoiDeFichier())
         for (long i = 1; i <= PointsLoiFichier; ++i) {
             const PointLoi& p = etude.lois.LoiUnite[i];
@@ -71,5 +76,9 @@ void LitReprise(std::string_view contenu) {
     d.Zones.Redimensionne(d.NombreZones);
     for (std::int16_t z = 1; z <= d.NombreZones; ++z) LitZone(lignes, type, d.Zones[z]);
     Complete(type);
+    if (const std::int16_t numero = Entier16(Val(lignes.Suivante())); numero > 0) {
+        d.ZoneSaisie = SaisieZone{numero, {}};
+        LitZone(lignes, type, d.ZoneSaisie->zone);
+    }
     if (!lignes.Fin()) LitLoi(lignes.Reste());
 }

@@ -39,12 +39,14 @@ constexpr Legende legendes[] = {
     {"TitreGrille", 0, 179},
 };
 
-/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too.
+/// The text of a list that can be typed into: selected whole when it is entered, by the mouse too, and when the list
+/// has closed again.
 class LigneListe : public QLineEdit {
 protected:
     void focusInEvent(QFocusEvent* evenement) override {
         QLineEdit::focusInEvent(evenement);
         vientDeLaSouris_ = evenement->reason() == Qt::MouseFocusReason;
+        if (evenement->reason() == Qt::PopupFocusReason) selectAll();
     }
     void mouseReleaseEvent(QMouseEvent* evenement) override {
         QLineEdit::mouseReleaseEvent(evenement);
@@ -100,12 +102,15 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     // A study taken back may have zones that were not entered yet: they have no law.
     while (zonesEntrees_ < etude.donnees.NombreZones && !etude.donnees.Zones[zonesEntrees_ + 1].NomLoi.empty())
         ++zonesEntrees_;
-    etude.donnees.ZoneCourante = 1;
+    const auto saisie = etude.donnees.ZoneSaisie;
+    const int connues = std::min<int>(zonesEntrees_ + 1, etude.donnees.NombreZones);
+    etude.donnees.ZoneCourante = saisie && saisie->numero >= 1 && saisie->numero <= connues ? saisie->numero : 1;
     nombreZones_->Montre(etude.donnees.NombreZones);
-    MontreDans(*pointsParDegre_,
-               etude.donnees.PointsParDegre == 0 ? "1" : QString::number(etude.donnees.PointsParDegre));
+    if (etude.donnees.PointsParDegre == 0) etude.donnees.PointsParDegre = 1; // of a new study, the first of the list
+    MontreDans(*pointsParDegre_, QString::number(etude.donnees.PointsParDegre));
     ProposeFichier();
     MontreZone();
+    if (saisie) MontreChamps(saisie->zone);
     RemplitGrille();
 }
 
@@ -204,18 +209,28 @@ void PanneauZones::MontreZone() {
     const std::int16_t z = etude.donnees.ZoneCourante;
     cadreZone_->setTitle(QTexte(187) + " " + Q(Format(z, "###")));
     const bool entree = z <= zonesEntrees_;
-    const Zone zone = entree ? etude.donnees.Zones[z] : Zone{};
+    Zone zone = entree ? etude.donnees.Zones[z] : Zone{};
     // A zone begins where the one before ends.
     const bool propre = z <= 1 || (entree && !description_.departsSuivis);
-    valeurDepart_->Montre(propre ? zone.*description_.valeurDepart
-                                 : etude.donnees.Zones[z - 1].*description_.valeurFinale);
+    if (!propre) zone.*description_.valeurDepart = etude.donnees.Zones[z - 1].*description_.valeurFinale;
+    if (!entree) {
+        zone.NomLoi = S(loi_->currentText());
+        zone.CoefSymetrie = 0.5;
+    }
     valeurDepart_->setEnabled(z <= 1 || !description_.departsSuivis);
+    MontreChamps(zone);
+    zoneMontree_ = LitZone();
+    numeroMontre_ = z;
+    etude.donnees.ZoneSaisie.reset();
+    MontreBoutons();
+}
+
+void PanneauZones::MontreChamps(const Zone& zone) {
+    valeurDepart_->Montre(zone.*description_.valeurDepart);
     valeurFinale_->Montre(zone.*description_.valeurFinale);
     angleCame_->Montre(zone.AngleCame);
-    MontreLoi(entree ? Q(zone.NomLoi) : loi_->currentText());
-    symetrie_->Montre(entree ? zone.CoefSymetrie : 0.5);
-    zoneMontree_ = LitZone();
-    MontreBoutons();
+    MontreLoi(Q(zone.NomLoi));
+    symetrie_->Montre(zone.CoefSymetrie);
 }
 
 void PanneauZones::MontreLoi(const QString& nom) {
@@ -300,6 +315,7 @@ bool PanneauZones::ChercheFichier() {
     zonesEntrees_ = 1;
     nombreZones_->Montre(1);
     MontreDans(*pointsParDegre_, "2");
+    PrendPointsParDegre("2");
     MontreZone();
     zonesEntrees_ = 0; // the zone is filled, and waits to be accepted
     MontreBoutons();
@@ -395,6 +411,18 @@ void PanneauZones::Suivante() {
         valeurFinale_->setFocus(Qt::TabFocusReason);
 }
 
+void PanneauZones::LitSaisie() {
+    const std::string points = S(pointsParDegre_->currentText());
+    if (EstPointsParDegre(points)) PrendPointsParDegre(points);
+    etude.donnees.ZoneSaisie.reset();
+    if (ZoneModifiee()) etude.donnees.ZoneSaisie = SaisieZone{numeroMontre_, LitZone()};
+}
+
+void PanneauZones::PrendPointsParDegre(const std::string& texte) {
+    const std::int16_t points = Entier16(Val(texte));
+    if (std::exchange(etude.donnees.PointsParDegre, points) != points) emit Modifie();
+}
+
 bool PanneauZones::LitPointsParDegre() {
     const std::string texte = S(pointsParDegre_->currentText());
     if (!EstPointsParDegre(texte)) {
@@ -402,8 +430,7 @@ bool PanneauZones::LitPointsParDegre() {
         ReprendSaisie(*pointsParDegre_);
         return false;
     }
-    const std::int16_t points = Entier16(Val(texte));
-    if (std::exchange(etude.donnees.PointsParDegre, points) != points) emit Modifie();
+    PrendPointsParDegre(texte);
     return true;
 }
 

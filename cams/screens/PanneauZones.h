@@ -41,6 +41,10 @@ public:
     /// @return false when it is refused or a zone is still missing, after the box that says so, with the focus there.
     bool PrendSaisie();
 
+    /// What was typed, accepted or not, into the record, for what is kept of a study given up: points per degree where
+    /// the list takes them, and the zone at hand.
+    void LitSaisie();
+
     /// From the list to the record, checked.
     /// @return false when it is refused, after the box that says so, with the focus on the list.
     bool LitPointsParDegre();
@@ -62,6 +66,8 @@ private:
     void RelieChamps();
     void PrendFocusZone();
     void MontreZone();
+    void MontreChamps(const Zone& zone);
+    void PrendPointsParDegre(const std::string& texte);
     void MontreLoi(const QString& nom);
     void MontreBoutons();
     void RemplitGrille();
@@ -89,7 +95,8 @@ private:
     QLabel* somme_;
     Remarques* remarques_;
     QPushButton* suivante_;
-    Zone zoneMontree_;   ///< what the fields held when the zone was shown
+    Zone zoneMontree_; ///< what the fields held when the zone was shown
+    std::int16_t numeroMontre_ = 0;
     QString loiChoisie_; ///< the last law that was accepted in the list
     bool choixDemande_ = false, continuer_ = false;
     std::int16_t zonesEntrees_ = 0; ///< zones accepted so far, from the first

@@ -151,6 +151,11 @@ void SaisieCame::LitDonnees() {
     if (pesanteur_ != nullptr) pesanteur_->Lit();
 }
 
+void SaisieCame::LitSaisie() {
+    LitDonnees();
+    zones_->LitSaisie();
+}
+
 bool SaisieCame::FauteDeDonnee(std::span<const ChampEtude> champs) {
     const ChampEtude* faute = ChercheInterdit(champs, etude.donnees);
     if (faute == nullptr) return false;

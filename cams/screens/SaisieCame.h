@@ -35,7 +35,7 @@ public:
 
     bool PrendSaisie() override;
     bool MetAJour() override;
-    void LitSaisie() override { LitDonnees(); }
+    void LitSaisie() override;
     /// Into the field of the first scalar that is an inertia.
     bool PrendInertie(double inertie) override;
 

@@ -4,6 +4,7 @@
 #include "laws/CalculLois.h"
 #include "outils/FenetrePrincipale.h"
 
+#include <QMessageBox>
 #include <QProcess>
 
 #include <csignal>
@@ -47,6 +48,17 @@ bool Contient(const std::filesystem::path& fichier, const char* valeur) {
     return LitBrut(fichier).find(valeur) != std::string::npos;
 }
 
+/// A box that stands for as long as the recovery file is written in.
+class BoiteReelle : public DialoguesScript {
+public:
+    void Message(Icone icone, const std::string& texte, const std::string& titre) override {
+        DialoguesScript::Message(icone, texte, titre);
+        QMessageBox boite;
+        QTimer::singleShot(boites.size() > 1 ? 0 : 2500, &boite, &QDialog::accept);
+        boite.exec();
+    }
+};
+
 /// What `Reprise.ATypedStudySurvivesAKill` runs in a process of its own.
 class RepriseTuee : public Reprise {};
 
@@ -73,6 +85,45 @@ TEST_F(Reprise, ADiscardedStudyIsTakenBackByItsShortcut) {
     Reprend();
     AttendEtude();
     EXPECT_EQ(etude.resultats.EtudeModifiee, Faux);
+}
+
+TEST_F(Reprise, AZoneTypedAndNotAcceptedComesBackWithTheRest) {
+    TapeEtude();
+    TapeLigne(Ecran("DatoCama"), "Text14=28.5 Text15=25 Text16=150");
+    FrappeDans(Ecran("DatoCama"), "Text19", ".4");
+    Controle<QWidget>(Ecran("DatoCama"), "Combo2")->setFocus(Qt::TabFocusReason);
+    Frappe(Ecran("DatoCama"), "5");
+    CliqueSur(Ecran("DatoCama"), "Retour");
+    Reprend();
+    ASSERT_TRUE(Ouvert("DatoCama")) << Etat();
+    for (const auto& [champ, texte] :
+         {std::pair{"Text14", "28.5"}, {"Text15", "25"}, {"Text16", "150"}, {"Text19", ".4"}})
+        EXPECT_EQ(TexteDe("DatoCama", champ), texte) << champ;
+    EXPECT_EQ(etude.donnees.PointsParDegre, 5);
+    CliqueSur(Ecran("DatoCama"), "Suivante");
+    EXPECT_EQ(etude.donnees.Zones[3].AngleDepart, 28.5);
+    EXPECT_TRUE(Controle<QAbstractButton>(Ecran("DatoCama"), "Calculer")->isEnabled());
+    // Of a study only opened, an edit of a zone is work as well.
+    Ouvre("Exemple.Ang");
+    CliqueSur(Ecran("Resultat"), "Quitter");
+    CliqueCellule(Ecran("DatoCama"), "Grille", 1, 1);
+    FrappeDans(Ecran("DatoCama"), "Text16", "61");
+    CommenceBras();
+    Reprend();
+    EXPECT_EQ(TexteDe("DatoCama", "Text16"), "61");
+    EXPECT_EQ(etude.donnees.Zones[2].AngleCame, 60) << "not accepted yet";
+}
+
+TEST_F(Reprise, ABoxOfACalculationKeepsNoZonesInPoints) {
+    const std::filesystem::path fichier = FichierReprise(CheminUtilisateur);
+    Ouvre("Exemple.Ang");
+    CliqueSur(Ecran("Resultat"), "Quitter");
+    FrappeDans(Ecran("DatoCama"), "Text6", "80");
+    BoiteReelle boites;
+    CliqueSur(Ecran("DatoCama"), "Calculer");
+    ASSERT_FALSE(boites.boites.empty()) << "the roller is too large";
+    EXPECT_FALSE(Contient(fichier, "220")) << "110 degrees at 2 points per degree";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Contient(fichier, "110"); }));
 }
 
 TEST_F(Reprise, WhatIsSavedOrOnlyOpenedIsNotOffered) {

@@ -112,7 +112,9 @@ TEST(Executable, AnOutputReplacesNeitherTheStudyNorAnotherOutput) {
     for (const std::string& sorties :
          {"--points '" + fichierEtude + "'", "--points '" + ici + "/lien.Pnt'", "--rapport '" + ici + "/double.pdf'",
           "--points '" + ici + "/x' --rapport '" + ici + "/../" + dossier.Chemin().filename().string() + "/x'",
-          "--points '" + ici + "/b_Int.Scr' --scripts '" + ici + "/b'", std::string("--points - --rapport -")}) {
+          "--points '" + ici + "/b_Int.Scr' --scripts '" + ici + "/b'", std::string("--points - --rapport -"),
+          std::string("--points '" VELORIN_DOSSIER "/BaseDatos.Mdb'"),
+          std::string("--rapport '" VELORIN_DOSSIER "/CameAng.cfg'")}) {
         const auto passe = LanceReelle("etude '" + fichierEtude + "' --resume " + sorties + " 2>/dev/null");
         EXPECT_EQ(passe.statut, 2) << sorties;
         EXPECT_EQ(passe.sortie, "") << sorties;
@@ -168,6 +170,9 @@ TEST(Executable, FailedStartsAreToldInTheWorkingLanguageWithTheFile) {
         return LanceReelle("loi CYC --points 1 --base '" + base + "' --langue " + langue + " 2>&1").sortie;
     };
     EXPECT_EQ(erreur(absente, "English"), "velorin-batch: File not found : " + absente + "\n");
+    EXPECT_EQ(LanceReelle("loi CYC --points 1 --base '" + absente + "' 2>&1").sortie,
+              "velorin-batch: Fichier introuvable : " + absente + "\n")
+        << "the language of the configuration";
     EXPECT_NE(erreur(absente, "Deutsch").find("Fichier introuvable / Archivo no encontrado / File not found"),
               std::string::npos);
 }

@@ -94,23 +94,26 @@ TEST_F(CommandesIndexeurs, RefusalsHaveAReasonAndABoxWhereTheScreenHasOne) {
     }
 }
 
-TEST_F(CommandesIndexeurs, DataThatMakeNoSenseAreOneLineInTheWorkingLanguage) {
+TEST_F(CommandesIndexeurs, DataThatMakeNoSenseAreToldInTheWorkingLanguage) {
     const struct {
-        const char *donnees, *attendu;
+        std::string donnees, attendu;
     } fausses[] = {
-        {"{\"Entraxe\": 1,,}", "ce n'est pas du JSON, ligne 1, colonne 15"},
-        {"[]", "un objet JSON est attendu"},
-        {"{\"Inconnu\": 1}", "membre inconnu : Inconnu"},
-        {"{\"Entraxe\": 1, \"Entraxe\": 2}", "membre en double : Entraxe"},
-        {"{\"Entraxe\": [1]}", "Entraxe : attendu : \"...\" ou un nombre, trouvé : [1]"},
+        {"nope", "no es JSON, línea 1, columna 2"},
+        {"[1]", "se espera un objeto JSON"},
+        {R"({"ReferenceGalet":1,"ReferenceGalet":2})", "miembro repetido: ReferenceGalet"},
+        {R"({"Inconnu":1})", "miembro desconocido: Inconnu"},
+        {R"({"ReferenceGalet":[1]})", R"(ReferenceGalet : se espera: "..." o un número, encontrado: [1])"},
+        {R"({"ReferenceGalet":)" + std::string(200000, '[') + std::string(200000, ']') + "}",
+         R"(ReferenceGalet : se espera: "..." o un número, encontrado: [...])"},
+        {R"({"ReferenceGalet":1e999})", "ReferenceGalet : número demasiado grande"},
     };
-    for (const auto& f : fausses) {
-        const Passe passe = LancePasse({Globique.commande, dossier.Ecrit("donnees.json", f.donnees)});
-        EXPECT_EQ(passe.statut, 2) << f.donnees;
-        EXPECT_EQ(passe.sortie, "");
-        EXPECT_EQ(passe.LignesErreur(), 1) << passe.erreurs;
-        EXPECT_TRUE(passe.erreurs.ends_with(std::string(": ") + f.attendu + "\n")) << passe.erreurs;
-    }
+    for (const auto& calculateur : {Globique, Oscillateur, Conjugue, Tambour})
+        for (const auto& f : fausses) {
+            const std::string fichier = dossier.Ecrit("donnees.json", f.donnees);
+            const Passe passe = LancePasse({calculateur.commande, fichier}, "Español");
+            EXPECT_EQ(passe.statut, 2) << calculateur.commande;
+            EXPECT_EQ(passe.erreurs, "velorin-batch: " + fichier + ": " + f.attendu + "\n") << calculateur.commande;
+        }
 }
 
 TEST_F(CommandesIndexeurs, LawFilesAreSoughtBesideTheData) {

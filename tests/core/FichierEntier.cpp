@@ -123,7 +123,10 @@ TEST_F(FichierEntier, LinkIsFollowedAndPermissionsStay) {
     EXPECT_TRUE(fs::is_symlink(dossier / "lien.Ang"));
     EXPECT_EQ(LitBrut(chemin), "nouveau");
     EXPECT_EQ(fs::status(chemin).permissions(), droits);
-    EXPECT_EQ(dossier.NombreFichiers(), 2);
+    fs::create_symlink("cercle", dossier / "cercle");
+    EXPECT_EQ(EchecEcriture(dossier / "cercle"), NumeroErreur::AccesFichier) << "it leads nowhere";
+    EXPECT_TRUE(fs::is_symlink(dossier / "cercle"));
+    EXPECT_EQ(dossier.NombreFichiers(), 3);
 }
 
 TEST_F(FichierEntier, FilesThatBelongTogetherAreWrittenAllOrNone) {

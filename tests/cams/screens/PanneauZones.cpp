@@ -134,6 +134,7 @@ TEST_F(SaisieExemple, EscapeClosesAnOpenListAndNothingElse) {
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_TRUE(AFocus("Combo1"));
     EXPECT_EQ(LoiMontree(), "MS");
+    EXPECT_EQ(Le<QComboBox>("Combo1")->lineEdit()->selectedText(), "MS") << "what is typed now takes its place";
     EXPECT_EQ(quitte.count(), 0);
     EXPECT_TRUE(ecran->isVisible());
     // The opened list shows names beside the keys, and the field holds the key.

@@ -107,18 +107,19 @@ bool RemetInstance(const fs::path& dossierBase, const Remise& remise, std::chron
 }
 
 std::optional<Configuration> DemarreOuRemet(const std::function<Configuration()>& demarre, const fs::path& fichier) {
-    const auto fin = std::chrono::steady_clock::now() + AttenteInstance;
+    std::optional<std::chrono::steady_clock::time_point> fin; // what the first try took is no waiting
     while (true) {
         try {
             return demarre();
         } catch (const ErreurExecution& erreur) {
             if (erreur.numero != NumeroErreur::BaseOccupee) throw;
+            if (!fin) fin = std::chrono::steady_clock::now() + AttenteInstance;
             const Remise remise{fichier.empty() ? fichier : fs::absolute(fichier),
                                 qgetenv("XDG_ACTIVATION_TOKEN").toStdString()};
-            const auto reste = fin - std::chrono::steady_clock::now();
+            const auto reste = *fin - std::chrono::steady_clock::now();
             if (RemetInstance(CheminUtilisateur, remise, std::chrono::ceil<std::chrono::milliseconds>(reste)))
                 return {};
-            if (std::chrono::steady_clock::now() >= fin) throw;
+            if (std::chrono::steady_clock::now() >= *fin) throw;
         }
         std::this_thread::sleep_for(PasEssais);
     }

@@ -52,6 +52,7 @@ bool RemetInstance(const std::filesystem::path& dossierBase, const Remise& remis
 /// another program that is at the database, are waited for.
 /// @param demarre the start; it is tried again while the database is in use
 /// @return none when a window that was open took it over: this start has nothing more to do.
-/// @throws ErreurExecution what the start throws; database in use by another program, after `AttenteInstance`.
+/// @throws ErreurExecution what the start throws; database in use by another program, `AttenteInstance` after the first
+///         try.
 std::optional<Configuration> DemarreOuRemet(const std::function<Configuration()>& demarre,
                                             const std::filesystem::path& fichier);

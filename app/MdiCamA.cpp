@@ -136,7 +136,7 @@ void MdiCamA::Imprimer() {
     while (etude.donnees.NomFichier.empty())
         etude.donnees.NomFichier =
             Trim(LesDialogues().Saisie(Texte(TexteTitre), Texte(TexteEntrezTitre), {}).value_or(""));
-    const ::MarquesImpression marques = MarquesCochees();
+    const MarquesImpression marques = MarquesCochees();
     ApercuEtImprime(this, Q(NomSansExtension(etude.donnees.NomFichier)),
                     [&marques](Imprimante& imprimante) { ImprimeRapportsCames(imprimante, marques); });
 }

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <array>
 #include <deque>
 #include <filesystem>
 #include <map>

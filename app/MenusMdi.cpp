@@ -17,6 +17,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <stdexcept>
+
 namespace {
 
 constexpr int TexteTitreFenetre = 37;

@@ -21,6 +21,7 @@
 #include <QStylePainter>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -169,10 +170,11 @@ void PageAccueil::AjouteFichiers(QVBoxLayout& colonne, const char* nom, int titr
 std::vector<std::filesystem::path> LesExemples() {
     std::vector<std::filesystem::path> exemples;
     std::error_code sansImportance; // a folder that is gone has no examples
-    for (const auto& entree : std::filesystem::directory_iterator(CheminAppli / NomDossierEtudes, sansImportance)) {
-        const TypeEtude* type = TrouveTypeFichier(entree.path());
+    std::filesystem::directory_iterator entree(CheminAppli / NomDossierEtudes, sansImportance);
+    for (; entree != std::filesystem::directory_iterator(); entree.increment(sansImportance)) {
+        const TypeEtude* type = TrouveTypeFichier(entree->path());
         const bool calculable = type != nullptr && type->Disponible();
-        if (calculable || TrouveEcranFichier(entree.path()) != nullptr) exemples.push_back(entree.path());
+        if (calculable || TrouveEcranFichier(entree->path()) != nullptr) exemples.push_back(entree->path());
     }
     std::sort(exemples.begin(), exemples.end());
     return exemples;

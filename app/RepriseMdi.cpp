@@ -92,7 +92,8 @@ void MdiCamA::Rouvre(const Travail& travail) {
         if (loi) etude.lois.LoiChoisie = travail.loi;
         if (came) LitReprise(travail.contenu);
         FenetreEnfant* fenetre = OuvreEcran(travail.ecran);
-        if (fenetre != nullptr && !came) fenetre->Reprend(travail.contenu);
+        if (fenetre == nullptr) throw ErreurExecution(NumeroErreur::ContenuInvalide, travail.ecran);
+        if (!came) fenetre->Reprend(travail.contenu);
     } catch (const ErreurExecution& erreur) {
         return Annonce(Texte(TexteLectureImpossible) + " " + SensErreur(erreur));
     }

@@ -13,7 +13,6 @@
 #include "widgets/Polices.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <string_view>
 
 namespace {
@@ -27,8 +26,8 @@ constexpr const char* SansAffichage =
 /// The toolkit would end the program without a word of ours where it finds no display.
 bool AffichagePresent() {
 #if defined(__unix__) && !defined(__APPLE__)
-    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
-           std::getenv("QT_QPA_PLATFORM") != nullptr;
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 #else
     return true;
 #endif

@@ -6,8 +6,6 @@
 #include "data/Textes.h"
 #include "laws/EtudesLois.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr const char* Unites = "Unites";

@@ -18,7 +18,6 @@
 #include <algorithm>
 #include <iomanip>
 #include <ostream>
-#include <sstream>
 
 namespace {
 

@@ -3,6 +3,7 @@
 
 #include "platform/Dialogues.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 

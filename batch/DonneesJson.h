@@ -16,8 +16,7 @@ public:
 };
 
 /// @throws ErreurExecution when the file cannot be read; DonneesIncorrectes when it is no JSON object, with the line
-/// and
-///         the column at fault, when a member stands twice, or when a number exceeds a double.
+///         and the column at fault, when a member stands twice, or when a number exceeds a double.
 Donnees LitDonneesJson(const std::string& fichier);
 
 /// "member: expected ..., found ...": what stands there is shortened to a few words.

@@ -1,5 +1,5 @@
-// Run-time failures: the program's only exception. It is thrown where the arithmetic or a file gives out, and caught in
-// one place, at the event loop of the desktop program and at the command of the batch companion.
+// Run-time failures. They are thrown where the arithmetic or a file gives out, and told at the event loop of the
+// desktop program and at the command of the batch companion, unless whoever asked can say or do something better.
 #pragma once
 
 #include <stdexcept>
@@ -21,8 +21,8 @@ enum class NumeroErreur {
     DossierIntrouvable = 76, ///< no such folder
     ContenuInvalide = 321,   ///< a file holds what it cannot hold
     ExtensionInconnue = 322, ///< no study has files of this extension
-    TypeNonCalcule = 324,    ///< a kind of study that this version does not calculate
     FichierTropGrand = 323,  ///< larger than any file of the program
+    TypeNonCalcule = 324,    ///< a kind of study that this version does not calculate
     ResultatNonFini = 325,   ///< a result is no number: the data are beyond all measure
     PointsIncomplets = 326,  ///< the last zone does not end on a point
     BaseIllisible = 3031,    ///< wrong password, or a damaged database

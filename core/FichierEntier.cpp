@@ -147,7 +147,7 @@ bool EcritAuTravers(const fs::path& chemin) {
     const auto etat = fs::status(chemin, echec);
     if (!fs::exists(etat)) return false;
     const std::string nom = fs::absolute(chemin, echec).lexically_normal().string();
-    const bool ouvert = nom.starts_with("/dev/") || nom.starts_with("/proc/");
+    const bool ouvert = nom.starts_with("/dev/fd/") || nom.starts_with("/dev/std") || nom.starts_with("/proc/");
     return ouvert || (!fs::is_regular_file(etat) && !fs::is_directory(etat));
 }
 
@@ -195,6 +195,7 @@ public:
             ancienne_ = temporaire_.string() + "~";
             fs::create_hard_link(cible_, ancienne_, echec);
             if (echec) fs::copy_file(cible_, ancienne_, fs::copy_options::overwrite_existing, echec);
+            if (echec) Echoue(echec.value());
         }
         fs::rename(temporaire_, cible_, echec);
         if (echec) Echoue(echec.value());

@@ -10,20 +10,12 @@ std::string Numero(std::size_t rang) {
     return "(" + std::to_string(rang + 1) + ") ";
 }
 
-/// Appends a note cut into lines between its words.
+/// Appends a note cut into lines between its words, which all begin behind its number.
 void AjouteCoupe(std::vector<std::string>& lignes, const std::string& numero, const std::string& texte, int largeur) {
-    lignes.push_back(numero);
-    bool vide = true;
-    for (std::size_t debut = 0; debut < texte.size();) {
-        const std::size_t fin = std::min(texte.find(' ', debut), texte.size());
-        const std::string mot = texte.substr(debut, fin - debut);
-        if (!vide && largeur > 0 && Caracteres(lignes.back()) + 1 + Caracteres(mot) > largeur) {
-            lignes.emplace_back(numero.size(), ' ');
-            vide = true;
-        }
-        lignes.back() += (vide ? "" : " ") + mot;
-        vide = false;
-        debut = fin + 1;
+    std::string debut = numero;
+    for (const std::string& ligne : CoupeEnLignes(texte, largeur - Caracteres(numero))) {
+        lignes.push_back(debut + ligne);
+        debut.assign(numero.size(), ' ');
     }
 }
 
@@ -52,6 +44,10 @@ std::string Notes::Textes(std::string_view valeur) const {
 
 std::vector<std::string> Notes::Lignes(int largeur) const {
     std::vector<std::string> lignes;
-    for (std::size_t rang = 0; rang < textes_.size(); ++rang) AjouteCoupe(lignes, Numero(rang), textes_[rang], largeur);
+    for (std::size_t rang = 0; rang < textes_.size(); ++rang)
+        if (largeur > 0)
+            AjouteCoupe(lignes, Numero(rang), textes_[rang], largeur);
+        else
+            lignes.push_back(Numero(rang) + textes_[rang]);
     return lignes;
 }

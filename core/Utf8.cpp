@@ -1,6 +1,7 @@
 #include "core/Utf8.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace {
 
@@ -52,4 +53,16 @@ std::string Plie(std::string_view texte) {
         }
     }
     return plie;
+}
+
+std::vector<std::string> CoupeEnLignes(const std::string& texte, long caracteres) {
+    std::vector<std::string> lignes;
+    std::istringstream mots(texte);
+    for (std::string mot; mots >> mot;) {
+        if (lignes.empty() || Caracteres(lignes.back()) + 1 + Caracteres(mot) > caracteres)
+            lignes.push_back(mot);
+        else
+            lignes.back() += " " + mot;
+    }
+    return lignes;
 }

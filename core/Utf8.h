@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Number of characters (code points).
 long Caracteres(std::string_view texte);
@@ -13,3 +14,6 @@ bool EstUtf8(std::string_view texte);
 /// The text as it is searched for: small letters, without the accents of the western European languages and without the
 /// "&" of the accelerators.
 std::string Plie(std::string_view texte);
+
+/// A text broken between its words into lines of so many characters; a longer word keeps a line of its own.
+std::vector<std::string> CoupeEnLignes(const std::string& texte, long caracteres);

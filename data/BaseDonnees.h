@@ -52,9 +52,8 @@ public:
     BaseDonnees& operator=(BaseDonnees&& autre) noexcept;
 
     /// Opens an existing database.
-    /// @throws ErreurExecution file not found; access refused (another program holds it, or it cannot be written);
-    /// unreadable
-    ///         database (wrong password, damaged file).
+    /// @throws ErreurExecution file not found; access refused; database in use by another program, for reading only
+    ///         while it is written to for two seconds; unreadable database (wrong password, damaged file).
     static BaseDonnees Ouvre(const std::filesystem::path& chemin, const std::string& motDePasse, Usage usage);
 
     /// Makes an empty database in place of one that may exist, for exclusive use.

@@ -14,7 +14,12 @@ struct SensDemarrage {
 
 constexpr SensDemarrage LesEchecs[] = {
     {NumeroErreur::FichierIntrouvable, {"Fichier introuvable", "Archivo no encontrado", "File not found"}},
+    {NumeroErreur::DossierIntrouvable, {"Dossier introuvable", "Carpeta no encontrada", "Folder not found"}},
     {NumeroErreur::AccesFichier, {"Accès refusé", "Acceso denegado", "Access denied"}},
+    {NumeroErreur::DisquePlein, {"Disque plein", "Disco lleno", "Disk full"}},
+    {NumeroErreur::EntreeSortie,
+     {"La lecture ou l'écriture a échoué sur le disque", "La lectura o la escritura ha fallado en el disco",
+      "Reading from or writing to the disk has failed"}},
     {NumeroErreur::FinDeFichier, {"Fichier incomplet", "Archivo incompleto", "Incomplete file"}},
     {NumeroErreur::ContenuInvalide, {"Fichier endommagé", "Archivo dañado", "Damaged file"}},
     {NumeroErreur::FichierTropGrand, {"Fichier trop grand", "Archivo demasiado grande", "File too large"}},

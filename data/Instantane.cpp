@@ -9,6 +9,7 @@
 #include <fstream>
 #include <random>
 #include <string>
+#include <system_error>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -35,22 +36,38 @@ Etat EtatDe(const fs::path& chemin) {
     return {fs::last_write_time(chemin), fs::file_size(chemin)};
 }
 
-} // namespace
-
-fs::path CopieBase(const fs::path& chemin) {
-    fs::path copie = fs::temp_directory_path() / ("velorin-" + std::to_string(std::random_device{}()) + ".Mdb");
+/// @return false when writes went on all the while
+bool CopieAuRepos(const fs::path& chemin, const fs::path& copie) {
     const auto fin = std::chrono::steady_clock::now() + Attente;
     do {
         if (!EcritureEnCours(chemin)) {
             const Etat avant = EtatDe(chemin);
-            std::error_code echec;
-            if (!fs::copy_file(chemin, copie, fs::copy_options::overwrite_existing, echec))
-                throw ErreurExecution(NumeroErreur::AccesFichier, chemin.string());
-            if (!EcritureEnCours(chemin) && EtatDe(chemin) == avant) return copie;
+            fs::copy_file(chemin, copie, fs::copy_options::overwrite_existing);
+            if (!EcritureEnCours(chemin) && EtatDe(chemin) == avant) return true;
         }
         std::this_thread::sleep_for(Pas);
     } while (std::chrono::steady_clock::now() < fin);
-    std::error_code ignore;
-    fs::remove(copie, ignore);
+    return false;
+}
+
+void RetireCopie(const fs::path& copie) {
+    std::error_code sansImportance;
+    fs::remove(copie, sansImportance);
+}
+
+} // namespace
+
+fs::path CopieBase(const fs::path& chemin) {
+    fs::path copie;
+    try {
+        copie = fs::temp_directory_path() / ("velorin-" + std::to_string(std::random_device{}()) + ".Mdb");
+        if (CopieAuRepos(chemin, copie)) return copie;
+    } catch (const fs::filesystem_error& echec) {
+        RetireCopie(copie);
+        throw ErreurExecution(echec.code() == std::errc::no_space_on_device ? NumeroErreur::DisquePlein
+                                                                            : NumeroErreur::AccesFichier,
+                              chemin.string());
+    }
+    RetireCopie(copie);
     throw ErreurExecution(NumeroErreur::BaseOccupee, chemin.string() + " (2 s)");
 }

@@ -34,7 +34,7 @@ private:
     double Y(double valeur) const { return bas_ - (bas_ - haut_) * valeur / maximum_; }
 
     void Axe() const {
-        for (double valeur = 0; valeur <= maximum_ * (1 + 1e-9); valeur += pas_) {
+        for (const double valeur : ValeursGraduees(0, maximum_, pas_)) {
             dessin_.Ligne({gauche_, Y(valeur)}, {droite_, Y(valeur)},
                           {valeur == 0 ? Couleur::Axe : Couleur::Graduation, 0.09 * texte_});
             dessin_.Texte({gauche_ - 0.6 * texte_, Y(valeur)}, TexteArrondi(valeur, 6), Ancrage::Droite, 0.9 * texte_,

@@ -5,7 +5,6 @@
 #include "core/Etude.h"
 #include "drawing/PlumeCames.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {

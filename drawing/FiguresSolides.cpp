@@ -5,6 +5,7 @@
 #include "core/Etude.h"
 #include "drawing/PlanDessin.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

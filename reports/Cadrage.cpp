@@ -3,7 +3,6 @@
 #include "core/Utf8.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace {
 
@@ -39,16 +38,4 @@ std::string NomCoupe(const std::string& nom, int caracteres) {
     if (longueur <= caracteres) return nom;
     const int fin = std::min(4, caracteres / 2);
     return DebutTexte(nom, caracteres - fin - 1) + "…" + nom.substr(DebutCaractere(nom, longueur - fin));
-}
-
-std::vector<std::string> CoupeEnLignes(const std::string& texte, int caracteres) {
-    std::vector<std::string> lignes;
-    std::istringstream mots(texte);
-    for (std::string mot; mots >> mot;) {
-        if (lignes.empty() || NombreCaracteres(lignes.back()) + 1 + NombreCaracteres(mot) > caracteres)
-            lignes.push_back(mot);
-        else
-            lignes.back() += " " + mot;
-    }
-    return lignes;
 }

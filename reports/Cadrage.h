@@ -1,8 +1,9 @@
 // Texts laid out by counting characters, for pages in a fixed-pitch font.
 #pragma once
 
+#include "core/Utf8.h" // CoupeEnLignes, too
+
 #include <string>
-#include <vector>
 
 /// `nombre` blanks.
 inline std::string Espaces(int nombre) {
@@ -20,9 +21,6 @@ std::string CadreAGauche(const std::string& texte, int largeur);
 
 /// The first `caracteres` characters of a text.
 std::string DebutTexte(const std::string& texte, int caracteres);
-
-/// A text broken between its words into lines of so many characters; a longer word keeps a line of its own.
-std::vector<std::string> CoupeEnLignes(const std::string& texte, int caracteres);
 
 /// A name cut in its middle to so many characters; its end tells the kind of study.
 std::string NomCoupe(const std::string& nom, int caracteres);

@@ -2,7 +2,6 @@
 // drawing system replays them.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <ctime>
 #include <locale>
+#include <stdexcept>
 
 namespace {
 

@@ -1,95 +1,57 @@
 #include "studies/Listages.h"
 
-#include "cams/Pente.h"
-#include "core/ValeurPoint.h"
 #include "data/Textes.h"
+#include "studies/ColonnesListage.h"
 
+#include <initializer_list>
 #include <span>
 
 namespace {
 
-constexpr const char* M3 = "###.###";
-constexpr const char* M3Court = "##.###";
-constexpr const char* M2 = "###.##";
-
-struct Colonne {
-    int texte; ///< text number of the heading
-    int unite; ///< text number of the unit
-    double (*valeur)(long point);
-    const char* masque;
-    int texteDeveloppee = 0; ///< the heading on a developed cam, where it is another
+constexpr ColonneListage pointA[] = {
+    {262, UniteMm, DuPoint<&Point::XA>, MasqueLongueur}, {263, UniteMm, DuPoint<&Point::YA>, MasqueLongueur},
+    {264, UniteMS, DuPoint<&Point::VxA>, MasqueVitesse}, {265, UniteMS, DuPoint<&Point::VyA>, MasqueVitesse},
+    {266, UniteMS, DuPoint<&Point::VA>, MasqueVitesse},  {271, UniteMS2, DuPoint<&Point::AxA>, MasqueAccel},
+    {272, UniteMS2, DuPoint<&Point::AyA>, MasqueAccel},  {273, UniteMS2, DuPoint<&Point::AA>, MasqueAccel},
 };
 
-/// Pressure angle in degrees: 0 where the follower rests.
-double AnglePression(long i) {
-    return Pente(etude.resultats.Profil[i].AngleTangent);
+/// Radius of curvature of the outer profile, then both profiles.
+constexpr ColonneListage profils[] = {
+    {256, UniteMm, DuProfil<&PointProfil::RayonCourbureExterieur>, "###.##"},
+    {259, UniteMm, DuProfil<&PointProfil::XInterieur>, MasqueLongueur},
+    {260, UniteMm, DuProfil<&PointProfil::YInterieur>, MasqueLongueur},
+    {257, UniteMm, DuProfil<&PointProfil::XExterieur>, MasqueLongueur},
+    {258, UniteMm, DuProfil<&PointProfil::YExterieur>, MasqueLongueur},
+};
+
+void AjouteColonne(TableTexte& table, const ColonneListage& c) {
+    const int titre = c.texteDeveloppee != 0 && etude.resultats.Developpee ? c.texteDeveloppee : c.texte;
+    table.colonnes.push_back(ColonneNombres(
+        Texte(titre), Texte(c.unite),
+        [valeur = c.valeur](int ligne) { return valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre); },
+        c.masque));
 }
 
-constexpr Colonne angle = {245, 19, DuPoint<&Point::Angle>, "##0"};
-
-const Colonne galet[] = {
-    angle,
-    {247, 18, DuPoint<&Point::Rayon>, M3, 244},
-    {225, 27, DuPoint<&Point::VitesseRayon>, M3Court},
-    {226, 28, DuPoint<&Point::AccelRayon>, M2},
-    {261, 21, DuPoint<&Point::VitesseGalet>, M2},
-};
-const Colonne bras[] = {
-    angle,
-    {246, 19, DuMouvement<&PointLoi::Course>, M3},
-    {248, 29, DuMouvement<&PointLoi::Vitesse>, M3Court},
-    {249, 30, DuMouvement<&PointLoi::Accel>, M2},
-    {262, 18, DuPoint<&Point::XA>, M3},
-    {263, 18, DuPoint<&Point::YA>, M3},
-    {264, 27, DuPoint<&Point::VxA>, M3Court},
-    {265, 27, DuPoint<&Point::VyA>, M3Court},
-    {266, 27, DuPoint<&Point::VA>, M3Court},
-    {271, 28, DuPoint<&Point::AxA>, M2},
-    {272, 28, DuPoint<&Point::AyA>, M2},
-    {273, 28, DuPoint<&Point::AA>, M2},
-};
-const Colonne efforts[] = {
-    angle,
-    {251, 25, DuPoint<&Point::ForceGalet>, M2},
-    {252, 26, DuPoint<&Point::Couple>, M3},
-    {253, 19, AnglePression, M2},
-};
-const Colonne came[] = {
-    angle,
-    {253, 19, AnglePression, M2},
-    {254, 18, DuProfil<&PointProfil::RayonCourbure>, M2},
-    {255, 18, DuProfil<&PointProfil::RayonCourbureInterieur>, M2},
-    {256, 18, DuProfil<&PointProfil::RayonCourbureExterieur>, M2},
-    {259, 18, DuProfil<&PointProfil::XInterieur>, M3},
-    {260, 18, DuProfil<&PointProfil::YInterieur>, M3},
-    {257, 18, DuProfil<&PointProfil::XExterieur>, M3},
-    {258, 18, DuProfil<&PointProfil::YExterieur>, M3},
-};
-
-TableTexte FaitTable(std::span<const Colonne> colonnes) {
+TableTexte FaitTable(std::initializer_list<std::span<const ColonneListage>> groupes) {
     TableTexte table;
     if (!etude.resultats.Points.Vide()) table.lignes = etude.resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
-    for (const Colonne& c : colonnes) {
-        const int titre = c.texteDeveloppee != 0 && etude.resultats.Developpee ? c.texteDeveloppee : c.texte;
-        table.colonnes.push_back(ColonneNombres(
-            Texte(titre), Texte(c.unite),
-            [&c](int ligne) { return c.valeur(static_cast<long>(ligne) * etude.donnees.PointsParDegre); }, c.masque));
-    }
+    AjouteColonne(table, ColonneAngle);
+    for (const auto groupe : groupes)
+        for (const ColonneListage& colonne : groupe) AjouteColonne(table, colonne);
     return table;
 }
 
 } // namespace
 
 TableTexte TableGalet() {
-    return FaitTable(galet);
+    return FaitTable({ColonnesGalet});
 }
-TableTexte TableBras(bool pointA) {
-    constexpr std::size_t mouvement = 4; // the cam angle and the motion of the arm
-    return FaitTable(std::span<const Colonne>(bras).first(pointA ? std::size(bras) : mouvement));
+TableTexte TableBras(bool avecPointA) {
+    return avecPointA ? FaitTable({ColonnesBras, pointA}) : FaitTable({ColonnesBras});
 }
 TableTexte TableEfforts() {
-    return FaitTable(efforts);
+    return FaitTable({ColonnesEfforts});
 }
 TableTexte TableCame() {
-    return FaitTable(came);
+    return FaitTable({ColonnePression, ColonnesCourbure, profils});
 }

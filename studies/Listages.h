@@ -5,7 +5,7 @@
 #include "core/TableTexte.h"
 
 TableTexte TableGalet(); ///< motion of the roller centre
-/// Motion of the arm. @param pointA with that of the point A
-TableTexte TableBras(bool pointA);
+/// Motion of the arm. @param avecPointA with that of the point A
+TableTexte TableBras(bool avecPointA);
 TableTexte TableEfforts();
 TableTexte TableCame(); ///< tangent angle, radii of curvature, both profiles

@@ -1,53 +1,18 @@
 #include "studies/ListagesCames.h"
 
-#include "cams/Pente.h"
-#include "core/ValeurPoint.h"
 #include "data/Textes.h"
-#include "data/Unites.h"
+#include "studies/ColonnesListage.h"
 #include "studies/NotesEtude.h"
 #include "studies/ValeursRemarquables.h"
 
+#include <initializer_list>
 #include <memory>
 #include <span>
 
 namespace {
 
-constexpr const char* M3 = "###.###";
-constexpr const char* M3Court = "##.###";
-constexpr const char* M2 = "###.##";
-
-struct Colonne {
-    int texte, unite; ///< text numbers of heading and unit
-    double (*valeur)(long point);
-    const char* masque;
-};
-
-double AnglePression(long i) {
-    return Pente(etude.resultats.Profil[i].AngleTangent);
-}
-
-constexpr Colonne angle = {245, UniteDegres, DuPoint<&Point::Angle>, "##0"};
-constexpr Colonne mouvement[] = {
-    {246, UniteDegres, DuMouvement<&PointLoi::Course>, M3},
-    {248, UniteRadS, DuMouvement<&PointLoi::Vitesse>, M3Court},
-    {249, UniteRadS2, DuMouvement<&PointLoi::Accel>, M2},
-};
-constexpr Colonne galet[] = {
-    {247, UniteMm, DuPoint<&Point::Rayon>, M3},
-    {225, UniteMS, DuPoint<&Point::VitesseRayon>, M3Court},
-    {226, UniteMS2, DuPoint<&Point::AccelRayon>, M2},
-    {261, UniteTours, DuPoint<&Point::VitesseGalet>, M2},
-};
-constexpr Colonne efforts[] = {
-    {251, UniteN, DuPoint<&Point::ForceGalet>, M2},
-    {252, UniteNm, DuPoint<&Point::Couple>, M3},
-    {253, UniteDegres, AnglePression, M2},
-    {254, UniteMm, DuProfil<&PointProfil::RayonCourbure>, M2},
-    {255, UniteMm, DuProfil<&PointProfil::RayonCourbureInterieur>, M2},
-};
-
 /// @param nom what stands over the heading: the short name of a cam, or nothing
-ColonneTexte FaitColonne(const Colonne& c, std::size_t rang, const std::string& nom) {
+ColonneTexte FaitColonne(const ColonneListage& c, std::size_t rang, const std::string& nom) {
     return ColonneNombres(
         nom + Texte(c.texte), Texte(c.unite),
         [valeur = DeCame(rang, c.valeur)](int ligne) {
@@ -56,17 +21,20 @@ ColonneTexte FaitColonne(const Colonne& c, std::size_t rang, const std::string& 
         c.masque);
 }
 
-void AjouteColonnes(TableTexte& table, const TypeEtude& type, std::span<const Colonne> colonnes) {
+/// The same columns for each cam, one cam after the other.
+void AjouteColonnes(TableTexte& table, const TypeEtude& type,
+                    std::initializer_list<std::span<const ColonneListage>> groupes) {
     for (std::size_t rang = 0; rang < type.passes.size(); ++rang)
-        for (const Colonne& c : colonnes)
-            table.colonnes.push_back(FaitColonne(c, rang, Texte(type.passes[rang].nomCourt) + "\n"));
+        for (const auto groupe : groupes)
+            for (const ColonneListage& c : groupe)
+                table.colonnes.push_back(FaitColonne(c, rang, Texte(type.passes[rang].nomCourt) + "\n"));
 }
 
 TableTexte CommenceTable(const TypeEtude& type) {
     TableTexte table;
     if (!type.passes.empty() && !etude.passes.empty())
         table.lignes = etude.passes.front().resultats.NombrePoints / etude.donnees.PointsParDegre + 1;
-    table.colonnes.push_back(FaitColonne(angle, 0, {}));
+    table.colonnes.push_back(FaitColonne(ColonneAngle, 0, {}));
     return table;
 }
 
@@ -80,8 +48,8 @@ ColonneTexte ColonneTextes(const std::string& titre, std::vector<std::string> te
 
 TableTexte TableMouvementCames(const TypeEtude& type) {
     TableTexte table = CommenceTable(type);
-    for (const Colonne& c : mouvement) table.colonnes.push_back(FaitColonne(c, 0, {}));
-    AjouteColonnes(table, type, galet);
+    for (const ColonneListage& c : ColonnesBras) table.colonnes.push_back(FaitColonne(c, 0, {}));
+    AjouteColonnes(table, type, {ColonnesGalet});
     if (type.controle.ecarts != nullptr) {
         auto ecarts = std::make_shared<std::vector<double>>(type.controle.ecarts());
         table.colonnes.push_back(ColonneNombres(
@@ -97,7 +65,7 @@ TableTexte TableMouvementCames(const TypeEtude& type) {
 
 TableTexte TableEffortsCames(const TypeEtude& type) {
     TableTexte table = CommenceTable(type);
-    AjouteColonnes(table, type, efforts);
+    AjouteColonnes(table, type, {ColonnesEfforts, ColonnesCourbure});
     return table;
 }
 

@@ -5,6 +5,8 @@
 #include "core/Notes.h"
 #include "studies/TypesEtude.h"
 
+#include <span>
+
 /// Text numbers of this room.
 enum TextesEtudes {
     TexteArcDegre = 832,

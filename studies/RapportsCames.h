@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/TableTexte.h"
+#include "data/Configuration.h"
 #include "platform/Imprimante.h"
 #include "reports/CadrePages.h"
 
@@ -21,8 +22,7 @@ enum class MarqueImpression {
     PointsRemarquables
 };
 
-inline constexpr std::size_t NombreMarques = 7;
-using MarquesImpression = std::array<bool, NombreMarques>;
+using MarquesImpression = std::array<bool, NombreImpressions>;
 
 /// Prints the reports that are marked and that the present `TypeCame` has, in the order of the print run, and ends the
 /// document. Nothing is printed when no mark is set.

@@ -10,7 +10,6 @@
 #include "studies/RapportsCames.h"
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 namespace {

@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <memory>
 
 namespace {
 

@@ -1,4 +1,4 @@
-// The application object: the one place where run-time failures are caught, and the looks that hold everywhere.
+// The application object: where a run-time failure is told that nobody has caught, and the looks that hold everywhere.
 #pragma once
 
 #include <QApplication>

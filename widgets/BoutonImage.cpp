@@ -17,7 +17,6 @@ namespace {
 constexpr int Marge = 8;
 constexpr int Souleve = 3; ///< how far it rises
 constexpr double RayonCoin = 4;
-constexpr double OpaciteInactif = 0.35;
 constexpr int Cadrage = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap; ///< of the name
 
 /// Works on a picture in memory only, so that any thread may do it.
@@ -76,11 +75,12 @@ QRectF BoutonImage::CadreImage(const QRectF& carte) const {
 
 std::function<void()> BoutonImage::Prepare() {
     tailleImage_ = CadreImage(Carte({taille_.width() + 2 * Souleve, taille_.height()})).size();
-    auto image = std::make_shared<std::promise<QImage>>();
+    const auto image = std::make_shared<std::packaged_task<QImage()>>(
+        [dessine = dessine_, taille = tailleImage_, finesse = devicePixelRatioF(), couleurs = palette()] {
+            return DessineImage(dessine, taille, finesse, couleurs);
+        });
     preparee_ = image->get_future();
-    return [image, dessine = dessine_, taille = tailleImage_, finesse = devicePixelRatioF(), couleurs = palette()] {
-        image->set_value(DessineImage(dessine, taille, finesse, couleurs));
-    };
+    return [image] { (*image)(); };
 }
 
 void BoutonImage::paintEvent(QPaintEvent*) {

@@ -8,9 +8,13 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <span>
 #include <vector>
 
 class QPainter;
+
+/// How much of a drawing is left that cannot be chosen.
+inline constexpr double OpaciteInactif = 0.35;
 
 /// Colour of a stroke on a sheet of this palette; the contrast is good on a light and on a dark sheet.
 QColor CouleurTrait(Couleur couleur, const QPalette& palette);

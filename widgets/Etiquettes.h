@@ -9,7 +9,7 @@
 /// @param gabarit the widest number that it has room for
 QLabel* FaitValeur(const char* nom, const char* gabarit);
 
-/// A unit, or what else is said in passing, in the discreet colour.
+/// A unit, or what else is said beside a value.
 QLabel* FaitUnite(const QString& texte = {});
 
 /// Room for notes below the values that they belong to; none is taken while there are none.

@@ -2,6 +2,7 @@
 
 #include "core/ErreurExecution.h"
 #include "core/FichierEntier.h"
+#include "data/Demarrage.h"
 #include "platform/Dialogues.h"
 #include "widgets/Application.h"
 #include "widgets/Chaines.h"
@@ -164,7 +165,7 @@ void Grille::Copie() {
 /// A spreadsheet reads such a file right by a double click: the separators are those of the machine's settings.
 void Grille::EnregistreCsv() {
     const auto chemin =
-        LesDialogues().FichierASauver({Texte(TexteTableCsv), {}, "table.csv", {{"CSV (*.csv)", "*.csv"}}});
+        LesDialogues().FichierASauver({Texte(TexteTableCsv), CheminEtudes, "table.csv", {{"CSV (*.csv)", "*.csv"}}});
     if (!chemin || chemin->empty()) return;
     const bool virgule = QLocale::system().decimalPoint() == QLatin1String(",");
     const std::string utf8 = "\xEF\xBB\xBF";

@@ -12,9 +12,6 @@
 
 namespace {
 
-/// How much of a drawing that cannot be chosen is left.
-constexpr double OpaciteInactif = 0.35;
-
 class MoteurDessin : public MoteurImage {
 public:
     MoteurDessin(std::function<void(Dessin&)> dessine, QSize taille) : dessine_(std::move(dessine)), taille_(taille) {}

@@ -8,6 +8,7 @@
 #include <QPainterPath>
 #include <QPalette>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {

@@ -13,7 +13,6 @@
 #include <QPrinter>
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace {

@@ -5,9 +5,8 @@
 #include "widgets/Etiquettes.h"
 
 #include <QGridLayout>
-#include <QLabel>
-
 #include <QKeyEvent>
+#include <QLabel>
 
 #include <functional>
 #include <stdexcept>

@@ -10,10 +10,8 @@
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QEvent>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>

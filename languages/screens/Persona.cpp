@@ -398,7 +398,7 @@ void Persona::Reprend(const std::string& contenu) {
     if (autre == std::string::npos || EstLivree(langue) || !ExisteLangue(textes_, langue))
         throw ErreurExecution(NumeroErreur::ContenuInvalide, langue);
     ChoisitLangue(langue);
-    barre_->setValue(static_cast<int>(Val(contenu.substr(tab + 1, autre - tab - 1))));
+    barre_->setValue(Entier16(Val(contenu.substr(tab + 1, autre - tab - 1))));
     traduction_->Montre(contenu.substr(autre + 1));
     traduction_->document()->setModified(true);
     MontreFautes();

@@ -34,7 +34,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include <algorithm>
 #include <utility>
 
 namespace {

@@ -15,7 +15,6 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 
 #include <utility>
 

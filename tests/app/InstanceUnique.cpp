@@ -10,6 +10,7 @@
 
 #include <future>
 #include <set>
+#include <thread>
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
@@ -210,6 +211,17 @@ TEST_F(Instances, WhatIsNoStartOfOursIsIgnored) {
 TEST_F(Instances, AStartThatWaitsNoLongerFindsItsFileWithdrawn) {
     EXPECT_FALSE(RemetInstance(CheminUtilisateur, {Copie("Barillet.Cyl", "b.Cyl"), {}}, 50ms)) << "the window is busy";
     EXPECT_FALSE(Attend("Cylindrique")) << "its user was told that it failed";
+}
+
+TEST_F(Instances, AFirstTryThatTakesLongLeavesTimeToHandOver) {
+    // As that of a later version, which waits for the database to bring it up to date.
+    const auto demarre = [premier = true]() mutable -> Configuration {
+        if (std::exchange(premier, false)) std::this_thread::sleep_for(AttenteInstance + 100ms);
+        return DitOccupee();
+    };
+    EXPECT_FALSE(Pendant([&] { return DemarreOuRemet(demarre, "/a"); }));
+    ASSERT_EQ(recues_.size(), 1U);
+    EXPECT_EQ(recues_.back().fichier, "/a");
 }
 
 TEST_F(Instances, EachFolderHasItsOwnSocketUnderAnyName) {

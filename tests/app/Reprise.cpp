@@ -175,6 +175,11 @@ TEST_F(Reprise, TheRecoveryFileFollowsTheEntryAndGoesWithIt) {
     EcritFichierEntier(fichier, "DatoCama\r\n\r\n99999\r\nAngulaire");
     Demarre();
     EXPECT_FALSE(Offert());
+    // One with a window that there is no more says so when it is taken back.
+    EcritFichierEntier(fichier, "Absente\r\n\r\n3\r\nabc");
+    Demarre();
+    Reprend();
+    EXPECT_EQ(Etat(), Texte(128) + " " + Texte(725) + " (Absente)");
     // A folder that cannot be made is told.
     std::filesystem::remove_all(fichier.parent_path());
     EcritFichierEntier(fichier.parent_path(), "a file where the folder should be");

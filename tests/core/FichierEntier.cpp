@@ -142,3 +142,12 @@ TEST_F(FichierEntier, FilesThatBelongTogetherAreWrittenAllOrNone) {
     EXPECT_EQ(LitBrut(un) + LitBrut(deux), "ab");
     EXPECT_EQ(dossier.NombreFichiers(), 3);
 }
+
+TEST_F(FichierEntier, AFileInMemoryIsReplacedAsAnyOther) {
+    if (::access("/dev/shm", W_OK) != 0) GTEST_SKIP() << "no such folder here";
+    const fs::path chemin = "/dev/shm/velorin-" + std::to_string(::getpid());
+    EXPECT_EQ(EchecEcriture(chemin, "ancien, et plus long"), NumeroErreur{});
+    EXPECT_EQ(EchecEcriture(chemin), NumeroErreur{});
+    EXPECT_EQ(LitBrut(chemin), "nouveau") << "not written behind the old one";
+    fs::remove(chemin);
+}

@@ -5,6 +5,7 @@
 #include "core/FichierEntier.h"
 #include "data/Configuration.h"
 #include "data/Demarrage.h"
+#include "data/EchecDemarrage.h"
 #include "data/FabriqueBase.h"
 #include "outils/DossierTemporaire.h"
 
@@ -224,4 +225,15 @@ TEST_F(DossierUtilisateur, AKillDuringAnUpdateLeavesTheOldBaseOrTheNewOne) {
             ASSERT_TRUE(present == avant || present == apres) << tour;
         });
     EXPECT_GT(interrompus, Tours / 4);
+}
+
+TEST_F(DossierUtilisateur, AStartThatFailsSaysWhy) {
+    for (const NumeroErreur numero :
+         {NumeroErreur::AccesFichier, NumeroErreur::DossierIntrouvable, NumeroErreur::DisquePlein,
+          NumeroErreur::EntreeSortie, NumeroErreur::BaseIllisible, NumeroErreur::BaseOccupee})
+        for (const char* langue : {"Français", "Español", "English", "Italiano"}) {
+            const std::string texte = TexteEchecDemarrage(ErreurExecution(numero, "/a/b"), langue);
+            EXPECT_EQ(texte.find("Velorin"), std::string::npos) << texte; // it would only say once more that it failed
+            EXPECT_TRUE(texte.ends_with("/a/b")) << texte;
+        }
 }

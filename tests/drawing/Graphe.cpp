@@ -1,12 +1,14 @@
 #include "drawing/Graphe.h"
 
 #include "core/Nombres.h"
+#include "drawing/Barres.h"
 #include "drawing/EchellePapier.h"
 #include "drawing/Graduations.h"
 #include "outils/ImprimanteNotee.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -118,6 +120,17 @@ TEST(AxesGraphe, NoNumberMakesMoreGraduationsThanAnAxisHasRoomFor) {
         for (const auto& axe : {AxeAutour(courbe.first(2)), AxeAutour(courbe), AxeSymetrique(valeur, valeur / 2, "0.0"),
                                 AxeSymetrique(valeur, std::min(valeur, PasGraduationAngle(valeur, 3)), "0")})
             EXPECT_LE(axe.graduations.size(), 100U);
+    }
+}
+
+TEST(Barres, ABarOfAnyNumberIsDrawn) {
+    for (const double valeur : {0.0, 7.5, 1e300, std::numeric_limits<double>::infinity()}) {
+        ImprimanteNotee imprimante;
+        DessineBarres(*imprimante.Feuille({0, 0}, 120, 80),
+                      {{"Couple", "Nm", {"a"}, "cas", {{"", {}, {{valeur, "x", ""}}}}}});
+        const auto& etiquettes = imprimante.pages.back().etiquettes;
+        EXPECT_LE(etiquettes.size(), 12U) << valeur;
+        EXPECT_TRUE(std::any_of(etiquettes.begin(), etiquettes.end(), [](const auto& e) { return e.texte == "x"; }));
     }
 }
 

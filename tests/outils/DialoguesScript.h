@@ -21,6 +21,7 @@ public:
     std::deque<bool> reponses;
     std::deque<std::optional<std::string>> saisies;
     std::deque<std::optional<std::filesystem::path>> fichiers;
+    std::filesystem::path dossier; ///< that the last file dialogue began in
 
     /// Text of the last box; empty before the first.
     std::string Derniere() const { return boites.empty() ? "" : boites.back().texte; }
@@ -34,9 +35,11 @@ public:
         return Suivante(saisies, titre + "|" + invite + "|" + defaut);
     }
     std::optional<std::filesystem::path> FichierAOuvrir(const DemandeFichier& demande) override {
+        dossier = demande.dossier;
         return Suivante(fichiers, demande.titre);
     }
     std::optional<std::filesystem::path> FichierASauver(const DemandeFichier& demande) override {
+        dossier = demande.dossier;
         return Suivante(fichiers, demande.titre);
     }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -44,6 +45,11 @@ TEST(BoutonImage, ColoursThatChangeMeanwhileAreThoseShown) {
     prepare.setPalette(sombre);
     direct.setPalette(sombre);
     EXPECT_EQ(Montre(prepare), Montre(direct));
+}
+
+TEST(BoutonImage, ADrawingThatFailsHoldsUpNoOther) {
+    BoutonImage fautif([](Dessin&) { throw std::runtime_error("no drawing"); }, Taille);
+    EXPECT_NO_THROW(fautif.Prepare()());
 }
 
 TEST(TravailFond, JobsAreDoneInTheirOrder) {

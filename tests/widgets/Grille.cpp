@@ -1,6 +1,7 @@
 #include "widgets/Grille.h"
 
 #include "core/ErreurExecution.h"
+#include "data/Demarrage.h"
 #include "outils/DialoguesScript.h"
 #include "outils/DossierTemporaire.h"
 #include "outils/Ecrans.h"
@@ -11,6 +12,8 @@
 #include <QLocale>
 #include <QMenu>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -77,6 +80,7 @@ TEST_F(GrilleMontree, KeysAndMenuCopySelectAndSave) {
     Choisit(1, true);
     Choisit(0, true);
     EXPECT_TRUE(PressePapiers().starts_with("Angle degrés\tRayon\tLoi\n0.0\t-.5\t"));
+    const std::filesystem::path etudes = std::exchange(CheminEtudes, dossier / "etudes");
     dialogues.fichiers.push_back(dossier / "t.csv");
     Choisit(3, true);
     // Read as the machine that wrote it would.
@@ -85,6 +89,8 @@ TEST_F(GrilleMontree, KeysAndMenuCopySelectAndSave) {
         virgule ? "Angle degrés;Rayon;Loi\r\n0,0;-0,5;\"a,\"\"b\"\";1.5\"\r\n1,0;0;\"a,\"\"b\"\";1.5\"\r\n"
                 : "Angle degrés,Rayon,Loi\r\n0.0,-0.5,\"a,\"\"b\"\";1.5\"\r\n1.0,0,\"a,\"\"b\"\";1.5\"\r\n";
     EXPECT_EQ(LitBrut(dossier / "t.csv"), "\xEF\xBB\xBF" + lignes);
+    EXPECT_EQ(dialogues.dossier, CheminEtudes) << "where the studies are";
+    CheminEtudes = etudes;
 }
 
 TEST_F(GrilleMontree, HeadingsWithoutValuesAreLeftOutAndATableThatShrankBreaksNothing) {

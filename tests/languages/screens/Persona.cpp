@@ -143,6 +143,7 @@ TEST_F(EcranPersona, AWordingThatIsNotStoredIsAskedFor) {
     ecran->Reprend(travail);
     Clique("Sauver");
     EXPECT_EQ(SurDisque("Italiano", 2), "due");
+    EXPECT_THROW(ecran->Reprend("Italiano\t1e300\ttre"), ErreurExecution) << "damaged";
 }
 
 TEST_F(EcranPersona, TheSearchGoesFromTextToText) {

@@ -89,18 +89,9 @@ void ImprimeDonnees(Tirage& tirage, const RapportGlobique& rapport) {
     tirage.Ligne();
 }
 
-void ImprimeGeometrie(Tirage& tirage, const RapportGlobique& rapport) {
-    for (const GroupeResultats& groupe : rapport.geometrie) {
-        tirage.Reserve(static_cast<int>(groupe.lignes.size()) + 1);
-        tirage.Ligne(groupe.titre, true);
-        for (const LigneResultat& ligne : groupe.lignes) tirage.Ligne(LigneNommee(ligne, 2));
-    }
-    tirage.Ligne();
-}
-
-/// A text in lines no wider than the page, cut between words.
-std::vector<std::string> Paragraphe(const std::string& texte) {
-    const int largeur = FormatPage{}.colonnes;
+/// A text in lines no wider than the page behind a margin, cut between words.
+std::vector<std::string> Paragraphe(const std::string& texte, int marge = 0) {
+    const int largeur = FormatPage{}.colonnes - marge;
     std::vector<std::string> lignes{""};
     std::istringstream mots(texte);
     for (std::string mot; mots >> mot;) {
@@ -113,6 +104,25 @@ std::vector<std::string> Paragraphe(const std::string& texte) {
             lignes.push_back(mot);
     }
     return lignes;
+}
+
+void AjouteNote(std::vector<std::string>& notes, const LigneResultat& ligne) {
+    if (!ligne.note.empty() && std::find(notes.begin(), notes.end(), ligne.note) == notes.end())
+        notes.push_back(ligne.note);
+}
+
+void ImprimeGeometrie(Tirage& tirage, const RapportGlobique& rapport) {
+    for (const GroupeResultats& groupe : rapport.geometrie) {
+        std::vector<std::string> notes, lignes;
+        for (const LigneResultat& ligne : groupe.lignes) AjouteNote(notes, ligne);
+        for (const std::string& note : notes)
+            for (const std::string& ligne : Paragraphe(note, 2)) lignes.push_back(Espaces(2) + ligne);
+        tirage.Reserve(static_cast<int>(groupe.lignes.size() + lignes.size()) + 1);
+        tirage.Ligne(groupe.titre, true);
+        for (const LigneResultat& ligne : groupe.lignes) tirage.Ligne(LigneNommee(ligne, 2));
+        for (const std::string& ligne : lignes) tirage.Ligne(ligne);
+    }
+    tirage.Ligne();
 }
 
 void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
@@ -137,15 +147,12 @@ void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
         for (const std::string& ligne : Paragraphe(note)) tirage.Ligne(ligne);
 }
 
-/// The notes of values that are not what they look like, each once.
-std::vector<std::string> Rassemble(const RapportGlobique& rapport, std::vector<std::string> notes) {
-    const auto ajoute = [&](const LigneResultat& ligne) {
-        if (!ligne.note.empty() && std::find(notes.begin(), notes.end(), ligne.note) == notes.end())
-            notes.push_back(ligne.note);
-    };
-    for (const auto& groupe : rapport.geometrie) std::for_each(groupe.lignes.begin(), groupe.lignes.end(), ajoute);
+/// Behind the notes of the calculation those of the capacities that are not what they look like, each once.
+std::vector<std::string> NotesCapacites(const RapportGlobique& rapport) {
+    std::vector<std::string> notes = rapport.notes;
     for (const auto& table : rapport.capacites)
-        for (const auto& rangee : table.rangees) std::for_each(rangee.cellules.begin(), rangee.cellules.end(), ajoute);
+        for (const auto& rangee : table.rangees)
+            for (const LigneResultat& cellule : rangee.cellules) AjouteNote(notes, cellule);
     return notes;
 }
 
@@ -192,7 +199,7 @@ RapportGlobique RapportOscillateur(const DonneesOscillateur& donnees, const Resu
 void ImprimeCapacites(Imprimante& imprimante, const RapportGlobique& rapport, const MecanismeGlobique& donnees,
                       const ResultatGlobique& resultat) {
     RapportGlobique complet = rapport;
-    complet.notes = Rassemble(rapport, rapport.notes);
+    complet.notes = NotesCapacites(rapport);
     FormatPage format;
     format.taille = TaillePage;
     format.pied = false; // three or four pages, the drawings among them

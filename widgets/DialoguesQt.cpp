@@ -1,6 +1,7 @@
 #include "widgets/DialoguesQt.h"
 
 #include "widgets/Chaines.h"
+#include "widgets/TailleEcran.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -77,6 +78,8 @@ QStringList Filtres(const DemandeFichier& demande) {
     return filtres;
 }
 
+constexpr QSize TailleFichiers(860, 520);
+
 void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter) {
     dialogue.setWindowTitle(Q(demande.titre));
     dialogue.setDirectory(QChemin(demande.dossier));
@@ -87,6 +90,7 @@ void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter)
     dialogue.setLabelText(QFileDialog::Reject, QTexte(TexteAnnuler));
     dialogue.setLabelText(QFileDialog::FileName, QTexte(TexteNomFichier));
     dialogue.setLabelText(QFileDialog::FileType, QTexte(TexteTypeFichier));
+    TientSurEcran(dialogue, TailleFichiers); // the toolkit's own opens too narrow for its columns
 }
 
 std::filesystem::path FichierChoisi(const QFileDialog& dialogue) {

@@ -29,10 +29,11 @@
 namespace {
 
 constexpr QSize TailleFenetre(1080, 780);
-constexpr int LargeurSommaire = 300;
-constexpr int MargeTitre = 18;  // pixels
-constexpr int MargePage = 14;   // pixels
-constexpr int MargeCellule = 5; // pixels
+constexpr int LargeurSommaireMin = 300, LargeurSommaireMax = 420; // pixels
+constexpr int LargeurTrouver = 300;                               // pixels
+constexpr int MargeTitre = 18;                                    // pixels
+constexpr int MargePage = 14;                                     // pixels
+constexpr int MargeCellule = 5;                                   // pixels
 constexpr int RoleNom = Qt::UserRole;
 constexpr QColor CouleurTrouve(255, 200, 0, 120);
 
@@ -76,7 +77,6 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     auto* partage = new QSplitter;
     partage->addWidget(FaitSommaire());
     partage->addWidget(page_);
-    partage->setSizes({LargeurSommaire, TailleFenetre.width() - LargeurSommaire});
     partage->setStretchFactor(1, 1);
     partage->setChildrenCollapsible(false);
     auto* disposition = new QVBoxLayout(this);
@@ -87,8 +87,17 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     connect(page_, &QTextBrowser::sourceChanged, this, &VisionneuseAide::PageChangee);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     RemplitSommaire();
+    const int sommaire = LargeurSommaire();
+    partage->setSizes({sommaire, TailleFenetre.width() - sommaire});
     page_->setFocus();
     TientSurEcran(*this, TailleFenetre);
+}
+
+/// Of the longest title, as far as the page keeps room enough.
+int VisionneuseAide::LargeurSommaire() const {
+    const QAbstractItemView& entrees = *sommaire_;
+    const int bords = 2 * sommaire_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return std::clamp(entrees.sizeHintForColumn(0) + bords, LargeurSommaireMin, LargeurSommaireMax);
 }
 
 QWidget* VisionneuseAide::FaitSommaire() {
@@ -151,7 +160,7 @@ QWidget* VisionneuseAide::FaitBarre() {
     trouver_ = Nomme(new QLineEdit, "Trouver");
     trouver_->setPlaceholderText(QTexte(TexteTrouver));
     trouver_->setClearButtonEnabled(true);
-    trouver_->setMaximumWidth(LargeurSommaire);
+    trouver_->setMaximumWidth(LargeurTrouver);
     barre->addWidget(trouver_);
     QAction* precedent = AjouteCommande(*barre, "TrouvePrecedent", TexteTrouvePrecedent, {Qt::SHIFT | Qt::Key_F3});
     QAction* suivant = AjouteCommande(*barre, "TrouveSuivant", TexteTrouveSuivant, {QKeySequence(Qt::Key_F3)});

@@ -6,10 +6,12 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -90,7 +92,12 @@ void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter)
     dialogue.setLabelText(QFileDialog::Reject, QTexte(TexteAnnuler));
     dialogue.setLabelText(QFileDialog::FileName, QTexte(TexteNomFichier));
     dialogue.setLabelText(QFileDialog::FileType, QTexte(TexteTypeFichier));
-    TientSurEcran(dialogue, TailleFichiers); // the toolkit's own opens too narrow for its columns
+    // The toolkit's own opens too narrow for its columns.
+    TientSurEcran(dialogue, TailleFichiers);
+    if (const auto* liste = dialogue.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        liste->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
 }
 
 std::filesystem::path FichierChoisi(const QFileDialog& dialogue) {

@@ -28,7 +28,7 @@
 
 namespace {
 
-constexpr QSize TailleFenetre(1080, 780);
+constexpr QSize TailleFenetre(1160, 780);
 constexpr int LargeurSommaireMin = 300, LargeurSommaireMax = 420; // pixels
 constexpr int LargeurTrouver = 300;                               // pixels
 constexpr int MargeTitre = 18;                                    // pixels

@@ -52,6 +52,7 @@ void HabilleTable(QTextTable& table, const QColor& lignes, const QColor& tete) {
     format.setCellPadding(MargeCellule);
     format.setCellSpacing(0);
     format.setTopMargin(MargeCellule);
+    format.setRightMargin(1); // for its frame, which the toolkit lets stand out of the page
     format.setBottomMargin(MargePage);
     table.setFormat(format);
     for (int colonne = 0; colonne < table.columns(); ++colonne) {

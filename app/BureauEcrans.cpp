@@ -56,10 +56,16 @@ void BureauEcrans::Place(QMdiSubWindow& cadre) {
     QWidget* principale = window();
     if (!principale->isMaximized() && !manque.isNull()) TientSurEcran(*principale, principale->size() + manque);
     const QSize place = viewport()->size();
-    // A sheet that is scrolled up and down keeps its width beside the bar.
-    if (besoin.height() > place.height()) besoin.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    cadre.resize(besoin.boundedTo(place));
+    cadre.resize(TailleOuverte(cadre));
     cadre.move((place.width() - cadre.width()) / 2, (place.height() - cadre.height()) / 2);
+}
+
+QSize BureauEcrans::TailleOuverte(const QMdiSubWindow& cadre) const {
+    const QSize place = viewport()->size();
+    QSize besoin = cadre.sizeHint();
+    // A sheet that is too high scrolls, and its bar is not to make it too wide as well.
+    if (besoin.height() > place.height()) besoin.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return besoin.boundedTo(place);
 }
 
 void BureauEcrans::Montre(std::string_view nom) {
@@ -88,6 +94,12 @@ void BureauEcrans::MontreAccueil() {
 void BureauEcrans::resizeEvent(QResizeEvent* evenement) {
     QMdiArea::resizeEvent(evenement);
     if (accueil_ != nullptr) accueil_->setGeometry(viewport()->rect());
+}
+
+/// The toolkit takes the colour of the desk once; the desktop's colours may turn dark while the program runs.
+void BureauEcrans::changeEvent(QEvent* evenement) {
+    QMdiArea::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange) setBackground(palette().dark());
 }
 
 void BureauEcrans::Cache(std::string_view nom) {

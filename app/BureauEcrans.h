@@ -36,6 +36,9 @@ public:
     /// Takes the page that stands on the desk while no child window does.
     void PlaceAccueil(QWidget* accueil);
 
+    /// What a child window opens at: the room that it asks for, as far as the desk has it.
+    QSize TailleOuverte(const QMdiSubWindow& cadre) const;
+
     void Cache(std::string_view nom);
     void Ferme(std::string_view nom);
 
@@ -62,6 +65,7 @@ signals:
 protected:
     bool eventFilter(QObject* objet, QEvent* evenement) override;
     void resizeEvent(QResizeEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
 
 private:
     QMdiSubWindow* Cadre(std::string_view nom) const;

@@ -127,6 +127,7 @@ private:
     void MontreAccueil();
 
     // Later starts of the program, in RemisesMdi.cpp.
+    void OuvreQuandLibre(const std::filesystem::path& fichier);
     void OuvreRemis();
     void VientDevant(const std::string& jeton);
 
@@ -157,7 +158,7 @@ private:
     Aide aide_;
     std::map<std::string, std::string, std::less<>> sauves_; ///< what each window held when it was opened or last saved
     std::vector<std::filesystem::path> recents_;             ///< opened or saved in this run, the last first
-    std::deque<std::filesystem::path> remis_;                ///< handed over by later starts, and not opened yet
+    std::deque<std::filesystem::path> remis_;                ///< handed over or dropped, and not opened yet
     QTimer attenteRemis_;                                    ///< until the next of them can be opened
     QTimer garde_;                                           ///< brings the recovery file up to date
 };

@@ -154,7 +154,6 @@ void MdiCamA::dropEvent(QDropEvent* evenement) {
     const QString fichier = FichierGlisse(*evenement->mimeData());
     if (fichier.isEmpty()) return;
     evenement->acceptProposedAction();
-    // The program that the file comes from waits until the drop is over.
-    QMetaObject::invokeMethod(
-        this, [this, fichier] { OuvreAutre(Chemin(fichier)); }, Qt::QueuedConnection);
+    // The program that the file comes from waits until the drop is over; a box that is open may not be left by it.
+    OuvreQuandLibre(Chemin(fichier));
 }

@@ -28,9 +28,12 @@ bool AttendUtilisateur() {
 
 void MdiCamA::Accueille(const Remise& remise) {
     VientDevant(remise.jeton);
-    if (remise.fichier.empty()) return;
-    remis_.push_back(remise.fichier);
-    if (AttendUtilisateur()) Annonce(Texte(TexteOuvertureAttend) + " " + S(QChemin(remise.fichier.filename())));
+    if (!remise.fichier.empty()) OuvreQuandLibre(remise.fichier);
+}
+
+void MdiCamA::OuvreQuandLibre(const std::filesystem::path& fichier) {
+    remis_.push_back(fichier);
+    if (AttendUtilisateur()) Annonce(Texte(TexteOuvertureAttend) + " " + S(QChemin(fichier.filename())));
     attenteRemis_.start(0);
 }
 

@@ -16,6 +16,7 @@ constexpr int LargeurRangee = 22; ///< and before the five columns
 constexpr int LargeurColonne = 11;
 constexpr double TaillePage = 12; ///< points
 constexpr int MargeDate = 5;      ///< blanks before the date
+constexpr int MargeNote = 2;      ///< and before the notes of a group
 
 /// A line of the data: the text it is printed under, and the member that it prints.
 struct LigneDonnees {
@@ -89,15 +90,6 @@ void ImprimeDonnees(Tirage& tirage, const RapportGlobique& rapport) {
     tirage.Ligne();
 }
 
-void ImprimeGeometrie(Tirage& tirage, const RapportGlobique& rapport) {
-    for (const GroupeResultats& groupe : rapport.geometrie) {
-        tirage.Reserve(static_cast<int>(groupe.lignes.size()) + 1);
-        tirage.Ligne(groupe.titre, true);
-        for (const LigneResultat& ligne : groupe.lignes) tirage.Ligne(LigneNommee(ligne, 2));
-    }
-    tirage.Ligne();
-}
-
 /// The notes in lines no wider than the page.
 std::vector<std::string> LignesNotes(const RapportGlobique& rapport) {
     std::vector<std::string> lignes;
@@ -106,6 +98,26 @@ std::vector<std::string> LignesNotes(const RapportGlobique& rapport) {
         lignes.insert(lignes.end(), coupees.begin(), coupees.end());
     }
     return lignes;
+}
+
+void AjouteNote(std::vector<std::string>& notes, const LigneResultat& ligne) {
+    if (!ligne.note.empty() && std::find(notes.begin(), notes.end(), ligne.note) == notes.end())
+        notes.push_back(ligne.note);
+}
+
+void ImprimeGeometrie(Tirage& tirage, const RapportGlobique& rapport) {
+    for (const GroupeResultats& groupe : rapport.geometrie) {
+        std::vector<std::string> notes, lignes;
+        for (const LigneResultat& ligne : groupe.lignes) AjouteNote(notes, ligne);
+        for (const std::string& note : notes)
+            for (const std::string& ligne : CoupeEnLignes(note, FormatPage{}.colonnes - MargeNote))
+                lignes.push_back(Espaces(MargeNote) + ligne);
+        tirage.Reserve(static_cast<int>(groupe.lignes.size() + lignes.size()) + 1);
+        tirage.Ligne(groupe.titre, true);
+        for (const LigneResultat& ligne : groupe.lignes) tirage.Ligne(LigneNommee(ligne, 2));
+        for (const std::string& ligne : lignes) tirage.Ligne(ligne);
+    }
+    tirage.Ligne();
 }
 
 void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
@@ -129,15 +141,12 @@ void ImprimeCapaCalcules(Tirage& tirage, const RapportGlobique& rapport) {
     for (const std::string& ligne : notes) tirage.Ligne(ligne);
 }
 
-/// The notes of values that are not what they look like, each once.
-std::vector<std::string> Rassemble(const RapportGlobique& rapport, std::vector<std::string> notes) {
-    const auto ajoute = [&](const LigneResultat& ligne) {
-        if (!ligne.note.empty() && std::find(notes.begin(), notes.end(), ligne.note) == notes.end())
-            notes.push_back(ligne.note);
-    };
-    for (const auto& groupe : rapport.geometrie) std::for_each(groupe.lignes.begin(), groupe.lignes.end(), ajoute);
+/// Behind the notes of the calculation those of the capacities that are not what they look like, each once.
+std::vector<std::string> NotesCapacites(const RapportGlobique& rapport) {
+    std::vector<std::string> notes = rapport.notes;
     for (const auto& table : rapport.capacites)
-        for (const auto& rangee : table.rangees) std::for_each(rangee.cellules.begin(), rangee.cellules.end(), ajoute);
+        for (const auto& rangee : table.rangees)
+            for (const LigneResultat& cellule : rangee.cellules) AjouteNote(notes, cellule);
     return notes;
 }
 
@@ -184,7 +193,7 @@ RapportGlobique RapportOscillateur(const DonneesOscillateur& donnees, const Resu
 void ImprimeCapacites(Imprimante& imprimante, const RapportGlobique& rapport, const MecanismeGlobique& donnees,
                       const ResultatGlobique& resultat) {
     RapportGlobique complet = rapport;
-    complet.notes = Rassemble(rapport, rapport.notes);
+    complet.notes = NotesCapacites(rapport);
     FormatPage format;
     format.taille = TaillePage;
     format.pied = false; // three or four pages, the drawings among them

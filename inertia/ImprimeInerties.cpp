@@ -128,31 +128,42 @@ void ImprimeTableGenre(Tirage& tirage, const Assemblage& assemblage, const Genre
 }
 
 /// The totals of the list, a torque only when it is not zero, and what must be known of them.
-void ImprimeTotaux(Tirage& tirage, const Assemblage& assemblage) {
+std::vector<std::string> LignesTotaux(const Assemblage& assemblage) {
     constexpr int largeurNom = 20;
-    LigneSoulignee(tirage, Texte(TexteTotaux));
+    std::vector<std::string> lignes;
     for (std::size_t i = 0; i < assemblage.totaux.size(); ++i)
         if (i < 2 || assemblage.totaux[i] != 0)
-            LignePlaine(tirage, CadreAGauche(Texte(LesGrandeurs()[i].texte), largeurNom) + " =  " +
-                                    Format(assemblage.totaux[i], "####.00") + UnitesTotaux[i]);
+            lignes.push_back(CadreAGauche(Texte(LesGrandeurs()[i].texte), largeurNom) + " =  " +
+                             Format(assemblage.totaux[i], "####.00") + UnitesTotaux[i]);
     for (const std::string& note : NotesTotaux(assemblage))
-        for (const std::string& ligne : CoupeEnLignes(note, ColonnesPage - Marge)) LignePlaine(tirage, ligne);
+        for (const std::string& ligne : CoupeEnLignes(note, ColonnesPage - Marge)) lignes.push_back(ligne);
+    return lignes;
 }
 
 /// The totals in full precision, on one line as long as they fit.
-void ImprimeExacts(Tirage& tirage, const Assemblage& assemblage) {
+std::vector<std::string> LignesExacts(const Assemblage& assemblage) {
     const Grandeurs exacts = TotauxExacts(assemblage);
-    std::string ligne = Texte(TexteExact) + " :";
+    std::vector<std::string> lignes{Texte(TexteExact) + " :"};
     for (std::size_t i = 0; i < exacts.size(); ++i) {
         if (i >= 2 && exacts[i] == 0) continue;
         const std::string valeur = "  " + StrTrim(exacts[i]) + UnitesTotaux[i];
-        if (NombreCaracteres(ligne + valeur) > ColonnesPage - Marge) {
-            LignePlaine(tirage, ligne);
-            ligne = Espaces(NombreCaracteres(Texte(TexteExact)) + 2);
-        }
-        ligne += valeur;
+        if (NombreCaracteres(lignes.back() + valeur) > ColonnesPage - Marge)
+            lignes.push_back(Espaces(NombreCaracteres(Texte(TexteExact)) + 2));
+        lignes.back() += valeur;
     }
-    LignePlaine(tirage, ligne);
+    return lignes;
+}
+
+/// The totals stand together, on the next page when this one has no room for them.
+void ImprimeTotaux(Tirage& tirage, const Assemblage& assemblage) {
+    const std::vector<std::string> totaux = LignesTotaux(assemblage), exacts = LignesExacts(assemblage);
+    constexpr std::size_t titreEtBlancs = 3;
+    tirage.Reserve(static_cast<int>(totaux.size() + exacts.size() + titreEtBlancs));
+    LignePlaine(tirage, {});
+    LigneSoulignee(tirage, Texte(TexteTotaux));
+    for (const std::string& ligne : totaux) LignePlaine(tirage, ligne);
+    LignePlaine(tirage, {});
+    for (const std::string& ligne : exacts) LignePlaine(tirage, ligne);
 }
 
 /// Characters of the widest line: the text is reduced for values longer than usual.
@@ -172,15 +183,10 @@ void ImprimeInerties(Imprimante& imprimante, const Assemblage& assemblage) {
                                .pied = false,
                                .enTete = DebutPageInerties});
     if (!genres.empty()) {
-        constexpr int lignesTotaux = 12; // with their notes
         tirage.DebutRapport();
         ImprimeFigures(tirage, genres);
         for (const GenreUtilise& genre : genres) ImprimeTableGenre(tirage, assemblage, genre);
-        tirage.Reserve(lignesTotaux);
-        LignePlaine(tirage, {});
         ImprimeTotaux(tirage, assemblage);
-        LignePlaine(tirage, {});
-        ImprimeExacts(tirage, assemblage);
         tirage.FinRapport(false);
     }
     tirage.FinDocument();

@@ -1,14 +1,17 @@
 #include "widgets/DialoguesQt.h"
 
 #include "widgets/Chaines.h"
+#include "widgets/TailleEcran.h"
 
 #include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -77,6 +80,8 @@ QStringList Filtres(const DemandeFichier& demande) {
     return filtres;
 }
 
+constexpr QSize TailleFichiers(860, 520);
+
 void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter) {
     dialogue.setWindowTitle(Q(demande.titre));
     dialogue.setDirectory(QChemin(demande.dossier));
@@ -87,6 +92,12 @@ void Prepare(QFileDialog& dialogue, const DemandeFichier& demande, int accepter)
     dialogue.setLabelText(QFileDialog::Reject, QTexte(TexteAnnuler));
     dialogue.setLabelText(QFileDialog::FileName, QTexte(TexteNomFichier));
     dialogue.setLabelText(QFileDialog::FileType, QTexte(TexteTypeFichier));
+    // The toolkit's own opens too narrow for its columns.
+    TientSurEcran(dialogue, TailleFichiers);
+    if (const auto* liste = dialogue.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        liste->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        liste->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
 }
 
 std::filesystem::path FichierChoisi(const QFileDialog& dialogue) {

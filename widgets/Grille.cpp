@@ -112,6 +112,15 @@ int Grille::NombreColonnes() const {
     return modele_->columnCount();
 }
 
+void Grille::Prefere(QSize taille) {
+    preferee_ = taille;
+    updateGeometry();
+}
+
+QSize Grille::sizeHint() const {
+    return preferee_.isValid() ? preferee_ : QTableView::sizeHint();
+}
+
 void Grille::MesureColonnes() {
     const QFontMetrics cellules(font());
     const QFontMetrics entetes(horizontalHeader()->font());

@@ -28,6 +28,10 @@ public:
     /// selection.
     QString TexteSelection() const;
 
+    /// The room to ask for, pixels; with less, down to the minimum size, the table scrolls.
+    void Prefere(QSize taille);
+    QSize sizeHint() const override;
+
 protected:
     void contextMenuEvent(QContextMenuEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
@@ -42,4 +46,5 @@ private:
 
     ModeleGrille* modele_;
     std::vector<int> largeurs_; ///< what each column needs, pixels
+    QSize preferee_;            ///< none: the toolkit's own
 };

@@ -88,7 +88,8 @@ PanneauZones::PanneauZones(const DescriptionZones& description, const ChampsZone
     disposition->addLayout(tete);
     disposition->addWidget(FaitCadreZone(champs));
     grille_ = Nomme(new Grille, "Grille");
-    grille_->setMinimumSize(630, 140);
+    grille_->Prefere({630, 192});
+    grille_->setMinimumSize(400, 140); // rather its columns scroll than the sheet
     disposition->addWidget(FaitEtiquette("TitreGrille", grille_));
     remarques_ = Nomme(new Remarques, "RemarquesZones");
     disposition->addWidget(remarques_);

@@ -80,7 +80,7 @@ void SaisieCame::Compose(const std::vector<QWidget*>& colonnes, QTabWidget* feui
         new PanneauZones(description_.zones, description_.champsZones, [this](Zone& zone) { return AcheveZone(zone); });
     auto* contenu = new QWidget;
     auto* rangee = new QHBoxLayout(contenu);
-    rangee->setContentsMargins({});
+    if (feuilles == nullptr) rangee->setContentsMargins({}); // those of the window are enough
     for (auto* colonne : colonnes) rangee->addWidget(colonne);
     rangee->addWidget(zones_, 1);
 

@@ -31,7 +31,9 @@ constexpr int NotesMecanisme[] = {447, 448, 449, 450, TexteNoteStops, TexteNoteB
 constexpr std::size_t NombreGraphes = 3;
 
 /// What is seen of the report at first: its longest lines whole, beside the notes.
-constexpr int ColonnesVues = 88, HauteurVue = 520, LargeurNotes = 260; // characters, pixels, pixels
+constexpr int ColonnesVues = 90, HauteurVue = 520, LargeurNotes = 260; // characters, pixels, pixels
+/// And at the least.
+constexpr int ColonnesMin = 50, HauteurMin = 160; // characters, pixels
 
 /// The number of entries of the mechanism; those behind them are of the roller.
 constexpr std::ptrdiff_t EntreesMecanisme = 8;
@@ -86,7 +88,9 @@ QWidget* CamesConjugueesIndexeur::FaitRapport() {
     QFont police(QStringLiteral("Courier New"));
     police.setStyleHint(QFont::Monospace);
     grille_->setFont(police);
-    grille_->setMinimumSize(grille_->fontMetrics().horizontalAdvance(QLatin1Char('0')) * ColonnesVues, HauteurVue);
+    const int caractere = grille_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    grille_->Prefere({caractere * ColonnesVues, HauteurVue});
+    grille_->setMinimumSize(caractere * ColonnesMin, HauteurMin);
     notes_ = Nomme(new PanneauResultats, "Notes");
     auto* feuille = new QWidget;
     auto* rangee = new QHBoxLayout(feuille);

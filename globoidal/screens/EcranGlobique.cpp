@@ -19,6 +19,7 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
+#include <QStyle>
 #include <QTimer>
 
 #include <filesystem>
@@ -28,7 +29,10 @@ namespace {
 constexpr int TexteResultats = 330, TexteGeometrie = 574;
 constexpr double Symetrique = 0.5;
 
-QWidget* Defilante(QWidget* contenu) {
+/// A sheet of results, as far off the edges of its tab as the fields are.
+QWidget* FeuilleResultats(PanneauResultats* contenu) {
+    const int marge = contenu->style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    contenu->layout()->setContentsMargins(marge, marge, marge, marge);
     return new ZoneDefilante(contenu);
 }
 
@@ -40,7 +44,7 @@ EcranGlobique::EcranGlobique(const char* nom, int titre, Booleen16 DonneesEtude:
 
 void EcranGlobique::ComposeGlobique(const Groupes& groupes) {
     capacites_ = new PanneauResultats;
-    geometrie_ = new PanneauResultats;
+    geometrie_ = new PanneauResultats(2);
     section_ = Nomme(new ZoneDessin, "Section");
     limites_ = Nomme(new ZoneDessin, "Limites");
     fichier_ = Nomme(FaitNote({}), "FichierLoi");
@@ -61,8 +65,8 @@ void EcranGlobique::ComposeGlobique(const Groupes& groupes) {
         for (QWidget* controle : panneau->Controles()) composition.ordre.push_back(controle);
     for (PanneauLoi* loi : groupes.lois)
         for (QWidget* controle : loi->Controles()) composition.ordre.push_back(controle);
-    composition.resultats = {{Defilante(capacites_), TexteResultats},
-                             {Defilante(geometrie_), TexteGeometrie},
+    composition.resultats = {{FeuilleResultats(capacites_), TexteResultats},
+                             {FeuilleResultats(geometrie_), TexteGeometrie},
                              {section_, TexteSection},
                              {FaitFeuilleParcours(), TexteParcours},
                              {limites_, TexteBarres}};

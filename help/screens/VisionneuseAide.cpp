@@ -26,11 +26,12 @@
 
 namespace {
 
-constexpr QSize TailleFenetre(1080, 780);
-constexpr int LargeurSommaire = 300;
-constexpr int MargeTitre = 18;  // pixels
-constexpr int MargePage = 14;   // pixels
-constexpr int MargeCellule = 5; // pixels
+constexpr QSize TailleFenetre(1160, 780);
+constexpr int LargeurSommaireMin = 300, LargeurSommaireMax = 420; // pixels
+constexpr int LargeurTrouver = 300;                               // pixels
+constexpr int MargeTitre = 18;                                    // pixels
+constexpr int MargePage = 14;                                     // pixels
+constexpr int MargeCellule = 5;                                   // pixels
 constexpr int RoleNom = Qt::UserRole;
 constexpr QColor CouleurTrouve(255, 200, 0, 120);
 
@@ -49,6 +50,7 @@ void HabilleTable(QTextTable& table, const QColor& lignes, const QColor& tete) {
     format.setCellPadding(MargeCellule);
     format.setCellSpacing(0);
     format.setTopMargin(MargeCellule);
+    format.setRightMargin(1); // for its frame, which the toolkit lets stand out of the page
     format.setBottomMargin(MargePage);
     table.setFormat(format);
     for (int colonne = 0; colonne < table.columns(); ++colonne) {
@@ -74,7 +76,6 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     auto* partage = new QSplitter;
     partage->addWidget(FaitSommaire());
     partage->addWidget(page_);
-    partage->setSizes({LargeurSommaire, TailleFenetre.width() - LargeurSommaire});
     partage->setStretchFactor(1, 1);
     partage->setChildrenCollapsible(false);
     auto* disposition = new QVBoxLayout(this);
@@ -85,8 +86,17 @@ VisionneuseAide::VisionneuseAide(const std::filesystem::path& fichier, QWidget* 
     connect(page_, &QTextBrowser::sourceChanged, this, &VisionneuseAide::PageChangee);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     RemplitSommaire();
+    const int sommaire = LargeurSommaire();
+    partage->setSizes({sommaire, TailleFenetre.width() - sommaire});
     page_->setFocus();
     TientSurEcran(*this, TailleFenetre);
+}
+
+/// Of the longest title, as far as the page keeps room enough.
+int VisionneuseAide::LargeurSommaire() const {
+    const QAbstractItemView& entrees = *sommaire_;
+    const int bords = 2 * sommaire_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return std::clamp(entrees.sizeHintForColumn(0) + bords, LargeurSommaireMin, LargeurSommaireMax);
 }
 
 QWidget* VisionneuseAide::FaitSommaire() {
@@ -149,7 +159,7 @@ QWidget* VisionneuseAide::FaitBarre() {
     trouver_ = Nomme(new QLineEdit, "Trouver");
     trouver_->setPlaceholderText(QTexte(TexteTrouver));
     trouver_->setClearButtonEnabled(true);
-    trouver_->setMaximumWidth(LargeurSommaire);
+    trouver_->setMaximumWidth(LargeurTrouver);
     barre->addWidget(trouver_);
     QAction* precedent = AjouteCommande(*barre, "TrouvePrecedent", TexteTrouvePrecedent, {Qt::SHIFT | Qt::Key_F3});
     QAction* suivant = AjouteCommande(*barre, "TrouveSuivant", TexteTrouveSuivant, {QKeySequence(Qt::Key_F3)});

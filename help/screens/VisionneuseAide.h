@@ -36,6 +36,7 @@ protected:
 
 private:
     QWidget* FaitSommaire();
+    int LargeurSommaire() const;
     QWidget* FaitBarre();
     QAction* AjouteCommande(class QToolBar& barre, const char* nom, int texte,
                             const std::vector<QKeySequence>& touches);

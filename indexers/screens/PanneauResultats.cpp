@@ -15,6 +15,12 @@ namespace {
 
 constexpr const char* GabaritValeur = "-000000.000 ??";
 
+/// Lines of the sheet that a group takes, its title and frame among them.
+std::size_t LignesOccupees(const GroupeResultats& groupe) {
+    constexpr std::size_t TitreEtCadre = 2;
+    return groupe.lignes.size() + TitreEtCadre;
+}
+
 void AjouteDistincte(std::vector<std::string>& notes, const std::string& note) {
     if (!note.empty() && std::find(notes.begin(), notes.end(), note) == notes.end()) notes.push_back(note);
 }
@@ -28,8 +34,8 @@ QLabel* FaitNote(const std::string& texte) {
     return note;
 }
 
-PanneauResultats::PanneauResultats(bool couches, QWidget* parent)
-    : QWidget(parent), disposition_(new QBoxLayout(couches ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this)) {
+PanneauResultats::PanneauResultats(std::size_t colonnes, QWidget* parent)
+    : QWidget(parent), colonnes_(colonnes), disposition_(new QVBoxLayout(this)) {
     disposition_->setContentsMargins({});
 }
 
@@ -40,10 +46,28 @@ void PanneauResultats::Montre(const std::vector<GroupeResultats>& groupes, const
         delete ancien->widget();
         delete ancien;
     }
-    for (const GroupeResultats& groupe : groupes) disposition_->addWidget(FaitGroupe(groupe));
+    if (!groupes.empty()) disposition_->addWidget(FaitColonnes(groupes));
     for (const TableResultats& table : tables) disposition_->addWidget(FaitTable(table));
     for (const std::string& note : notes) disposition_->addWidget(FaitNote(note));
     disposition_->addStretch();
+}
+
+/// Columns of about the same height: each group stands in the one that its middle falls into.
+QWidget* PanneauResultats::FaitColonnes(const std::vector<GroupeResultats>& groupes) {
+    auto* rangee = new QWidget;
+    auto* disposition = new QHBoxLayout(rangee);
+    disposition->setContentsMargins({});
+    std::vector<QVBoxLayout*> piles(colonnes_);
+    for (QVBoxLayout*& pile : piles) disposition->addLayout(pile = new QVBoxLayout, 1);
+    std::size_t total = 0, avant = 0;
+    for (const GroupeResultats& groupe : groupes) total += LignesOccupees(groupe);
+    for (const GroupeResultats& groupe : groupes) {
+        const std::size_t lignes = LignesOccupees(groupe);
+        piles[(2 * avant + lignes) * colonnes_ / (2 * total)]->addWidget(FaitGroupe(groupe));
+        avant += lignes;
+    }
+    for (QVBoxLayout* pile : piles) pile->addStretch();
+    return rangee;
 }
 
 QWidget* PanneauResultats::FaitGroupe(const GroupeResultats& groupe) {

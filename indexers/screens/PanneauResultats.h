@@ -17,8 +17,8 @@ class PanneauResultats : public QWidget {
     Q_OBJECT
 
 public:
-    /// @param couches the groups one beside the other instead of one below the other
-    explicit PanneauResultats(bool couches = false, QWidget* parent = nullptr);
+    /// @param colonnes that the groups fill, one after the other
+    explicit PanneauResultats(std::size_t colonnes = 1, QWidget* parent = nullptr);
 
     /// Shows these in place of what was shown.
     void Montre(const std::vector<GroupeResultats>& groupes, const std::vector<TableResultats>& tables = {},
@@ -29,13 +29,14 @@ protected:
 
 private:
     QLabel* FaitValeurDe(const LigneResultat& ligne);
+    QWidget* FaitColonnes(const std::vector<GroupeResultats>& groupes);
     QWidget* FaitGroupe(const GroupeResultats& groupe);
     QWidget* FaitTable(const TableResultats& table);
     void AjouteNotes(QGridLayout& grille, const std::vector<std::string>& notes);
     void Colore(QLabel& valeur) const;
 
+    std::size_t colonnes_;
     QBoxLayout* disposition_;
-    QWidget* contenu_ = nullptr;
     std::vector<QLabel*> rouges_;
 };
 

@@ -89,6 +89,8 @@ void PanneauSolide::AjouteOptions() {
     rangee->addStretch();
     qobject_cast<QGridLayout*>(layout())->addLayout(rangee, LigneOptions, 0, 1, 3);
     masseTotal_->setChecked(true);
+    setTabOrder(lignes_[RangMasse - 1].champ, masseTotal_);
+    setTabOrder(masseTotal_, masseSpecifique_);
     // `clicked` is a user's choice alone; a choice made by the program has its own consequences.
     connect(masseTotal_, &QRadioButton::clicked, this, &PanneauSolide::ChoisitOption);
     connect(masseSpecifique_, &QRadioButton::clicked, this, &PanneauSolide::ChoisitOption);

@@ -17,6 +17,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QTreeWidget>
 
 namespace {
 
@@ -66,6 +67,8 @@ protected:
 TEST_F(AideDuProgramme, F1OpensThePageOfTheScreen) {
     F1(mdi_);
     EXPECT_EQ(Page(), "accueil");
+    const QAbstractItemView* sommaire = Le<QTreeWidget>("Sommaire");
+    EXPECT_LE(sommaire->sizeHintForColumn(0), sommaire->viewport()->width()) << "its titles stand whole";
     mdi_.OuvreFichier(std::filesystem::path(VELORIN_DOSSIER) / "Profils" / "Exemple.Ang");
     F1(*mdi_.menuBar());
     EXPECT_EQ(Page(), "Resultat") << "the window in front";

@@ -1,4 +1,5 @@
 // No caption is cut: every screen, in every delivered language and in one that a user has added, with longer words.
+#include "app/BureauEcrans.h"
 #include "app/CameType.h"
 #include "app/Ecrans.h"
 #include "app/MdiCamA.h"
@@ -16,8 +17,10 @@
 #include "widgets/Chaines.h"
 #include "widgets/FenetreEnfant.h"
 
-#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 #include <memory>
@@ -56,6 +59,16 @@ void ChercheFeuilles(QWidget& ecran, const char* langue) {
         unite->click();
         Cherche(ecran, langue);
     }
+}
+
+/// The sheets in view that scroll sideways.
+std::vector<std::string> FeuillesDeBiais(QWidget& ecran) {
+    std::vector<std::string> feuilles;
+    for (const auto* feuille : ecran.findChildren<QScrollArea*>())
+        if (feuille->isVisible() && feuille->horizontalScrollBar()->maximum() > 0)
+            feuilles.push_back(S(ecran.objectName()) + " by " +
+                               std::to_string(feuille->horizontalScrollBar()->maximum()));
+    return feuilles;
 }
 
 void ChercheEcran(const EcranEnfant& rangee, const char* langue) {
@@ -108,9 +121,13 @@ TEST_P(LegendesDeToutEcran, OnTheDeskOfASmallDisplay) {
         FenetreEnfant& fenetre = *mdi.OuvreEcran(ecran.nom);
         mdi.resize(PetitEcran);
         LaisseFaire();
-        const QSize place = Controle<QMdiArea>(mdi, "Bureau")->viewport()->size();
-        fenetre.parentWidget()->resize(fenetre.parentWidget()->sizeHint().boundedTo(place));
+        const QSize place = Controle<BureauEcrans>(mdi, "Bureau")->viewport()->size();
+        auto* cadre = qobject_cast<QMdiSubWindow*>(fenetre.parentWidget());
+        cadre->resize(Controle<BureauEcrans>(mdi, "Bureau")->TailleOuverte(*cadre));
         ChercheFeuilles(fenetre, GetParam());
+        if (std::string_view(GetParam()) != NomLangueLongue) {
+            EXPECT_EQ(FeuillesDeBiais(fenetre), std::vector<std::string>()) << GetParam() << " " << ecran.nom;
+        }
         EXPECT_LE(fenetre.parentWidget()->width(), place.width()) << GetParam() << " " << ecran.nom;
         EXPECT_LE(fenetre.parentWidget()->height(), place.height()) << GetParam() << " " << ecran.nom;
     }

@@ -1,6 +1,7 @@
 // A study file is opened as it is named, dropped or chosen again.
 #include "outils/FenetrePrincipale.h"
 
+#include <QDialog>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMenu>
@@ -57,6 +58,18 @@ TEST_F(Ouvertures, ADroppedFileTakesThePlaceOfWhatIsOpen) {
     EXPECT_TRUE(Etat().starts_with(Texte(128) + " notes.doc : ")) << Etat();
     EXPECT_FALSE(Glisse({}));
     EXPECT_FALSE(Glisse({balancier, balancier}));
+}
+
+TEST_F(Ouvertures, ADroppedFileLeavesAnOpenBoxAlone) {
+    Ouvre("Exemple.Ang");
+    QDialog boite(mdi_.get());
+    boite.open();
+    ASSERT_TRUE(Glisse({QUrl::fromLocalFile(QChemin(Copie("Balancier.Osc", "b.Osc")))}));
+    QTest::qWait(250);
+    EXPECT_EQ(etude.donnees.TypeCame, "Angulaire") << "what the box is about stays";
+    EXPECT_EQ(Etat(), Texte(990) + " b.Osc");
+    boite.close();
+    EXPECT_TRUE(QTest::qWaitFor([] { return etude.donnees.TypeCame == "Oscillation"; }, 1000));
 }
 
 TEST_F(Ouvertures, RecentFilesStandInTheMenuTheLastFirst) {

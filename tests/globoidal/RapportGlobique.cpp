@@ -49,6 +49,11 @@ TEST_F(RapportGlobiqueImprime, ThreePartsThenTheDrawings) {
         EXPECT_NE(Ligne(Texte(586)).find(part), std::string::npos);
     EXPECT_NE(Ligne(Texte(581)).find(" ?? "), std::string::npos) << "what is red keeps its warning";
     EXPECT_EQ(Ligne(Texte(575)).find("??"), std::string::npos);
+    const auto rang = [&](int texte) {
+        const std::string debut = Texte(texte).substr(0, 30);
+        return std::find_if(lignes.begin(), lignes.end(), [&](const auto& l) { return l.find(debut) != l.npos; });
+    };
+    EXPECT_LT(rang(884), rang(516)) << "the note of the pitch radius stands with the geometry";
     EXPECT_FALSE(imprimante.pages.back().traces.empty());
     for (const std::string& ligne : lignes) EXPECT_LE(NombreCaracteres(ligne), 78) << ligne;
 }

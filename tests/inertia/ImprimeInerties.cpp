@@ -57,6 +57,11 @@ TEST_F(RapportInerties, SolidsOfAKindShareFigureAndTable) {
     EXPECT_EQ(Suivante("Totaux", 3), "Couple de travail    =  7.85 Nm");
 }
 
+TEST_F(RapportInerties, TheTotalsStayOnAPageThatHasRoomForThem) {
+    ImprimeInerties(papier, LitInerties(VELORIN_SOURCES "/Profils/Plateau.Ine"));
+    EXPECT_EQ(papier.pages.size(), 1U);
+}
+
 TEST_F(RapportInerties, ADimensionWithoutAColumnStandsBehindItsRow) {
     Imprime(Couronne + "11;1;1;True;4.5;210;62.5;40.5;30\n13;1;1;True;4.5;210;62.5;40.5;30\n1;1;1;True;2;;80;;10\n");
     const auto fin = [](const std::string& ligne) { return Trim(ligne.substr(ligne.rfind("  ", ligne.find(" = ")))); };

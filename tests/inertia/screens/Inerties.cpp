@@ -50,6 +50,14 @@ using Textes = std::vector<std::string>;
 
 } // namespace
 
+TEST_F(EcranInerties, TheTabKeyGoesFromTopToBottom) {
+    Le<QWidget>("Text2")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(AFocus("MasseTotal"));
+    QTest::keyClick(ecran->focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(AFocus("Text3"));
+}
+
 TEST_F(EcranInerties, RunsFromKeyToKeyIntoTheList) {
     SuitReturn({"Text1", "Text2", "Text3", "Text6", "Text8", "Plus"});
     Le<QWidget>("Text1")->setFocus(Qt::TabFocusReason);

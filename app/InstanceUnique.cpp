@@ -51,7 +51,7 @@ std::vector<fs::path> AdressesInstance(const fs::path& dossierBase) {
     lieu += Affichage(); // a window on another display is not to be seen by whoever starts here
     const std::string nom = "velorin-" + EmpreinteDossier(lieu) + ".sock";
     std::vector<fs::path> adresses;
-    if (const fs::path session = DossierSession(); !session.empty()) adresses.push_back(session / nom);
+    if (const fs::path lieux = DossierExecution(); !lieux.empty()) adresses.push_back(lieux / nom);
     adresses.push_back(DossierEtat() / "velorin" / nom);
     return adresses;
 }

@@ -21,7 +21,7 @@ std::filesystem::path DossierEtat() {
 #endif
 }
 
-std::filesystem::path DossierSession() {
+std::filesystem::path DossierExecution() {
     const QString choisi = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return QDir::isAbsolutePath(choisi) && QDir(choisi).exists() ? Chemin(choisi) : std::filesystem::path();
 }

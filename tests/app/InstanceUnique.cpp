@@ -9,7 +9,6 @@
 #include <QProcess>
 
 #include <future>
-#include <set>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -17,10 +16,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The main window listens, for a folder of its own, in a session of its own.
+/// The main window listens, for a folder of its own; its socket stands in a folder of its own, too.
 class Instances : public FenetrePrincipale {
 protected:
-    const QByteArray session_ = qgetenv("XDG_RUNTIME_DIR");
+    const QByteArray execution_ = qgetenv("XDG_RUNTIME_DIR");
     const fs::path utilisateur_ = CheminUtilisateur;
     std::vector<Remise> recues_;
     std::unique_ptr<InstanceUnique> instance_;
@@ -28,14 +27,14 @@ protected:
     Instances() {
         CheminUtilisateur = dossier_ / "base";
         fs::create_directory(CheminUtilisateur);
-        ChoisitSession(dossier_ / "session");
+        ChoisitExecution(dossier_ / "execution");
         Ecoute();
     }
     ~Instances() override {
         CheminUtilisateur = utilisateur_;
-        qputenv("XDG_RUNTIME_DIR", session_);
+        qputenv("XDG_RUNTIME_DIR", execution_);
     }
-    static void ChoisitSession(const fs::path& dossier) {
+    static void ChoisitExecution(const fs::path& dossier) {
         fs::create_directories(dossier);
         qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(dossier.string()));
     }
@@ -164,23 +163,6 @@ TEST_F(Instances, WhileSomethingWaitsForTheUserTheFileWaits) {
     ouvre();
 }
 
-TEST_F(Instances, ManyAtOnceAllArrive) {
-    std::vector<std::future<bool>> departs;
-    for (int i = 0; i < 12; ++i)
-        departs.push_back(std::async(std::launch::async, [fichier = Copie("Plateau.Ine", std::to_string(i) + ".Ine")] {
-            return RemetInstance(CheminUtilisateur, {fichier, {}}, AttenteInstance);
-        }));
-    EXPECT_TRUE(Pendant([&] {
-        return std::all_of(departs.begin(), departs.end(), [](std::future<bool>& depart) { return depart.get(); });
-    }));
-    std::set<fs::path> fichiers;
-    for (const Remise& remise : recues_) fichiers.insert(remise.fichier);
-    EXPECT_EQ(fichiers.size(), 12U);
-    // Opened one after the other, the last ones stand in the menu.
-    const QMenu& recents = *Controle<QMenu>(*mdi_, "FichierRecents");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return recents.actions().size() == 9; }));
-}
-
 TEST_F(Instances, WhatIsNoStartOfOursIsIgnored) {
     const std::string bon = std::string("velorin 1") + '\0' + '\0';
     const std::string messages[] = {"x",
@@ -238,7 +220,7 @@ TEST_F(Instances, EachFolderHasItsOwnSocketUnderAnyName) {
     instance_.reset();
     EXPECT_FALSE(fs::exists(Adresse()));
     // A folder whose name is longer than that of a socket can be, and none at all: the folder for states stands in.
-    ChoisitSession(dossier_ / std::string(200, 's'));
+    ChoisitExecution(dossier_ / std::string(200, 's'));
     Ecoute();
     EXPECT_TRUE(fs::is_socket(Adresse()));
     EXPECT_TRUE(Remet({}));
@@ -278,21 +260,6 @@ TEST_F(Instances, ABaseThatSomebodyElseHoldsIsToldAfterTwoSeconds) {
     const Prise muette = EcouteLocale(Adresse());
     ASSERT_TRUE(muette);
     refuse("a window that does not answer");
-}
-
-TEST_F(Instances, ABaseThatIsLetGoOfIsTakenAndOtherFailuresAreToldAtOnce) {
-    instance_.reset();
-    int essais = 0;
-    const auto libere = [&] { return ++essais < 3 ? DitOccupee() : Configuration{.langue = "English"}; };
-    const auto configuration = DemarreOuRemet(libere, "/a");
-    ASSERT_TRUE(configuration);
-    EXPECT_EQ(configuration->langue, "English");
-    const auto absente = [&]() -> Configuration {
-        ++essais;
-        throw ErreurExecution(NumeroErreur::FichierIntrouvable);
-    };
-    EXPECT_THROW(DemarreOuRemet(absente, "/a"), ErreurExecution);
-    EXPECT_EQ(essais, 4);
 }
 
 TEST_F(Instances, RealStartsHandOverAlsoAfterAKill) {

@@ -52,21 +52,3 @@ TEST_F(Base, EditChangesThePresentRecordAndNoOther) {
     EXPECT_EQ(EchecDe([&] { jeu.Ecrit("D", 2.0); }).numero, NumeroErreur::AppelIncorrect);
     EXPECT_EQ(Contenu(), "Note Ref D - b 1.5 |un \"côté\" aa - |- c 1.5 |");
 }
-
-TEST_F(Base, AFieldComesEmptyAndGoesWithItsValuesAlone) {
-    base_.AjouteChamp("Galets", {"Été \"x\"", false, 60});
-    base_.SupprimeChamp("Galets", "Note");
-    const std::string avant = "Ref D Été \"x\" b 1.5 - |a 1.5 - |c 1.5 - |";
-    EXPECT_EQ(Contenu(), avant);
-    JeuEnregistrements jeu = base_.OuvreTable("Galets");
-    jeu.Seek(std::string("c"));
-    EXPECT_EQ(EnNombre(jeu.Champ("D")), 1.5) << "found by its index, and a number still";
-    jeu.AddNew();
-    jeu.Ecrit("Ref", std::string("a"));
-    EXPECT_EQ(EchecDe([&] { jeu.Update(); }).numero, NumeroErreur::AccesFichier);
-    EXPECT_EQ(EchecDe([&] { base_.AjouteChamp("Galets", {"rEF"}); }).numero, NumeroErreur::AccesFichier);
-    EXPECT_EQ(EchecDe([&] { base_.SupprimeChamp("Galets", "Ref"); }).numero, NumeroErreur::AccesFichier);
-    EXPECT_EQ(EchecDe([&] { base_.SupprimeChamp("Galets", "Note"); }).numero, NumeroErreur::IndiceHorsLimites);
-    EXPECT_EQ(Contenu(BaseDonnees::Usage::Lecture), avant);
-    EXPECT_EQ(EchecDe([&] { base_.SupprimeChamp("Galets", "D"); }).numero, NumeroErreur::AccesFichier);
-}

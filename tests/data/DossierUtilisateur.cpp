@@ -197,17 +197,6 @@ TEST_F(DossierUtilisateur, AnUpdateBringsTextsAndKeepsWhatTheUserAdded) {
     EXPECT_EQ(EnNombre(galets.Champ("HauteurGalet")), 99.5) << "what stands in a catalogue stays";
 }
 
-TEST_F(DossierUtilisateur, AKillDuringTheFirstStartLeavesAFolderThatTheNextOneFills) {
-    const auto livre = Contenu(livree_);
-    const int interrompus = TueEnRoute([this] { fs::remove_all(dossier_ / "donnees"); },
-                                       [&](int tour) {
-                                           ASSERT_NO_THROW(PrepareDossierUtilisateur()) << tour;
-                                           ASSERT_EQ(Contenu(sienne_), livre) << tour;
-                                           ASSERT_TRUE(fs::exists(ConfigurationALire())) << tour;
-                                       });
-    EXPECT_GT(interrompus, Tours / 4);
-}
-
 TEST_F(DossierUtilisateur, AKillDuringAnUpdateLeavesTheOldBaseOrTheNewOne) {
     FaitAncienneBase();
     const std::string ancienne = LitFichierEntier(sienne_);

@@ -21,25 +21,7 @@ protected:
     }
 };
 
-/// The lines of a page that are neither blank nor heading: those that begin with a number.
-std::size_t LignesDePoints(const ImprimanteNotee::Feuillet& page) {
-    std::size_t lignes = 0;
-    for (const std::string& texte : page.Textes()) lignes += EstNombre(Trim(texte).substr(0, Trim(texte).find(' ')));
-    return lignes;
-}
-
 } // namespace
-
-TEST_F(RapportsLois, EveryPointIsPrintedAndThePagesAreCounted) {
-    for (const double angle : {20.0, 54.0, 55.0, 56.0, 360.0}) {
-        const ImprimanteNotee imprimante = Imprime(angle);
-        std::size_t points = 0;
-        for (std::size_t p = 1; p < imprimante.pages.size(); ++p) points += LignesDePoints(imprimante.pages[p]);
-        EXPECT_EQ(points, static_cast<std::size_t>(angle) + 1);
-        const std::string total = std::to_string(imprimante.pages.size() - 1);
-        EXPECT_TRUE(imprimante.pages.back().Textes().back().ends_with(total + " / " + total)) << angle;
-    }
-}
 
 TEST_F(RapportsLois, TheExtremesOfTheGraphsAreMarked) {
     const ImprimanteNotee imprimante = Imprime(90);

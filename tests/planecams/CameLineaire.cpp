@@ -73,13 +73,3 @@ TEST_F(CameLineaire, AsManyZonesAndPointsAsANumberOfThemReaches) {
     EXPECT_NEAR(etude.resultats.Points[32767].Rayon, 51, 1e-12);
     EXPECT_EQ(SommeAngles(32767), 32767);
 }
-
-TEST_F(CameLineaire, ZonesContinueAndFailuresPutTheZonesBack) {
-    PoseZones({{50, 70, 180, "MS"}, {20, 0, 180, "MS"}});
-    CalculeCameLineaire();
-    EXPECT_NEAR(etude.resultats.Points[1440].Rayon, 50, 1e-9) << "the stroke is laid on the previous end";
-    etude.donnees.Zones[2].NomLoi = NomLoiFichier;
-    EXPECT_THROW(CalculeCameLineaire(), ErreurExecution) << "a law file has no place here";
-    EXPECT_EQ(etude.donnees.Zones[1].AngleCame, 180);
-    EXPECT_TRUE(etude.resultats.Points.Vide());
-}

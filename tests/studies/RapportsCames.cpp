@@ -134,18 +134,6 @@ TEST_F(RapportsCames, ACylindricalCamIsPrintedDeveloped) {
             << "at 1:2, down the page, where it is larger";
 }
 
-TEST_F(RapportsCames, DrawingsStayOnASmallerPaper) {
-    Calcule("Exemple.Ang");
-    for (const auto& [largeur, hauteur] : {std::pair{190.9, 259.4}, {123.0, 190.0}}) { // letter, A5
-        imprimante.largeur = largeur, imprimante.hauteur = hauteur;
-        Imprime({M::Profil, M::GraphiqueMouvement, M::GraphiqueForces});
-        for (const auto& page : imprimante.pages)
-            for (const auto& trace : page.traces)
-                for (const PointDessin& p : trace.points)
-                    ASSERT_TRUE(p.x >= 0 && p.x <= largeur && p.y >= 0 && p.y <= hauteur) << p.x << " " << p.y;
-    }
-}
-
 TEST_F(RapportsCames, APrinterThatFailsEndsTheRun) {
     Calcule("Exemple.Ang");
     imprimante.pannePage = 2;

@@ -44,22 +44,6 @@ TEST(DialoguesQt, LExtensionDuFiltre) {
     EXPECT_EQ(AvecExtension("a/came", "*.*"), "a/came");
 }
 
-TEST(DialoguesQt, UneBoitePorteSonTitreOuLeNomDuProgramme) {
-    QStringList titres;
-    QTimer minuterie;
-    QObject::connect(&minuterie, &QTimer::timeout, [&titres] {
-        auto* boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (boite == nullptr) return;
-        titres << boite->windowTitle();
-        boite->close();
-    });
-    minuterie.start(20);
-    DialoguesQt dialogues;
-    dialogues.Message(Icone::Avertissement, "existe", "Suite Impossible");
-    dialogues.Message(Icone::Avertissement, "existe", {});
-    EXPECT_EQ(titres, (QStringList{"Suite Impossible", QCoreApplication::applicationName()}));
-}
-
 TEST(DialoguesQt, SauverDemandeAvantDeRemplacer) {
     const DossierTemporaire dossier;
     dossier.Ecrit("ancien.Ang", "x");

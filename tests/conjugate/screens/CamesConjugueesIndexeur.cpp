@@ -1,7 +1,6 @@
 #include "conjugate/screens/CamesConjugueesIndexeur.h"
 
 #include "conjugate/TextesConjugue.h"
-#include "outils/BaseAEcrire.h"
 #include "outils/EcranDeCalculateur.h"
 #include "outils/ImprimanteNotee.h"
 #include "widgets/Grille.h"
@@ -96,20 +95,6 @@ TEST_F(ConjugateScreen, StopsTellTheirReasonAndShowWhatWasWritten) {
     EXPECT_TRUE(Lignes().empty());
     EXPECT_NE(Notes().find("Sur Usinage dans la piste B part 1 dans la position 1"), std::string::npos);
     EXPECT_FALSE(Imprimable());
-}
-
-TEST_F(ConjugateScreen, ARollerIsKept) {
-    const BaseAEcrire base;
-    Ouvre();
-    TapeCle("Combo1", "Mien 27,5", Qt::Key_Tab);
-    const Saisies valeurs{
-        {"Text6", "27.5"}, {"Text7", "16"}, {"Text8", "7800"}, {"Text9", "10400"}, {"Text10", "7000"}};
-    Tape(valeurs);
-    Clique("GardeGalet");
-    EXPECT_TRUE(dialogues.boites.empty()) << DerniereBoite();
-    Ouvre();
-    Deroule("Combo1", "Mien 27,5");
-    for (const auto& [champ, texte] : valeurs) EXPECT_EQ(TexteDe(champ), texte) << champ;
 }
 
 TEST_F(ConjugateScreen, ReturnWalksTheFields) {

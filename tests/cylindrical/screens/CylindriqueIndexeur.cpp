@@ -1,7 +1,7 @@
 #include "cylindrical/screens/CylindriqueIndexeur.h"
 
 #include "cylindrical/TextesIndexeurCyl.h"
-#include "outils/BaseAEcrire.h"
+#include "outils/DossierTemporaire.h"
 #include "outils/EcranDeCalculateur.h"
 #include "outils/ImprimanteNotee.h"
 #include "widgets/Grille.h"
@@ -86,25 +86,6 @@ TEST_F(DrumScreen, ALawFileIsAskedForAndBringsItsAngle) {
     EXPECT_EQ(TexteDe("Text7"), "2");
 }
 
-TEST_F(DrumScreen, FilesHoldTheTextsAsTyped) {
-    TapeExemple();
-    Tape({{"Text12", "047.50"}});
-    Clique("Calculer");
-    DossierTemporaire dossier;
-    dialogues.fichiers = {dossier / "came.Tam"};
-    Clique("Sauvegarde");
-    const std::string tam = LitBrut(dossier / "came.Tam");
-    EXPECT_NE(tam.find("Capacité maxi d'arbre d'entrée  : 047.50\r\n"), std::string::npos) << tam;
-    EXPECT_NE(tam.find("Coefficient de symétrie : .5\r\nType de came : à droite\r\n"), std::string::npos) << tam;
-    Clique("Check2");
-    Clique("Check3");
-    EXPECT_TRUE(Offert()) << "what is written is no input";
-    dialogues.fichiers = {dossier / "came.Tam", dossier / "came.Pnt", dossier / "came.Scr"};
-    Clique("Sauvegarde");
-    EXPECT_NE(LitBrut(dossier / "came.Pnt").find("\r\n150;"), std::string::npos);
-    EXPECT_TRUE(LitBrut(dossier / "came.Scr").starts_with("LIGNE 0,0 361."));
-}
-
 TEST_F(DrumScreen, ThePagesAreAskedForAndPrinted) {
     TapeExemple();
     Clique("Calculer");
@@ -124,23 +105,6 @@ TEST_F(DrumScreen, ThePagesAreAskedForAndPrinted) {
     EXPECT_EQ(page[7].find("     0                   " + Cellule(0, 1)), 0U);
     EXPECT_EQ(suite[7].find("     95 "), 0U);
     EXPECT_EQ(suite[7 + 55].find("     150 "), 0U) << "the rows of the motion only";
-}
-
-TEST_F(DrumScreen, ACasingIsKept) {
-    const BaseAEcrire base;
-    Ouvre();
-    TapeExemple();
-    Clique("GardeModele");
-    EXPECT_EQ(DerniereBoite(), Texte(550));
-    TapeCle("DerouleModeles", "Essai 7", Qt::Key_Tab);
-    Tape({{"Text2", "101.5"}});
-    Clique("GardeModele");
-    const auto ligne = ChercheLigne(CatalogueMecanismesCylindriques(), "Essai 7");
-    ASSERT_TRUE(ligne);
-    EXPECT_EQ(ligne->at("Entraxe"), 96.6);
-    EXPECT_EQ(ligne->at("RayonTourelle"), 101.5);
-    EXPECT_EQ(ligne->at("CameDiam"), 115);
-    EXPECT_EQ(ligne->at("Boitier"), 4) << "that of the casing chosen before";
 }
 
 TEST_F(DrumScreen, KeysWalkTheFields) {

@@ -83,19 +83,6 @@ TEST_F(EcranPersona, ItOpensOnNoLanguageAndTheDeliveredOnesAreReadOnly) {
     }
 }
 
-TEST_F(EcranPersona, ABadNameIsToldAndNothingIsLost) {
-    for (const char* faux : {"it\"aliano", "ENGLISH"}) {
-        FrappeDans(*ecran, "Text3", faux);
-        Retour(*ecran);
-        EXPECT_EQ(DerniereBoite(), *FauteNomLangue(Disque(), faux)) << faux;
-        EXPECT_EQ(Nom(), faux) << "still there";
-        EXPECT_TRUE(AFocus("Text3"));
-    }
-    Clique("Retour");
-    EXPECT_TRUE(dialogues.demandes.empty());
-    EXPECT_EQ(Disque().NombreChamps(), 5);
-}
-
 TEST_F(EcranPersona, ATextIsStoredInItsRow) {
     Cree("Italiano");
     Choisit("Italiano");

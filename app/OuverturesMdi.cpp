@@ -46,7 +46,7 @@ void MdiCamA::OuvreParType(const TypeEtude* type) {
     if (type) demande.titre += " " + Texte(type->titre);
     const auto chemin = LesDialogues().FichierAOuvrir(demande);
     // Whoever cancels finds his screens and his study as they were.
-    if (chemin && !chemin->empty()) OuvreFichier(*chemin);
+    if (chemin && !chemin->empty()) OuvreAutre(*chemin);
 }
 
 void MdiCamA::OuvreAutre(const std::filesystem::path& chemin) {

@@ -18,7 +18,9 @@ protected:
 TEST_F(InertiesAuBureau, TheListOutlivesStudiesAndIsSavedWhileItIsInFront) {
     Ouvre("Exemple.Ang");
     EXPECT_FALSE(Action("FichierReprendre").isEnabled()) << "a list that was only opened is no lost work";
-    Lance("Inerties");
+    dialogues_.fichiers = {Exemple("Plateau.Ine")};
+    Lance("FichierOuvrir");
+    EXPECT_TRUE(Ouvert("Resultat")) << "the study stays beside the list";
     EXPECT_TRUE(Calculateur().EnAvant());
     dialogues_.fichiers = {dossier_ / "copie.Ine"};
     Lance("FichierSauvegarde");
